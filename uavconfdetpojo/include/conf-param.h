@@ -1,0 +1,17 @@
+#pragma once
+
+#include "conf-param-type.h"
+#include "fields.h"
+
+#include <string>
+
+/// A parameter of an EW output. The limits are data for whoever edits a value; nothing here applies them.
+#define CONF_PARAM_FIELDS(FIELD)         \
+    FIELD(std::string, name, Name)       \
+    FIELD(std::string, descRu, DescRu)   \
+    FIELD(ConfParamTypeEnum, type, Type) \
+    FIELD(double, numMin, NumMin)        \
+    FIELD(double, numMax, NumMax)        \
+    FIELD(std::string, strRegex, StrRegex)
+
+NESTED_VALUE(ConfParam, m_confParam, CONF_PARAM_FIELDS)

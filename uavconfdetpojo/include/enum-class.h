@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <vector>
+
+/// Names the class that wraps an enumeration; every enumeration of the protocol specialises it once.
+template <typename Enum>
+struct EnumClassOf;
+
+/// What all enumerations of the protocol have in common. A class is its table: the enumerator is the index
+/// of its record in `Table`, and the record's `strValue` is the name on the wire. The tables are filled
+/// before `main` and never change, so every thread may read them.
+template <typename Enum, const auto &Table>
+class EnumClass {
+public:
+    static constexpr int length = std::tuple_size_v<std::decay_t<decltype(Table)>>;
+
+    EnumClass(Enum enumerator)
+        : value(enumerator) {}
+
+    Enum getValue() const { return value; }
+    void setValue(Enum enumerator) { value = enumerator; }
+    int ordinal() const { return static_cast<int>(value); }
+
+    /// The name on the wire; the exact inverse of `getEnumValue`.
+    std::string name() const { return record().strValue; }
+
+    static int getLength() { return length; }
+
+    /// All enumerators in order.
+    static std::vector<Enum> values() {
+        std::vector<Enum> all;
+        for (int i = 0; i < length; ++i)
+            all.push_back(static_cast<Enum>(i));
+        return all;
+    }
+
+    /// The enumerator with exactly this wire name (case matters), or nothing.
+    static std::optional<Enum> getEnumValue(const std::string &text) {
+        for (int i = 0; i < length; ++i) {
+            if (Table[static_cast<std::size_t>(i)].strValue == text)
+                return static_cast<Enum>(i);
+        }
+        return std::nullopt;
+    }
+
+protected:
+    /// Raises std::out_of_range for a value that is no enumerator.
+    const auto &record() const { return Table.at(static_cast<std::size_t>(value)); }
+
+private:
+    Enum value;
+};

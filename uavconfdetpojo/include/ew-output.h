@@ -1,0 +1,19 @@
+#pragma once
+
+#include "conf-param.h"
+#include "fields.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/// An EW output and the parameters that it takes.
+///
+/// - `id`: the number by which rules, states and switching name it
+#define EW_OUTPUT_FIELDS(FIELD)        \
+    FIELD(int, id, Id)                 \
+    FIELD(std::string, desc, Desc)     \
+    FIELD(std::string, descRu, DescRu) \
+    FIELD(std::vector<std::shared_ptr<ConfParam>>, params, Params)
+
+NESTED_VALUE(EwOutput, m_ewOutput, EW_OUTPUT_FIELDS)

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "msg/msg.h"
+
+/// Turns the AI on or off for a frequency range.
+///
+/// - `freqMin`: in MHz
+/// - `freqMax`: in MHz
+#define AI_MODE_MSG_FIELDS(FIELD)  \
+    FIELD(bool, ai_mode, Ai_mode)  \
+    FIELD(float, freqMin, FreqMin) \
+    FIELD(float, freqMax, FreqMax)
+
+MESSAGE(AiModeMsg, m_aiModeMsg, AI_MODE, AI_MODE_MSG_FIELDS)

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "msg/msg.h"
+
+/// Switches the device off.
+MESSAGE(ShutdownMsg, m_shutdownMsg, SHUTDOWN, NO_FIELDS)

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "msg/msg.h"
+
+#include <string>
+
+/// Opens the loading of a firmware image.
+///
+/// - `md5File`: MD5 digest of the image, as text
+#define START_FLASHING_FIELDS(FIELD) FIELD(std::string, md5File, Md5File)
+
+MESSAGE(StartFlashing, m_startFlashing, START_FLASHING, START_FLASHING_FIELDS)

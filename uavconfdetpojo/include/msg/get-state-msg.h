@@ -1,0 +1,6 @@
+#pragma once
+
+#include "msg/msg.h"
+
+/// Asks for STATE.
+MESSAGE(GetStateMsg, m_getStateMsg, GET_STATE, NO_FIELDS)

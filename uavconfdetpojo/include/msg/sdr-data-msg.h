@@ -1,0 +1,14 @@
+#pragma once
+
+#include "msg/msg.h"
+
+#include <vector>
+
+/// Raw data at one frequency.
+///
+/// - `freqMHz`: in MHz
+#define SDR_DATA_MSG_FIELDS(FIELD) \
+    FIELD(float, freqMHz, FreqMHz) \
+    FIELD(std::vector<int>, data, Data)
+
+MESSAGE(SdrDataMsg, m_sdrDataMsg, SDR_DATA, SDR_DATA_MSG_FIELDS)

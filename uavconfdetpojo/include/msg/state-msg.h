@@ -1,0 +1,23 @@
+#pragma once
+
+#include "master-freq-mode.h"
+#include "msg/msg.h"
+#include "state-range.h"
+
+#include <map>
+#include <memory>
+
+using StateRanges = std::map<MasterFreqModeEnum, std::shared_ptr<StateRange>>;
+
+/// Battery and boot state; the proof that a device is there.
+///
+/// - `battLvl`: battery charge in percent
+/// - `battVoltage`: battery voltage in volts
+/// - `bootload`: the device runs its boot loader
+#define STATE_MSG_FIELDS(FIELD)            \
+    FIELD(int, battLvl, BattLvl)           \
+    FIELD(float, battVoltage, BattVoltage) \
+    FIELD(bool, bootload, Bootload)        \
+    FIELD(StateRanges, stateRanges, StateRanges)
+
+MESSAGE(StateMsg, m_stateMsg, STATE, STATE_MSG_FIELDS)

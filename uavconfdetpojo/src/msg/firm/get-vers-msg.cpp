@@ -1,0 +1,5 @@
+#include "msg/firm/get-vers-msg.h"
+
+#include "define-fields.h"
+
+DEFINE_MESSAGE(GetVersMsg, NO_FIELDS)

@@ -1,0 +1,5 @@
+#include "msg/get-bluetooth-mac-msg.h"
+
+#include "define-fields.h"
+
+DEFINE_MESSAGE(GetBluetoothMacMsg, NO_FIELDS)

@@ -1,0 +1,5 @@
+#include "msg/mask-result-msg.h"
+
+#include "define-fields.h"
+
+DEFINE_MESSAGE(MaskResultMsg, MASK_RESULT_MSG_FIELDS)

@@ -1,0 +1,5 @@
+#include "msg/ok-msg.h"
+
+#include "define-fields.h"
+
+DEFINE_MESSAGE(OkMsg, OK_MSG_FIELDS)

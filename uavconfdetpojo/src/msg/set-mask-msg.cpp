@@ -1,0 +1,5 @@
+#include "msg/set-mask-msg.h"
+
+#include "define-fields.h"
+
+DEFINE_MESSAGE(SetMaskMsg, NO_FIELDS)

@@ -1,0 +1,5 @@
+#include "state-range.h"
+
+#include "define-fields.h"
+
+DEFINE_NESTED_VALUE(StateRange, STATE_RANGE_FIELDS)
