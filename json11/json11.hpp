@@ -1,0 +1,103 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace json11 {
+
+enum JsonParse { STANDARD, COMMENTS };
+
+/// An immutable JSON value with the interface of json11. Copies share their content and may be read from
+/// several threads. A getter of another type than the value's own gives that type's empty value.
+class Json final {
+public:
+    enum Type { NUL, NUMBER, BOOL, STRING, ARRAY, OBJECT };
+    using array = std::vector<Json>;
+    using object = std::map<std::string, Json>;
+
+    Json() noexcept = default;
+    Json(std::nullptr_t) noexcept {}
+    Json(double value)
+        : content(value) {}
+    Json(int value)
+        : content(value) {}
+    Json(bool value)
+        : content(value) {}
+    Json(std::string value);
+    Json(const char *value);
+    Json(array values);
+    Json(object values);
+    Json(void *) = delete; // a pointer would otherwise read as a bool
+
+    /// From a class with a `to_json()`.
+    template <class T, class = decltype(&T::to_json)>
+    Json(const T &t)
+        : Json(t.to_json()) {}
+
+    /// From any map whose keys make strings and whose values make JSON.
+    template <class M, std::enable_if_t<
+                           std::is_constructible_v<std::string, decltype(std::declval<M>().begin()->first)> &&
+                               std::is_constructible_v<Json, decltype(std::declval<M>().begin()->second)>,
+                           int> = 0>
+    Json(const M &m)
+        : Json(object(m.begin(), m.end())) {}
+
+    /// From any sequence whose elements make JSON.
+    template <class V,
+              std::enable_if_t<std::is_constructible_v<Json, decltype(*std::declval<V>().begin())>, int> = 0>
+    Json(const V &v)
+        : Json(array(v.begin(), v.end())) {}
+
+    Type type() const;
+    bool is_null() const { return type() == NUL; }
+    bool is_number() const { return type() == NUMBER; }
+    bool is_bool() const { return type() == BOOL; }
+    bool is_string() const { return type() == STRING; }
+    bool is_array() const { return type() == ARRAY; }
+    bool is_object() const { return type() == OBJECT; }
+
+    /// 0 for a value that is no number.
+    double number_value() const;
+    /// Cut towards zero; a value beyond the range of int gives the nearest end of it, NaN gives 0.
+    int int_value() const;
+    bool bool_value() const;
+    const std::string &string_value() const;
+    const array &array_items() const;
+    const object &object_items() const;
+    /// Null where there is no such element.
+    const Json &operator[](std::size_t i) const;
+    const Json &operator[](const std::string &key) const;
+
+    /// Keys in byte order, one blank behind each colon and comma, numbers as by "%.17g" with a decimal point
+    /// in every locale, null for a number that is not finite.
+    void dump(std::string &out) const;
+    std::string dump() const;
+
+    /// One JSON value and nothing behind it, nested at most 200 deep. Bytes of strings are kept as they come;
+    /// of equal keys the last one counts. On failure the result is null and `err` tells why; otherwise `err`
+    /// stays.
+    static Json parse(const std::string &in, std::string &err, JsonParse strategy = JsonParse::STANDARD);
+    static Json parse(const char *in, std::string &err, JsonParse strategy = JsonParse::STANDARD);
+
+    /// Numbers compare by value, whether they are held as int or double; other values by type, then by
+    /// content.
+    bool operator==(const Json &other) const;
+    bool operator<(const Json &other) const;
+    bool operator!=(const Json &other) const { return !(*this == other); }
+    bool operator<=(const Json &other) const { return !(other < *this); }
+    bool operator>(const Json &other) const { return other < *this; }
+    bool operator>=(const Json &other) const { return !(*this < other); }
+
+private:
+    std::variant<std::nullptr_t, int, double, bool, std::shared_ptr<const std::string>,
+                 std::shared_ptr<const array>, std::shared_ptr<const object>>
+        content;
+};
+
+} // namespace json11
