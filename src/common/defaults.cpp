@@ -1,0 +1,63 @@
+#include "defaults.h"
+
+namespace {
+
+std::vector<FreqModeEnum> defaultRanges(ProtoEnum proto) {
+    using FM = FreqModeEnum;
+    switch (proto) {
+    case ProtoEnum::K1:
+    case ProtoEnum::K6:
+        return {FM::EXT_2400, FM::EXT_4900, FM::EXT_5800};
+    case ProtoEnum::K7:
+    case ProtoEnum::K7EW:
+        return {FM::STD_1200, FM::EXT_2400, FM::EXT_4900, FM::EXT_5800};
+    }
+    return {};
+}
+
+} // namespace
+
+std::shared_ptr<ConfigMsg> Defaults::getDefaultConfigMsg(ProtoEnum proto) {
+    return std::make_shared<ConfigMsg>(ConfigMsgBuilder()
+                                           .proto(proto)
+                                           .indLed(true)
+                                           .indSnd(true)
+                                           .indVibro(false)
+                                           .indLedLvl(50)
+                                           .indSndLvl(100)
+                                           .mode(DetModeEnum::BASE)
+                                           .wifiDet(false)
+                                           .uavDet(true)
+                                           .ranges(defaultRanges(proto))
+                                           .atten(0)
+                                           .build());
+}
+
+std::shared_ptr<AiPriorMsg> Defaults::getDefaultAiPriorMsg() {
+    return std::make_shared<AiPriorMsg>(AiPriorMsgBuilder().aiPrior(AiPriorEnum::DEFAULT).build());
+}
+
+std::shared_ptr<ConfigK7Msg> Defaults::getDefaultConfigK7Msg() {
+    return std::make_shared<ConfigK7Msg>(ConfigK7MsgBuilder()
+                                             .voiceEn(true)
+                                             .dispLvl(50)
+                                             .dispOffTime(30)
+                                             .indHeadLvl(25)
+                                             .indHeadMode(HeadModeEnum::SOUND)
+                                             .btEn(false)
+                                             .btPowerDbm(0)
+                                             .voiceDbLvl(-97)
+                                             .build());
+}
+
+std::vector<std::shared_ptr<Msg>> Defaults::getDefaults(ProtoEnum proto) {
+    std::vector<std::shared_ptr<Msg>> messages;
+    const auto has = [proto](MsgTypeEnum type) { return proto >= MsgType(type).getSinceProto(); };
+    if (has(MsgTypeEnum::CONFIG))
+        messages.push_back(getDefaultConfigMsg(proto));
+    if (has(MsgTypeEnum::CONFIG_K7))
+        messages.push_back(getDefaultConfigK7Msg());
+    if (has(MsgTypeEnum::AI_PRIOR))
+        messages.push_back(getDefaultAiPriorMsg());
+    return messages;
+}

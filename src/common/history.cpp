@@ -1,0 +1,58 @@
+#include "history.h"
+
+#include "log.h"
+#include "uptime.h"
+
+#include <string>
+#include <utility>
+
+History::History(int maxRows)
+    : History(MasterFreqModeEnum{}, maxRows) {}
+
+History::History(MasterFreqModeEnum band, int maxRows)
+    : historyLen(maxRows)
+    , masterMode(band) {}
+
+void History::setHistoryLen(int newLen) {
+    historyLen = newLen;
+    trimToHistoryLen();
+}
+
+void History::acceptScan(Scan mmResult) {
+    freqScanResults = std::move(mmResult);
+    correctionHistoryFreqs(freqScanResults);
+    addToHistoryLevels(freqScanResults);
+}
+
+void History::correctionHistoryFreqs(const Scan &mmResult) {
+    if (mmResult.size() == historyFreqs.size())
+        return;
+    historyFreqs.clear();
+    historyFreqs.reserve(mmResult.size());
+    for (const auto &result : mmResult)
+        historyFreqs.push_back(result->getFreqMHz());
+    historyLevels.clear();
+}
+
+void History::addToHistoryLevels(const Scan &mmResult) {
+    const std::int64_t now = Uptime::getMs();
+    if (historyFreqs.size() != mmResult.size()) {
+        Log::info("History", "Skip add to history! mmResult.size():" + std::to_string(mmResult.size()) +
+                                 " historyFreqs.length:" + std::to_string(historyFreqs.size()));
+        return;
+    }
+    auto &row = historyLevels.emplace_back();
+    row.reserve(mmResult.size());
+    for (const auto &result : mmResult)
+        row.push_back({now, result->getRssi(), result->getType()});
+    trimToHistoryLen();
+}
+
+void History::trimToHistoryLen() {
+    // A negative length becomes a huge size here, which never trims.
+    const auto maxRows = static_cast<std::uint64_t>(historyLen);
+    const std::uint64_t rows = historyLevels.size();
+    if (rows > maxRows)
+        historyLevels.erase(historyLevels.begin(),
+                            historyLevels.begin() + static_cast<std::ptrdiff_t>(rows - maxRows));
+}

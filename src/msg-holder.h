@@ -1,0 +1,31 @@
+#pragma once
+
+#include "msg/msg.h"
+
+#include <QMetaType>
+#include <memory>
+#include <utility>
+
+/// Carries a message through Qt signals and the declarative layer. Copies share the message.
+class MsgHolder {
+public:
+    MsgHolder() = default;
+    explicit MsgHolder(std::shared_ptr<Msg> message)
+        : msg(std::move(message)) {}
+
+    void setMsg(std::shared_ptr<Msg> message) { msg = std::move(message); }
+    std::shared_ptr<Msg> getMsg() const { return msg; }
+
+    /// The held message as `Message`, the class of `type`; null if nothing or another type is held.
+    template <typename Message>
+    std::shared_ptr<Message> getAs(MsgTypeEnum type) const {
+        if (!msg || msg->getType() != type)
+            return nullptr;
+        return std::static_pointer_cast<Message>(msg);
+    }
+
+private:
+    std::shared_ptr<Msg> msg;
+};
+
+Q_DECLARE_METATYPE(MsgHolder)
