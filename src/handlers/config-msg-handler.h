@@ -1,0 +1,78 @@
+#pragma once
+
+#include "common/sens-level.h"
+#include "handlers/mirrored-property.h"
+#include "msg-holder.h"
+#include "msg/config-msg.h"
+
+#include <QObject>
+#include <memory>
+
+/// The fields of CONFIG. Those under OWN have a setter that does more than store.
+#define CONFIG_PROPERTIES(PLAIN, OWN)    \
+    PLAIN(int, proto, Proto)             \
+    PLAIN(bool, indLed, IndLed)          \
+    PLAIN(bool, indSnd, IndSnd)          \
+    PLAIN(bool, indVibro, IndVibro)      \
+    PLAIN(int, indLedLvl, IndLedLvl)     \
+    PLAIN(int, indSndLvl, IndSndLvl)     \
+    OWN(int, mode, Mode)                 \
+    PLAIN(int, wifiDet, WifiDet)         \
+    PLAIN(int, uavDet, UavDet)           \
+    OWN(QList<int>, ranges, Ranges)      \
+    PLAIN(QString, hwVers, HwVers)       \
+    PLAIN(QString, fwVers, FwVers)       \
+    PLAIN(QString, bootVers, BootVers)   \
+    PLAIN(QString, md5Serial, Md5Serial) \
+    OWN(int, atten, Atten)
+
+/// Mirrors the device's CONFIG for the screens and sends the user's edits. Enumerators are ints here.
+///
+/// Receiving never causes sending: `accept` and the setters do not emit `changed`, and only `changed`, which
+/// stands for a gesture of the user, leads to `gotMsg`. Plain setters emit nothing. Lives on the UI thread.
+class ConfigMsgHandler : public QObject {
+    Q_OBJECT
+    CONFIG_PROPERTIES(MIRRORED_PROPERTY, MIRRORED_PROPERTY)
+    Q_PROPERTY(QString stringMode READ stringMode NOTIFY stringModeChanged)
+    Q_PROPERTY(QString sens READ getSens NOTIFY sensChanged)
+    Q_PROPERTY(QString enumMode READ enumMode NOTIFY stringModeChanged)
+
+public:
+    explicit ConfigMsgHandler(QObject *parent = nullptr);
+
+    /// Setters raise std::out_of_range for a number that is no enumerator. An empty list of ranges is
+    /// ignored: a device always has one.
+    CONFIG_PROPERTIES(MIRRORED_ACCESSORS, MIRRORED_ACCESSORS)
+
+    /// The display name of the detection mode.
+    QString stringMode() const;
+    /// The name of the sensitivity step.
+    QString getSens() const;
+
+    /// Steps the sensitivity without sending.
+    Q_INVOKABLE void nextSens();
+    /// Sets the detection mode by its wire name and sends; an unknown name does nothing.
+    Q_INVOKABLE void setStringMode(QString mode);
+    /// The wire name of the detection mode.
+    Q_INVOKABLE QString enumMode() const;
+
+public slots:
+    /// Takes over a CONFIG and emits every Notify signal; ignores other messages.
+    void accept(MsgHolder holder);
+
+signals:
+    /// The user has edited something. Nothing is sent before the device has told its ranges.
+    void changed();
+    /// To be sent. The holder shares the live settings.
+    void gotMsg(MsgHolder msg);
+    void accepted();
+    CONFIG_PROPERTIES(MIRRORED_SIGNAL, MIRRORED_SIGNAL)
+    void sensChanged();
+    void stringModeChanged();
+
+private:
+    void commit();
+
+    const std::shared_ptr<ConfigMsg> msg;
+    SensLevelEnum sens = SensLevelEnum::UNKNOWN;
+};
