@@ -1,0 +1,59 @@
+#pragma once
+
+#include "msg-holder.h"
+#include "proto.h"
+
+#include <QObject>
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+/// Holds the user's choice among the AI modes of the device's generation and sends it. It does not follow the
+/// device: what the device says of its mode does not move the choice. Lives on the UI thread.
+///
+/// A generation without AI modes reads as `NONE` and is sent nothing.
+class AiPriorHandler : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString shortName READ shortName NOTIFY aiChanged)
+    Q_PROPERTY(int proto READ getProto WRITE setProto NOTIFY protoChanged)
+    Q_PROPERTY(QString enumAiPrior READ enumAiPrior NOTIFY aiChanged)
+
+public:
+    explicit AiPriorHandler(QObject *parent = nullptr);
+
+    /// The short display name of the chosen mode.
+    QString shortName() const;
+
+    int getProto() const { return static_cast<int>(proto); }
+    /// A generation other than the one in use brings its own modes and chooses the first. Raises
+    /// std::out_of_range for a number that is no generation.
+    void setProto(int value);
+
+    /// Chooses the next mode without sending.
+    Q_INVOKABLE void nextAiPrior();
+    /// Chooses a mode by its wire name and sends. A mode that the generation does not have leaves the choice
+    /// alone, which is sent all the same; an unknown name does nothing.
+    Q_INVOKABLE void setAiPrior(QString aiPrior);
+    /// The wire name of the chosen mode.
+    Q_INVOKABLE QString enumAiPrior() const;
+
+public slots:
+    /// Has the screens read the choice again when the device tells its mode.
+    void accept(MsgHolder holder);
+
+signals:
+    /// The user has chosen.
+    void changed();
+    void gotMsg(MsgHolder msg);
+    void aiChanged();
+    void protoChanged();
+
+private:
+    AiPriorEnum selected() const;
+    void commit();
+
+    ProtoEnum proto = ProtoEnum::K1;
+    std::uint8_t vecPos = 0;
+    /// Until a generation is known there is one entry, so that a first K1 finds it in use and keeps it.
+    std::vector<AiPriorEnum> aiPriros{AiPriorEnum::NONE};
+};
