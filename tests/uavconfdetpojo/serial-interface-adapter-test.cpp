@@ -1,0 +1,200 @@
+#include <stdexcept>
+#include <thread>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "serial-interface-adapter.h"
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+namespace {
+
+const std::string OK = "{\"type\":\"OK\"}", STATE = "{\"type\":\"STATE\"}", FAIL = "{\"type\":\"FAIL\"}";
+
+class Link : public SerialInterfaceAdapter {
+public:
+    Link() { addListener(collector); }
+    std::string getName() override { return "test"; }
+    void serialClose() override {}
+    bool isClosed() override { return false; }
+    void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override { onSend(bytes, timeout); }
+    long long getCurrentTimeMs() override { return nowMs; }
+
+    std::function<void(buffer_t, std::chrono::milliseconds)> onSend = [](auto, auto) {};
+    long long nowMs = 0;
+    std::vector<MsgTypeEnum> received;
+    const std::shared_ptr<MsgListener> collector = std::make_shared<MsgListener>(
+        [this](const std::shared_ptr<Msg> &msg) { received.push_back(msg->getType()); });
+};
+
+/// What the action writes to standard output.
+template <class Action>
+std::string logOf(Action action) {
+    testing::internal::CaptureStdout();
+    action();
+    return testing::internal::GetCapturedStdout();
+}
+
+std::shared_ptr<Msg> request() {
+    return MsgType(MsgTypeEnum::STATE).getRequestMsg();
+}
+
+} // namespace
+
+TEST(SerialInterfaceAdapter, MessagesOfAStreamThatIsCutAnywhere) {
+    const std::string stream = OK + "\n" + STATE + "\n" + FAIL + "\n";
+    const std::size_t okEnd = OK.size(), stateStart = okEnd + 1, stateEnd = stateStart + STATE.size(),
+                      failStart = stateEnd + 1;
+    logOf([&] {
+        for (std::size_t one = 0; one <= stream.size(); ++one) {
+            for (std::size_t two = one; two <= stream.size(); ++two) {
+                const auto cutIn = [&](std::size_t from, std::size_t to) {
+                    return (one >= from && one <= to) || (two >= from && two <= to);
+                };
+                Link link;
+                link.processNewData(stream.substr(0, one));
+                link.processNewData(stream.substr(one, two - one));
+                link.processNewData(stream.substr(two));
+                // The middle one is lost where its text runs into the next: both in one chunk, and something
+                // before it.
+                if (cutIn(okEnd, stateStart) || cutIn(stateEnd, failStart)) {
+                    EXPECT_THAT(link.received,
+                                ElementsAre(MsgTypeEnum::OK, MsgTypeEnum::STATE, MsgTypeEnum::FAIL))
+                        << one << " " << two;
+                } else {
+                    EXPECT_THAT(link.received, ElementsAre(MsgTypeEnum::OK, MsgTypeEnum::FAIL))
+                        << one << " " << two;
+                }
+            }
+        }
+    });
+}
+
+TEST(SerialInterfaceAdapter, TheBufferStaysAsLongAsAnObjectIsStarted) {
+    Link link;
+    std::string logged;
+    link.setIoLogger(std::make_shared<IoLogger>([&](const std::string &bytes) { logged += bytes + "|"; }));
+    link.processNewData(OK + "\n{");
+    EXPECT_EQ(link.getRecvBuffer(), OK + "\n{");
+    EXPECT_EQ(logOf([&] { link.processNewData("\"type\":\"STATE\"} {"); }),
+              "[RFD24] received unknown msg: " + STATE + " {\n");
+    EXPECT_EQ(link.getRecvBuffer(), OK + "\n" + STATE + " {");
+    EXPECT_EQ(logOf([&] { link.processNewData("} noise }"); }), "[RFD24] received unknown msg: {} noise }\n");
+    EXPECT_EQ(link.getRecvBuffer(), "");
+    link.setIoLogger(nullptr);
+    link.processNewData("noise }" + OK + "\n");
+    EXPECT_THAT(link.received, ElementsAre(MsgTypeEnum::OK, MsgTypeEnum::OK));
+    EXPECT_EQ(logged, OK + "\n{|\"type\":\"STATE\"} {|} noise }|");
+}
+
+TEST(SerialInterfaceAdapter, RecoversWhereNoObjectEndsForTooLong) {
+    Link link;
+    link.nowMs = 100000;
+    link.processNewData("{\n1\n22\n333\n");
+    link.nowMs += 5000;
+    EXPECT_EQ(logOf([&] { link.processNewData("4"); }), "");
+    link.nowMs += 1;
+    EXPECT_EQ(logOf([&] { link.processNewData("5"); }),
+              "[RFD24] recvBuffer: \n[DEBUG] [RFD24] |{\n[DEBUG] [RFD24] |1\n2\n[DEBUG] [RFD24] |\n333\n4\n"
+              "[RFD24] reset recv buffer by LAST_PARSED_TIMEOUT\n[RFD24] reset all recv buffer\n");
+    EXPECT_EQ(link.getRecvBuffer(), "");
+    link.processNewData(OK); // the counter has started anew, too
+    EXPECT_THAT(link.received, ElementsAre(MsgTypeEnum::OK));
+}
+
+TEST(SerialInterfaceAdapter, RecoveryKeepsTheNewestObject) {
+    Link link;
+    link.processNewData("{\"a\":{\"b\":1");
+    link.nowMs += 5001;
+    EXPECT_EQ(logOf([&] { link.processNewData("}\n{\"type\":\"OK"); }),
+              "[RFD24] recvBuffer: \n[DEBUG] [RFD24] |{\"a\":{\"b\":1}\n"
+              "[RFD24] reset recv buffer by LAST_PARSED_TIMEOUT\n"
+              "[RFD24] afterRecvBuffer: \n[DEBUG] [RFD24] |{\"type\":\"OK\n");
+    link.nowMs += 6000; // late, but an end
+    link.processNewData("\"}\n");
+    EXPECT_THAT(link.received, ElementsAre(MsgTypeEnum::OK));
+
+    link.processNewData("{{");
+    link.nowMs += 5001;
+    logOf([&] { link.processNewData("}\n" + STATE); });
+    EXPECT_EQ(link.getRecvBuffer(), STATE);
+    link.processNewData(FAIL);
+    EXPECT_THAT(link.received, ElementsAre(MsgTypeEnum::OK, MsgTypeEnum::FAIL))
+        << "complete in the kept text: gone";
+}
+
+TEST(SerialInterfaceAdapter, TransactionTakesMessagesOfTheExpectedTypesOnly) {
+    Link link;
+    link.onSend = [&](const buffer_t &bytes, std::chrono::milliseconds timeout) {
+        EXPECT_EQ(bytes, "{\n\"type\" : \"GET_STATE\"\n}");
+        EXPECT_EQ(timeout, 60s);
+        link.processNewData(OK);
+        link.processNewData(STATE);
+        link.processNewData(FAIL);
+    };
+    EXPECT_EQ(link.transaction(request(), 60s, {MsgTypeEnum::OK, MsgTypeEnum::STATE})->getType(),
+              MsgTypeEnum::STATE);
+    link.onSend = [&](auto, std::chrono::milliseconds timeout) {
+        link.processNewData(timeout == 2s ? STATE : OK);
+        static const std::runtime_error error("cable");
+        throw static_cast<const std::exception *>(&error);
+    };
+    EXPECT_EQ(logOf([&] { EXPECT_EQ(link.transaction(request(), 1ms, {MsgTypeEnum::STATE}), nullptr); }),
+              "[ERROR] [RFD24] transaction 2 send ERROR: cable\n");
+    EXPECT_THROW(link.send(request()), const std::exception *);
+    link.onSend = [](auto, auto) { throw std::runtime_error("by value"); };
+    EXPECT_THROW(link.transaction(request(), 1ms, MsgType::values()), std::runtime_error);
+    link.processNewData(STATE); // reaches no listener of the transactions that are over
+    EXPECT_EQ(link.received.size(), 6u);
+}
+
+TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
+    struct Errors : OnErrorListener {
+        void onError(const std::exception *error) override { texts.push_back(error->what()); }
+        std::vector<std::string> texts;
+    };
+    Link link;
+    const std::runtime_error error("broken");
+    const auto thrower =
+        std::make_shared<MsgListener>([&](auto) { throw static_cast<const std::exception *>(&error); });
+    link.addListener(thrower);
+    link.removeListener(link.collector);
+    link.addListener(link.collector);
+    EXPECT_EQ(logOf([&] { link.processNewData(OK); }), "[ERROR] [RFD24] listener error: broken\n");
+    EXPECT_THAT(link.received, ElementsAre(MsgTypeEnum::OK));
+
+    const auto errors = std::make_shared<Errors>();
+    std::string logged;
+    link.addOnErrorListener(errors);
+    link.processNewData("\"{");
+    link.setIoLogger(std::make_shared<IoLogger>([&](const std::string &text) { logged = text; }));
+    link.fireError(&error);
+    link.removeOnErrorListener(errors);
+    link.fireError(&error);
+    EXPECT_THAT(errors->texts, ElementsAre("broken"));
+    EXPECT_EQ(logged, "<<<error: broken>>>\n");
+    EXPECT_EQ(link.getRecvBuffer(), "");
+}
+
+TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
+    Link link;
+    std::atomic<bool> done{false};
+    std::atomic<int> requests{0};
+    link.onSend = [&](auto, auto) { ++requests; };
+    std::thread reader([&] {
+        for (int answered = 0; !done;) {
+            link.processNewData(FAIL + "\n{\"type\":");
+            link.processNewData(answered < requests ? ++answered, "\"STATE\"}\n" : "\"OK\"}\n");
+        }
+    });
+    for (int i = 0; i < 200; ++i) {
+        const auto reply = link.transaction(request(), 60s, {MsgTypeEnum::STATE});
+        EXPECT_TRUE(reply && reply->getType() == MsgTypeEnum::STATE);
+        link.setIoLogger(std::make_shared<IoLogger>([&](auto) {}));
+        link.getRecvBuffer();
+    }
+    done = true;
+    reader.join();
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "char-buffer.h"
+
+#include <utility>
+#include <vector>
+
+/// Finds the JSON objects of a byte stream by counting braces outside of strings. Positions count the bytes
+/// since the last reset. A backslash has no meaning: the devices send no escaped quotes.
+class JsonBraceCounter {
+public:
+    /// The objects that end in these bytes, in order: positions of their first and last brace.
+    std::vector<std::pair<int, int>> write(const buffer_t &bytes);
+    /// Tells that the first `n` bytes were taken away.
+    void removeStartBytes(int n);
+    /// Tells that all bytes to the end of the last of these objects were taken away.
+    void removeByResult(const std::vector<std::pair<int, int>> &result);
+    void reset();
+
+private:
+    int currentBraceCount = 0;
+    bool currentQuote = false;
+    int start = -1; // of the open object; -1: none is open
+    int count = 0;
+};

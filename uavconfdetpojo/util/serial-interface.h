@@ -1,0 +1,47 @@
+#pragma once
+
+#include "char-buffer.h"
+#include "msg/msg.h"
+
+#include <chrono>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+using MsgListener = std::function<void(std::shared_ptr<Msg>)>;
+using IoLogger = std::function<void(std::string)>;
+
+/// Hears of errors that a link does not get over by itself.
+class OnErrorListener {
+public:
+    virtual ~OnErrorListener() = default;
+    virtual void onError(const std::exception *error) = 0;
+};
+
+/// A link that carries messages to and from one device.
+class SerialInterface {
+public:
+    virtual ~SerialInterface() = default;
+    virtual std::string getName() = 0;
+    /// Sends a request and blocks for the first message of an expected type, whatever request made the device
+    /// send it; null after the time-out. Not to be called from a listener, which would hold up the reply.
+    virtual std::shared_ptr<Msg> transaction(std::shared_ptr<Msg> msg, std::chrono::milliseconds timeout,
+                                             std::vector<MsgTypeEnum> expected) = 0;
+    virtual void send(std::shared_ptr<Msg> msg, std::chrono::milliseconds timeout) = 0;
+    virtual void send(std::shared_ptr<Msg> msg) = 0;
+    virtual void serialClose() = 0;
+    virtual bool isClosed() = 0;
+    /// The bytes received that are not done with yet.
+    virtual buffer_t getRecvBuffer() = 0;
+    /// Gets all bytes as they are received; a null pointer ends the logging.
+    virtual void setIoLogger(std::shared_ptr<IoLogger> logger) = 0;
+    /// Listeners run on the thread that reads the link, in the order of adding, and must not block it for
+    /// long.
+    virtual void addListener(std::shared_ptr<MsgListener> listener) = 0;
+    /// Once this has returned, the listener does not run on another thread and will not run again.
+    virtual void removeListener(std::shared_ptr<MsgListener> listener) = 0;
+    virtual void addOnErrorListener(std::shared_ptr<OnErrorListener> listener) = 0;
+    virtual void removeOnErrorListener(std::shared_ptr<OnErrorListener> listener) = 0;
+};
