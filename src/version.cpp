@@ -1,0 +1,5 @@
+#include "version.h"
+
+std::string version::getVersion() {
+    return "1.1";
+}
