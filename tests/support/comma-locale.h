@@ -5,12 +5,13 @@
 
 #include <gtest/gtest.h>
 
-/// Runs the process under a locale that writes a decimal comma, as long as it lives.
+/// Runs the process under a locale that writes a decimal comma, as long as it lives. There are two:
+/// de_DE.UTF-8 and ru_RU.UTF-8, which also groups digits by a blank of several bytes.
 class CommaLocale {
 public:
-    CommaLocale() {
+    explicit CommaLocale(const char *name = "de_DE.UTF-8") {
         setenv("LOCPATH", TEST_LOCALE_DIR, 1);
-        EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
+        EXPECT_NE(std::setlocale(LC_ALL, name), nullptr);
         EXPECT_STREQ(std::localeconv()->decimal_point, ",");
     }
     ~CommaLocale() { std::setlocale(LC_ALL, "C"); }
