@@ -1,87 +1,60 @@
 #include "handlers/ai-prior-handler.h"
 
-#include "msg/ai-prior-msg.h"
+#include "messages.h"
 #include "signal-recorder.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-namespace {
+enum { K1, K6, K7 }; // the generations as the screens write them
 
 class AiPriorHandlerTest : public testing::Test {
 protected:
-    AiPriorHandlerTest() {
-        QObject::connect(&handler, &AiPriorHandler::gotMsg, [this](const MsgHolder &holder) {
-            sent.push_back(holder.getAs<AiPriorMsg>(MsgTypeEnum::AI_PRIOR)->getAiPrior());
-        });
-    }
-
     AiPriorHandler handler;
     SignalRecorder recorder{&handler};
-    std::vector<AiPriorEnum> sent;
+    SentTexts sent{handler};
 };
 
-} // namespace
-
-TEST_F(AiPriorHandlerTest, HasNoneUntilAGenerationWithModesIsKnown) {
-    handler.setProto(static_cast<int>(ProtoEnum::K1));
-    EXPECT_THAT(recorder.take(), IsEmpty()) << "the first K1 is the generation in use";
+TEST_F(AiPriorHandlerTest, SendsNoneUntilAGenerationWithModesIsKnown) {
+    handler.setProto(K1);
+    EXPECT_EQ(recorder.take(), "");
     handler.nextAiPrior();
-    EXPECT_EQ(handler.enumAiPrior(), "NONE");
-    EXPECT_EQ(handler.shortName(), "Нет");
+    EXPECT_EQ(handler.property("enumAiPrior"), "NONE");
+    EXPECT_EQ(handler.property("shortName"), "Нет");
     emit handler.changed();
-    EXPECT_THAT(sent, ElementsAre(AiPriorEnum::NONE));
+    EXPECT_EQ(sent.back(), "{\n\"aiPrior\" : \"NONE\",\n\"type\" : \"AI_PRIOR\"\n}");
+
+    handler.setProto(K6);
+    handler.setProto(K1);
+    handler.nextAiPrior();
+    handler.setAiPrior("FIELD");
+    EXPECT_EQ(handler.enumAiPrior(), "NONE") << "a generation without modes behind one that has them";
+    EXPECT_EQ(handler.shortName(), "Нет");
+    EXPECT_EQ(sent.size(), 1u);
 }
 
-TEST_F(AiPriorHandlerTest, ANewGenerationChoosesItsFirstMode) {
-    handler.setProto(static_cast<int>(ProtoEnum::K6));
-    EXPECT_EQ(handler.property("enumAiPrior"), "DEFAULT");
-    EXPECT_EQ(handler.property("shortName"), "Оптим");
-    handler.nextAiPrior();
-    EXPECT_THAT(recorder.take(), ElementsAre("aiChanged", "aiChanged"));
-    handler.setProto(static_cast<int>(ProtoEnum::K6));
-    EXPECT_EQ(handler.enumAiPrior(), "FIELD") << "the same generation keeps the choice";
-    handler.nextAiPrior();
-    handler.nextAiPrior();
-    EXPECT_EQ(handler.enumAiPrior(), "DEFAULT");
-    handler.nextAiPrior();
-    handler.setProto(static_cast<int>(ProtoEnum::K7));
-    EXPECT_EQ(handler.enumAiPrior(), "DEFAULT");
+TEST_F(AiPriorHandlerTest, ChoosesTheFirstModeOfANewGeneration) {
+    for (const int proto : {K6, K7}) {
+        handler.setProto(proto);
+        EXPECT_EQ(recorder.take(), "aiChanged");
+        for (const char *mode : {"DEFAULT", "FIELD", "CITY", "DEFAULT", "FIELD"}) {
+            EXPECT_EQ(handler.enumAiPrior(), mode);
+            handler.setProto(proto);
+            handler.accept(held(R"({"type":"AI_PRIOR","aiPrior":"CITY"})"));
+            EXPECT_EQ(handler.enumAiPrior(), mode) << "neither the same generation nor the device moves it";
+            handler.nextAiPrior();
+            EXPECT_EQ(recorder.take(), "aiChanged aiChanged");
+        }
+    }
+    handler.accept(MsgHolder());
+    EXPECT_EQ(recorder.take(), "");
     EXPECT_THROW(handler.setProto(4), std::out_of_range);
-    EXPECT_EQ(handler.getProto(), static_cast<int>(ProtoEnum::K7));
+    EXPECT_EQ(handler.getProto(), K7);
 }
 
 TEST_F(AiPriorHandlerTest, SendsAModeChosenByName) {
-    handler.setProto(static_cast<int>(ProtoEnum::K7));
-    recorder.take();
-    handler.setAiPrior("CITY");
-    EXPECT_THAT(recorder.take(), ElementsAre("aiChanged", "gotMsg", "changed"));
-    handler.setAiPrior("AUTO");
-    EXPECT_THAT(sent, ElementsAre(AiPriorEnum::CITY, AiPriorEnum::CITY)) << "a mode it does not have";
-    recorder.take();
-    handler.setAiPrior("city");
-    EXPECT_THAT(recorder.take(), IsEmpty());
-}
-
-TEST_F(AiPriorHandlerTest, DoesNotFollowTheDevice) {
-    handler.setProto(static_cast<int>(ProtoEnum::K6));
-    recorder.take();
-    handler.accept(MsgHolder(Msg::parseJson("{\"type\":\"AI_PRIOR\",\"aiPrior\":\"CITY\"}")));
-    EXPECT_THAT(recorder.take(), ElementsAre("aiChanged"));
-    EXPECT_EQ(handler.enumAiPrior(), "DEFAULT");
-    handler.accept(MsgHolder());
-    handler.accept(MsgHolder(Msg::parseJson("{\"type\":\"CONFIG\"}")));
-    EXPECT_THAT(recorder.take(), IsEmpty());
-}
-
-TEST_F(AiPriorHandlerTest, SendsNothingToAGenerationWithoutModes) {
-    handler.setProto(static_cast<int>(ProtoEnum::K6));
-    handler.setProto(static_cast<int>(ProtoEnum::K1));
-    handler.nextAiPrior();
-    handler.setAiPrior("FIELD");
-    EXPECT_EQ(handler.enumAiPrior(), "NONE");
-    EXPECT_EQ(handler.shortName(), "Нет");
-    EXPECT_THAT(sent, IsEmpty());
+    handler.setProto(K7);
+    for (const char *name : {"FIELD", "AUTO", "city"})
+        handler.setAiPrior(name);
+    EXPECT_EQ(recorder.take(), "aiChanged aiChanged gotMsg changed aiChanged gotMsg changed");
+    EXPECT_EQ(handler.enumAiPrior(), "FIELD") << "AUTO is no mode of any generation, city no mode at all";
 }

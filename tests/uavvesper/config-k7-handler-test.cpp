@@ -1,66 +1,34 @@
 #include "handlers/config-k7-handler.h"
 
+#include "messages.h"
 #include "signal-recorder.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-namespace {
-
-const std::string CONFIG_TEXT = R"({
-"voiceEn" : true,
-"dispLvl" : 50,
-"dispOffTime" : 30,
-"indHeadLvl" : 25,
-"indHeadMode" : "EW_CONTROL",
-"btEn" : true,
-"btPowerDbm" : -4,
-"voiceDbLvl" : -94,
-"type" : "CONFIG_K7"
-})";
-
-class ConfigK7HandlerTest : public testing::Test {
-protected:
-    ConfigK7HandlerTest() {
-        QObject::connect(&handler, &ConfigK7Handler::gotMsg, [this](const MsgHolder &holder) {
-            sent.push_back(holder.getAs<ConfigK7Msg>(MsgTypeEnum::CONFIG_K7)->parseMsg());
-        });
-    }
-
+TEST(ConfigK7Handler, MirrorsAConfigAndSendsWhatTheUserEdits) {
+    const std::string config = "{\n\"voiceEn\" : true,\n\"dispLvl\" : 50,\n\"dispOffTime\" : 30,\n"
+                               "\"indHeadLvl\" : 25,\n\"indHeadMode\" : \"OFF\",\n\"btEn\" : true,\n"
+                               "\"btPowerDbm\" : -4,\n\"voiceDbLvl\" : -94,\n\"type\" : \"CONFIG_K7\"\n}";
     ConfigK7Handler handler;
-    SignalRecorder recorder{&handler};
-    std::vector<std::string> sent;
-};
+    SignalRecorder recorder(&handler);
+    SentTexts sent(handler);
+    emit handler.changed();
+    EXPECT_EQ(sent.back(), "{\n\"indHeadLvl\" : 0,\n\"type\" : \"CONFIG_K7\"\n}") << "before a CONFIG_K7";
+    recorder.take();
 
-} // namespace
-
-TEST_F(ConfigK7HandlerTest, MirrorsAConfigAndSendsItBackOnlyWhenEdited) {
-    handler.accept(MsgHolder(Msg::parseJson(CONFIG_TEXT)));
-    EXPECT_THAT(recorder.take(),
-                ElementsAre("voiceEnChanged", "dispLvlChanged", "dispOffTimeChanged", "indHeadLvlChanged",
-                            "indHeadModeChanged", "btEnChanged", "btPowerDbmChanged", "voiceDbLvlChanged"));
-    EXPECT_EQ(handler.property("indHeadMode"), 2);
+    handler.accept(held(config));
+    EXPECT_EQ(recorder.take(), "voiceEnChanged dispLvlChanged dispOffTimeChanged indHeadLvlChanged "
+                               "indHeadModeChanged btEnChanged btPowerDbmChanged voiceDbLvlChanged");
     EXPECT_EQ(handler.property("voiceDbLvl"), -94);
-    EXPECT_EQ(handler.enumMode(), "EW_CONTROL");
+    emit handler.changed();
+    EXPECT_EQ(sent.back(), config);
+    EXPECT_EQ(recorder.take().find("gotMsg voiceEnChanged"), 0u);
+
     handler.accept(MsgHolder());
-    handler.accept(MsgHolder(Msg::parseJson("{\"type\":\"CONFIG\"}")));
-    EXPECT_THAT(recorder.take(), IsEmpty());
-    emit handler.changed();
-    EXPECT_THAT(sent, ElementsAre(CONFIG_TEXT));
-    EXPECT_EQ(recorder.take().at(0), "gotMsg");
-}
-
-TEST_F(ConfigK7HandlerTest, SendsEvenBeforeAConfigHasCome) {
-    emit handler.changed();
-    EXPECT_THAT(sent, ElementsAre("{\n\"indHeadLvl\" : 0,\n\"type\" : \"CONFIG_K7\"\n}"));
-}
-
-TEST_F(ConfigK7HandlerTest, SetsTheHeadsetModeByItsWireName) {
+    handler.accept(held(R"({"type":"CONFIG"})"));
     handler.setMode("sound");
-    EXPECT_THAT(recorder.take(), IsEmpty());
+    EXPECT_EQ(recorder.take(), "");
     handler.setMode("SOUND");
-    EXPECT_EQ(handler.getIndHeadMode(), 1);
-    EXPECT_EQ(sent.size(), 1u);
+    EXPECT_EQ(handler.enumMode(), "SOUND");
+    EXPECT_EQ(sent.size(), 3u);
 }
