@@ -1,0 +1,81 @@
+#pragma once
+
+#include "common/history.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPixmap>
+#include <QQuickPaintedItem>
+
+/// A view of one band's history, painted in two layers that are prepared outside paint(): `background` covers
+/// the whole item with the labels and is rebuilt when the item's size or its band changes; `image` covers the
+/// plot area with the data and is rebuilt on each update while the item is visible. A hidden plot only takes
+/// data and catches up when it is shown.
+///
+/// All of it runs on the GUI thread; the scene graph sees only what paint() copies.
+class LayeredPlot : public QQuickPaintedItem {
+    Q_OBJECT
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(int lineWidth READ getLineWidth WRITE setLineWidth)
+    Q_PROPERTY(int textSize READ getTextSize WRITE setTextSize NOTIFY sizeChanged)
+    Q_PROPERTY(History history READ getHistory WRITE setHistory NOTIFY historyChanged)
+
+public:
+    explicit LayeredPlot(QQuickItem *parent = nullptr);
+
+    QColor getBackgroundColor() const { return backgroundColor; }
+    void setBackgroundColor(const QColor &color) { backgroundColor = color; }
+
+    /// Width of grid lines and curves, in pixels.
+    int getLineWidth() const { return lineWidth; }
+    /// Ignores 0: a width computed from a small font keeps the former one.
+    void setLineWidth(int width);
+
+    /// Size of the labels, in points.
+    int getTextSize() const { return textSize; }
+    void setTextSize(int size);
+
+    /// An empty history of the band on show; what was set is not given back.
+    History getHistory() const;
+    Q_INVOKABLE virtual void setHistory(History history) = 0;
+
+    void paint(QPainter *painter) override;
+
+signals:
+    void historyChanged();
+    /// The labels no longer fit the item: rebuilds both layers.
+    void sizeChanged();
+
+protected:
+    /// Works out the place of `image` in an item of this size, in pixels. The place may be empty: then
+    /// neither labels nor data are painted, so their painting need not mind an area without width or height.
+    virtual QRect layOut(const QSizeF &item) = 0;
+    /// Paints labels onto `background`, which is filled already; the painter has labelFont() set.
+    virtual void paintLegend(QPainter &painter) = 0;
+    /// Paints data onto `image`, which is filled already; (0, 0) is the plot area's corner.
+    virtual void paintData(QPainter &painter) = 0;
+
+    void paintBackground();
+    void paintOnImage();
+    QFont labelFont() const;
+
+    void componentComplete() override;
+    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+
+    MasterFreqModeEnum masterMode = static_cast<MasterFreqModeEnum>(-1);
+    QColor backgroundColor;
+    int lineWidth = 2;
+    int textSize = 10;
+
+private:
+    Q_SIGNAL void imageReady();
+
+    void rebuild();
+    void showData();
+    template <typename PaintContent>
+    QPixmap makeLayer(const QSize &size, PaintContent paintContent) const;
+
+    QRect imageArea;
+    QPixmap image;
+    QPixmap background;
+};

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QColor>
+#include <QObject>
+
+/// Every size and colour on the screen. Sizes follow the window's width and height, which the root document
+/// writes; it then emits sizeChanged() itself. All of it lives on the GUI thread.
+class ThemeData : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor NOTIFY changed)
+    Q_PROPERTY(QColor strokeColor READ getStrokeColor NOTIFY changed)
+    Q_PROPERTY(QColor fragmentColor READ getFragmentColor NOTIFY changed)
+    Q_PROPERTY(QColor lightTextColor READ getLightTextColor NOTIFY changed)
+    Q_PROPERTY(QColor disabledTextColor READ getDisabledTextColor NOTIFY changed)
+    Q_PROPERTY(QColor darkTextColor READ getDarkTextColor NOTIFY changed)
+    Q_PROPERTY(QColor wifiColor READ getWifiColor NOTIFY changed)
+    Q_PROPERTY(QColor digColor READ getDigColor NOTIFY changed)
+    Q_PROPERTY(QColor fpvColor READ getFpvColor NOTIFY changed)
+    Q_PROPERTY(QColor barPlotBorder READ getBarPlotBorder NOTIFY changed)
+    Q_PROPERTY(QColor maskColor READ getMaskColor NOTIFY changed)
+
+    Q_PROPERTY(int fontSizeTiny READ getFontSizeTiny NOTIFY sizeChanged)
+    Q_PROPERTY(int fontSizeSmall READ getFontSizeSmall NOTIFY sizeChanged)
+    Q_PROPERTY(int fontSizeMedium READ getFontSizeMedium NOTIFY sizeChanged)
+    Q_PROPERTY(int fontSizeLarge READ getFontSizeLarge NOTIFY sizeChanged)
+    Q_PROPERTY(int iconSizeSmall READ getIconSizeSmall NOTIFY sizeChanged)
+    Q_PROPERTY(int iconSizeMedium READ getIconSizeMedium NOTIFY sizeChanged)
+    Q_PROPERTY(int iconSizeLarge READ getIconSizeLarge NOTIFY sizeChanged)
+    Q_PROPERTY(int buttonSizeSmall READ getButtonSizeSmall NOTIFY sizeChanged)
+    Q_PROPERTY(int buttonSizeMedium READ getButtonSizeMedium NOTIFY sizeChanged)
+    Q_PROPERTY(int buttonSizeLarge READ getButtonSizeLarge NOTIFY sizeChanged)
+
+    Q_PROPERTY(int menuHeight READ getMenuHeight WRITE setMenuHeight NOTIFY menuHeightChanged)
+    Q_PROPERTY(int helpFragmentHeight READ getHelpFragmentHeight WRITE setHelpFragmentHeight NOTIFY
+                   helpFragmentHeightChanged)
+    Q_PROPERTY(int windowWidth READ getWindowWidth WRITE setWindowWidth NOTIFY sizeChanged)
+    Q_PROPERTY(int windowHeight READ getWindowHeight WRITE setWindowHeight NOTIFY sizeChanged)
+
+public:
+    using QObject::QObject;
+
+    QColor getBackgroundColor() const { return QColor::fromRgba(0xff81909f); }
+    QColor getStrokeColor() const { return QColor::fromRgba(0xff000000); }
+    QColor getFragmentColor() const { return QColor::fromRgba(0xc0415f50); }
+    QColor getLightTextColor() const { return Qt::white; }
+    QColor getDisabledTextColor() const { return Qt::darkGray; }
+    QColor getDarkTextColor() const { return Qt::black; }
+    QColor getWifiColor() const { return QColor::fromRgba(0xff00b050); }
+    QColor getDigColor() const { return QColor::fromRgba(0xffffc000); }
+    QColor getFpvColor() const { return QColor::fromRgba(0xffff0000); }
+    QColor getBarPlotBorder() const { return QColor::fromRgba(0xff6d7683); }
+    QColor getMaskColor() const { return QColor(51, 166, 50); }
+
+    /// Font sizes in points.
+    int getFontSizeTiny() const;
+    int getFontSizeSmall() const;
+    int getFontSizeMedium() const;
+    int getFontSizeLarge() const;
+    /// Icon and button sizes in pixels.
+    int getIconSizeSmall() const;
+    int getIconSizeMedium() const;
+    int getIconSizeLarge() const;
+    int getButtonSizeSmall() const;
+    int getButtonSizeMedium() const;
+    int getButtonSizeLarge() const;
+
+    /// Height of the menu panel at the bottom of the window, in pixels.
+    int getMenuHeight() const { return menuHeight; }
+    void setMenuHeight(int height);
+    /// Stored without a signal.
+    int getHelpFragmentHeight() const { return helpFragmentHeight; }
+    void setHelpFragmentHeight(int height) { helpFragmentHeight = height; }
+    /// In pixels; stored without a signal, since the writer emits sizeChanged().
+    int getWindowWidth() const { return windowWidth; }
+    void setWindowWidth(int width) { windowWidth = width; }
+    int getWindowHeight() const { return windowHeight; }
+    void setWindowHeight(int height) { windowHeight = height; }
+
+signals:
+    /// Never emitted: the colours are constant.
+    void changed();
+    void sizeChanged();
+    void menuHeightChanged();
+    void helpFragmentHeightChanged();
+
+private:
+    int fontSize(double share, double widthFactor) const;
+    int iconSize(double share) const;
+    int buttonSize(double share) const;
+
+    int menuHeight = 0;
+    int helpFragmentHeight = 0;
+    int windowHeight = 0;
+    int windowWidth = 0;
+};
