@@ -1,0 +1,99 @@
+#include "simulator/test-service.h"
+
+#include "common/defaults.h"
+#include "msg/fail-msg.h"
+#include "msg/mask-result-msg.h"
+#include "msg/ok-msg.h"
+#include "msg/state-msg.h"
+
+#include <thread>
+
+TestService::TestService()
+    : config(Defaults::getDefaultConfigMsg(proto.getValue()))
+    , aiPrior(Defaults::getDefaultAiPriorMsg())
+    , configK7(Defaults::getDefaultConfigK7Msg())
+    , scanner(std::make_shared<MsgListener>([this](const std::shared_ptr<Msg> &msg) { fireMsg(msg); })) {
+    config->setBootVers("0.0");
+    config->setFwVers("0.0");
+    config->setHwVers("0.0");
+    config->setMd5Serial("000000");
+    scanner.setByConfig(config);
+    scanner.setByAiPrior(aiPrior);
+}
+
+std::shared_ptr<Msg> TestService::acceptMsg(const std::shared_ptr<Msg> &msg) {
+    if (!msg)
+        return nullptr;
+    const MsgTypeEnum type = msg->getType();
+    switch (type) {
+    case MsgTypeEnum::GET_CONFIG:
+        return fireMsg(config);
+    case MsgTypeEnum::GET_CONFIG_K7:
+        return fireMsg(configK7);
+    case MsgTypeEnum::GET_AI_PRIOR:
+        return fireMsg(aiPrior);
+    case MsgTypeEnum::SCAN:
+        return scan(std::static_pointer_cast<ScanMsg>(msg));
+    case MsgTypeEnum::CONFIG:
+        config = std::static_pointer_cast<ConfigMsg>(msg);
+        scanner.setByConfig(config);
+        fireOkMsg(type);
+        break;
+    case MsgTypeEnum::CONFIG_K7:
+        configK7 = std::static_pointer_cast<ConfigK7Msg>(msg);
+        fireOkMsg(type);
+        break;
+    case MsgTypeEnum::AI_PRIOR:
+        aiPrior = std::static_pointer_cast<AiPriorMsg>(msg);
+        scanner.setByAiPrior(aiPrior);
+        fireOkMsg(type);
+        break;
+    case MsgTypeEnum::GET_STATE:
+        fireStateMsg();
+        break;
+    case MsgTypeEnum::SET_MASK:
+        acceptSetMask();
+        break;
+    default:
+        fireMsg(
+            std::make_shared<FailMsg>(FailMsgBuilder().respOn(type).failMsg("test not implemented").build()));
+    }
+    return nullptr;
+}
+
+std::shared_ptr<Msg> TestService::fireMsg(const std::shared_ptr<Msg> &msg) {
+    msgListeners.fire([&](const MsgListener &listener) { listener(msg); });
+    return msg;
+}
+
+std::shared_ptr<Msg> TestService::fireOkMsg(MsgTypeEnum respOn) {
+    return fireMsg(std::make_shared<OkMsg>(OkMsgBuilder().respOn(respOn).build()));
+}
+
+/// The answer is "mask set" whatever the flag is now; the flag itself travels in the scans.
+void TestService::acceptSetMask() {
+    if (scanner.isActive())
+        scanner.stop();
+    scanner.setMask();
+    std::this_thread::sleep_for(MASK_TIME);
+    fireMsg(std::make_shared<MaskResultMsg>(MaskResultMsgBuilder().mask(true).build()));
+    scanner.start();
+}
+
+std::shared_ptr<Msg> TestService::scan(const std::shared_ptr<ScanMsg> &msg) {
+    if (msg->getScan() && !scanner.isActive())
+        scanner.start();
+    else if (!msg->getScan() && scanner.isActive())
+        scanner.stop();
+    return fireOkMsg(MsgTypeEnum::SCAN);
+}
+
+void TestService::fireStateMsg() {
+    const auto state = StateMsgBuilder()
+                           .battLvl(scanner.getRandBattery())
+                           .battVoltage(5.0F)
+                           .bootload(false)
+                           .stateRanges({})
+                           .build();
+    fireMsg(std::make_shared<StateMsg>(state));
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "listener-list.h"
+#include "msg/ai-prior-msg.h"
+#include "msg/config-k7-msg.h"
+#include "msg/config-msg.h"
+#include "msg/scan-msg.h"
+#include "serial-interface.h"
+#include "simulator/scanner.h"
+
+#include <chrono>
+#include <memory>
+
+/// A device inside the process: it takes the message objects that would go to a device, keeps settings, and
+/// answers its listeners.
+///
+/// Requests come from one thread at a time (the connector's lock sees to it), and their answers are delivered
+/// on it; scans are delivered on the scanner's thread.
+class TestService {
+public:
+    TestService();
+
+    void addListener(std::shared_ptr<MsgListener> listener) { msgListeners.add(std::move(listener)); }
+    void removeListener(std::shared_ptr<MsgListener> listener) { msgListeners.remove(std::move(listener)); }
+
+    /// Fires the answer to the listeners. Returns it too for GET_CONFIG, SCAN, GET_CONFIG_K7 and
+    /// GET_AI_PRIOR, and null for all others. SET_MASK takes two seconds, as on a device.
+    std::shared_ptr<Msg> acceptMsg(const std::shared_ptr<Msg> &msg);
+
+private:
+    static constexpr std::chrono::milliseconds MASK_TIME{2000};
+
+    std::shared_ptr<Msg> fireMsg(const std::shared_ptr<Msg> &msg);
+    std::shared_ptr<Msg> fireOkMsg(MsgTypeEnum respOn);
+    void acceptSetMask();
+    std::shared_ptr<Msg> scan(const std::shared_ptr<ScanMsg> &msg);
+    void fireStateMsg();
+
+    ListenerList<MsgListener> msgListeners;
+    const Proto proto{ProtoEnum::K7};
+    std::shared_ptr<ConfigMsg> config;
+    std::shared_ptr<AiPriorMsg> aiPrior;
+    std::shared_ptr<ConfigK7Msg> configK7;
+    Scanner scanner; ///< last, so that its thread has ended before the listeners go
+};
