@@ -1,0 +1,80 @@
+#include "linux-connector.h"
+
+#include "msg/get-state-msg.h"
+
+#include <QDebug>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::chrono::milliseconds PROBE_TIMEOUT{100};
+
+} // namespace
+
+LinuxConnector::LinuxConnector(fs::path serialDirectory)
+    : directory(std::move(serialDirectory))
+    , testListener(std::make_shared<MsgListener>([this](std::shared_ptr<Msg> msg) { fireMsg(msg); })) {}
+
+LinuxConnector::~LinuxConnector() {
+    LinuxConnector::disconnect();
+}
+
+bool LinuxConnector::connectInterface() {
+    try {
+        if (!fs::exists(directory))
+            return false;
+        for (const fs::directory_entry &entry : fs::directory_iterator(directory)) {
+            // Weakly, so that a link to a device that is gone fails to open like any other port, and does not
+            // hide the devices behind it.
+            if (entry.is_symlink() && probe(fs::weakly_canonical(directory / fs::read_symlink(entry))))
+                return true;
+        }
+    } catch (const fs::filesystem_error &error) {
+        qDebug() << error.what();
+    }
+    return false;
+}
+
+bool LinuxConnector::probe(const std::string &devicePath) {
+    setPortName(devicePath);
+    if (!openPort())
+        return false;
+    const auto reply = busyTransaction(std::make_shared<GetStateMsg>(), PROBE_TIMEOUT);
+    if (reply && reply->getType() == MsgTypeEnum::STATE)
+        return true;
+    serialClose();
+    return false;
+}
+
+void LinuxConnector::disconnect() {
+    if (test)
+        stopTesting();
+    else if (!isClosed())
+        serialClose();
+}
+
+void LinuxConnector::startTesting() {
+    test = true;
+    testService.addListener(testListener);
+}
+
+void LinuxConnector::stopTesting() {
+    testService.removeListener(testListener);
+    test = false;
+}
+
+void LinuxConnector::addListener(std::shared_ptr<MsgListener> listener) {
+    SerialInterfaceAdapter::addListener(std::move(listener));
+}
+
+void LinuxConnector::removeListener(std::shared_ptr<MsgListener> listener) {
+    SerialInterfaceAdapter::removeListener(std::move(listener));
+}
+
+std::shared_ptr<Msg> LinuxConnector::simpleTransaction(std::shared_ptr<Msg> msg,
+                                                       std::chrono::milliseconds timeout) {
+    if (test)
+        return testService.acceptMsg(msg);
+    return transaction(std::move(msg), timeout, MsgType::values());
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "serial-interface-connector.h"
+#include "simulator/test-service.h"
+#include "usb-tty.h"
+
+#include <atomic>
+#include <filesystem>
+#include <memory>
+
+/// Finds the device among the serial terminals of the system, and stands for the simulator in test mode. It
+/// is itself the link to the device.
+class LinuxConnector : public SerialInterfaceConnector, public UsbTty {
+public:
+    /// `serialDirectory` holds a symbolic link to the terminal of each serial device.
+    explicit LinuxConnector(std::filesystem::path serialDirectory = "/dev/serial/by-id");
+    ~LinuxConnector() override;
+
+    /// Opens one device after the other and asks for its state. The first that answers with a STATE as its
+    /// first message within 100 ms is taken; one that talks of something else meanwhile is passed over.
+    bool connectInterface() override;
+    /// Does not interrupt a transaction on another thread, which ends in its time-out.
+    void disconnect() override;
+    /// Neither of these two touches the simulator's scan, which SCAN starts and stops.
+    void startTesting() override;
+    void stopTesting() override;
+    bool isTesting() override { return test; }
+    void addListener(std::shared_ptr<MsgListener> listener) override;
+    void removeListener(std::shared_ptr<MsgListener> listener) override;
+    /// The first message of any type is the reply. The simulator answers at once, whatever the time-out.
+    std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg,
+                                           std::chrono::milliseconds timeout) override;
+
+private:
+    bool probe(const std::string &devicePath);
+
+    const std::filesystem::path directory;
+    std::atomic<bool> test{false};
+    TestService testService;
+    /// Makes what the simulator fires reach the listeners of the link.
+    const std::shared_ptr<MsgListener> testListener;
+};

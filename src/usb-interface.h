@@ -1,0 +1,57 @@
+#pragma once
+
+#include "serial-interface-adapter.h"
+
+#include <atomic>
+#include <chrono>
+#include <libusb.h>
+#include <memory>
+#include <shared_mutex>
+#include <thread>
+
+/// The link to a device by bulk transfers, past the system's serial driver. Calls go in the order `init`,
+/// `openDevice`, `startReading`; all but the transfers belong to one thread.
+class UsbInterface : public SerialInterfaceAdapter {
+public:
+    UsbInterface() = default;
+    ~UsbInterface() override;
+    UsbInterface(const UsbInterface &) = delete;
+    UsbInterface &operator=(const UsbInterface &) = delete;
+
+    std::string getName() override { return "USB"; }
+
+    bool init();
+    /// Opens the first device of our kind and takes its interfaces from the kernel's driver.
+    bool openDevice();
+    void startReading();
+    /// Waits for the reading thread, which ends when the link is closed.
+    void stopReading();
+    void showDebugInfo() {}
+    void serialClose() override;
+    /// Mind the sense: true while a device is open.
+    bool isClosed() override;
+    /// Raises std::runtime_error when a block of at most 512 bytes does not get through whole.
+    void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override;
+    /// The body of the reading thread.
+    void listenUsb();
+    /// Prints what a code of libusb means.
+    void printResult(int code);
+
+protected:
+    /// One bulk transfer; a code of libusb, and in `actual` the bytes moved, which may be some in spite of an
+    /// error.
+    virtual int transfer(unsigned char endpoint, buffer_t &block, int &actual, unsigned int timeoutMs);
+
+    std::atomic<bool> closed{true};
+
+private:
+    static constexpr std::size_t buffer_size = 512;
+
+    bool claimInterfaces();
+
+    libusb_context *cx = nullptr;
+    libusb_device_handle *devh = nullptr;
+    /// Shared by running transfers; exclusive where `devh` comes or goes.
+    std::shared_mutex devhMutex;
+    std::unique_ptr<std::thread> readingThread;
+};

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "serial-interface-adapter.h"
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+
+/// The link to a device on a serial terminal.
+///
+/// Everything but the listeners may be called from any thread; a listener, which runs on the reading thread,
+/// must neither open nor close the link. Failures are reported by a false result and a line on standard
+/// output.
+class UsbTty : public SerialInterfaceAdapter {
+public:
+    UsbTty() = default;
+    explicit UsbTty(std::string portName);
+    ~UsbTty() override;
+    UsbTty(const UsbTty &) = delete;
+    UsbTty &operator=(const UsbTty &) = delete;
+
+    /// The path of the terminal; a change shows at the next `openPort`.
+    std::string getPortName() const;
+    void setPortName(std::string name);
+    std::string getName() override { return "UsbTTY"; }
+
+    /// Opens the port, sets the line up for the device and starts reading. The speed stays as it is. An open
+    /// port is replaced.
+    bool openPort();
+    /// Starts the reading thread where none is; it ends at once on a closed link.
+    void startReading();
+    /// Returns when the reading thread has ended, within about a second.
+    void serialClose() override;
+    bool isClosed() override { return closed; }
+    /// One write of all bytes. What the terminal does not take, or refuses, is lost without a word; the
+    /// time-out is not used.
+    void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override;
+
+private:
+    static constexpr std::size_t buffer_size = 512;
+    static constexpr int MIN_BYTES = 64;
+    static constexpr std::chrono::milliseconds EMPTY_READ_PAUSE{50};
+
+    void read();
+    void pauseReading();
+
+    /// Serialises opening and closing, and guards `portName` and `readingThread`. Held while the reading
+    /// thread is joined, so that thread never takes it. Recursive, as opening starts the reading.
+    mutable std::recursive_mutex lifecycle;
+    std::string portName;
+    std::shared_ptr<std::thread> readingThread;
+
+    /// Held for a write and for closing or replacing the descriptor, so that no write lands on a descriptor
+    /// that was handed out again.
+    std::mutex portMutex;
+    std::atomic<int> port{-1}; ///< -1 while closed; only changed under both mutexes
+    std::atomic<bool> closed{true};
+
+    std::mutex pauseMutex; ///< guards nothing but the wait on `closing`
+    std::condition_variable closing;
+};
