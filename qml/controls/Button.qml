@@ -1,0 +1,35 @@
+import QtQuick 2.0
+
+ButtonFrame {
+    id: button
+
+    property alias iconSource: icon.source
+    property alias text: label.text
+    property alias textColor: label.color
+    property alias textSize: label.font.pointSize
+
+    Text {
+        id: label
+
+        anchors.fill: parent
+        anchors.margins: button.radius * 0.5
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        // A word too long for the button is set smaller, not cut.
+        fontSizeMode: Text.Fit
+        minimumPointSize: 1
+        font.pointSize: themeData.fontSizeSmall
+        color: button.currentTextColor
+    }
+
+    Image {
+        id: icon
+
+        x: button.border + button.radius * 0.5
+        y: x
+        height: button.iconSize
+        width: height
+        sourceSize: Qt.size(width, height)
+        opacity: button.iconOpacity
+    }
+}

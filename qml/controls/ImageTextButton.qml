@@ -1,0 +1,42 @@
+import QtQuick 2.0
+
+ButtonFrame {
+    id: button
+
+    property alias iconSource: icon.source
+    property alias text: label.text
+    property alias textColor: label.color
+    property alias textSize: label.font.pointSize
+
+    Row {
+        id: row
+
+        anchors.fill: parent
+        anchors.leftMargin: button.radius
+        spacing: themeData.fontSizeTiny
+
+        Image {
+            id: icon
+
+            anchors.verticalCenter: parent.verticalCenter
+            height: button.iconSize
+            width: implicitHeight > 0 ? implicitWidth / implicitHeight * height : 0
+            sourceSize.height: height
+            opacity: button.iconOpacity
+        }
+
+        Text {
+            id: label
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: row.width - icon.width - row.spacing - button.radius
+            height: button.iconSize
+            verticalAlignment: Text.AlignVCenter
+            // A word too long for the button is set smaller, not cut.
+            fontSizeMode: Text.Fit
+            minimumPointSize: 1
+            font.pointSize: themeData.fontSizeSmall
+            color: button.currentTextColor
+        }
+    }
+}

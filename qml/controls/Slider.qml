@@ -1,0 +1,80 @@
+import QtQuick 2.0
+
+Item {
+    id: slider
+
+    property real maximumValue: 100
+    property real minimumValue: 0
+    property real value: 75
+    property real stepSize: 1
+
+    // The only point at which a value is to be sent: on release, not while the runner is dragged.
+    signal changed
+
+    width: 500
+    height: 100
+    opacity: enabled && !mouseArea.pressed ? 1 : 0.3
+
+    Row {
+        id: line
+
+        x: runner.width * 0.5
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.width - runner.width
+        height: 0.1 * parent.height
+        spacing: runner.width
+
+        Rectangle {
+            // A row leaves an item of no width out, its spacing with it.
+            width: runner.x - 0.5 * runner.width || -1
+            height: parent.height
+            radius: height * 0.5
+            color: "#a4ebb6"
+        }
+
+        Rectangle {
+            width: parent.width - runner.x - 0.5 * runner.width
+            height: parent.height
+            radius: height * 0.5
+            color: "gray"
+        }
+    }
+
+    Rectangle {
+        id: runner
+
+        readonly property real val: Math.min(Math.max(mouseArea.realValue, slider.minimumValue),
+                                             slider.maximumValue)
+
+        x: (val - slider.minimumValue) * line.width / (slider.maximumValue - slider.minimumValue)
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.height / 2
+        height: width
+        radius: width * 0.5
+        color: "#a4ebb6"
+    }
+
+    MouseArea {
+        id: mouseArea
+
+        readonly property real xStep: (width - runner.width)
+                                      / ((slider.maximumValue - slider.minimumValue) / slider.stepSize)
+        property real realValue: slider.value
+
+        function getValue(x) {
+            slider.value = Math.round(x / xStep) * slider.stepSize
+            realValue = slider.minimumValue
+                    + (slider.maximumValue - slider.minimumValue) * x / (width - runner.width)
+        }
+
+        anchors.fill: parent
+        preventStealing: true
+        drag.target: runner
+        drag.axis: Drag.XAxis
+        drag.minimumX: 0
+        drag.maximumX: slider.width - runner.width
+        drag.smoothed: false
+        onMouseXChanged: getValue(Math.min(Math.max(mouse.x - runner.width * 0.5, 0), width - runner.width))
+        onReleased: slider.changed()
+    }
+}

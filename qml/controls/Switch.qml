@@ -1,0 +1,49 @@
+import QtQuick 2.0
+
+Item {
+    id: item
+
+    property bool checked: true
+
+    signal clicked
+
+    // The first placing is instant, later moves are to be seen.
+    Component.onCompleted: anim.velocity = 200
+
+    Rectangle {
+        id: bkg
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.width * 0.5
+        height: width * 0.5
+        radius: height * 0.5
+        color: item.checked ? "mediumseagreen" : "gray"
+    }
+
+    Rectangle {
+        id: slider
+
+        x: item.checked ? bkg.width * 0.5 : 0
+        anchors.verticalCenter: bkg.verticalCenter
+        width: bkg.height * 1.25
+        height: width
+        radius: width * 0.5
+        color: item.checked ? "#a4ebb6" : "white"
+
+        Behavior on x {
+            SmoothedAnimation {
+                id: anim
+
+                velocity: 10000
+            }
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        onClicked: {
+            item.checked = !item.checked
+            item.clicked()
+        }
+    }
+}

@@ -1,0 +1,128 @@
+import QtQuick 2.0
+
+import "../controls"
+
+Item {
+    id: buttonLayout
+
+    readonly property int buttonHeigth: themeData.iconSizeMedium
+    readonly property real spacing: themeData.fontSizeSmall * 0.5
+    property bool vesper: false
+    // Gives the colour of an icon of the platform theme, from the button's enabled and pressed.
+    property var iconColor
+
+    signal help
+    signal config
+
+    function icon(desktopName, themeName, button) {
+        return vesper ? "image://theme/icon-m-" + themeName + "?" + iconColor(button.enabled, button.pressed)
+                      : "qrc:/icons/" + desktopName
+    }
+
+    width: parent.width
+    height: buttonHeigth + spacing
+
+    Component.onCompleted: {
+        usbService.gotBatteryState.connect(function (batt) { chargeButton.charge = batt })
+        usbService.gotMask.connect(function (mask) {
+            maskButton.masked = mask
+            maskButton.waiting = false
+        })
+        usbService.usbStateChanged.connect(function () { maskButton.waiting = false })
+    }
+
+    Row {
+        anchors.centerIn: parent
+        spacing: 1
+
+        ImageTextButton {
+            id: chargeButton
+
+            property int charge: 0
+            readonly property string level: charge < 20 ? "b0" : charge < 45 ? "b25" : charge < 70 ? "b50"
+                                                         : charge < 95 ? "b75" : "b100"
+
+            width: themeData.buttonSizeSmall
+            height: buttonLayout.buttonHeigth
+            color: themeData.backgroundColor
+            enabled: usbService.isUsbActive
+            iconSource: buttonLayout.icon(level, "battery", chargeButton)
+            text: charge + "%"
+            onClicked: usbService.sendGetState()
+        }
+
+        Button {
+            id: maskButton
+
+            property bool masked: false
+            property bool waiting: false
+
+            width: themeData.buttonSizeSmall
+            height: buttonLayout.buttonHeigth
+            color: masked ? themeData.maskColor : chargeButton.color
+            enabled: usbService.isUsbActive && !waiting
+            text: waiting ? qsTr("Wait") : qsTr("Mask")
+            onClicked: {
+                waiting = true
+                usbService.setMask()
+            }
+        }
+
+        Button {
+            id: fabricButton
+
+            width: themeData.buttonSizeMedium
+            height: buttonLayout.buttonHeigth
+            color: themeData.backgroundColor
+            enabled: usbService.isUsbActive
+            text: qsTr("Fabric settings")
+            onClicked: usbService.resetToDefaults(confHndlr.proto)
+        }
+
+        Button {
+            id: configButton
+
+            width: themeData.iconSizeMedium
+            height: buttonLayout.buttonHeigth
+            color: themeData.backgroundColor
+            enabled: usbService.isUsbActive
+            iconSource: buttonLayout.icon("cfg", "setting", configButton)
+            onClicked: buttonLayout.config()
+        }
+
+        Button {
+            id: helpButton
+
+            // Clicks in a row while not connected; the twelfth starts the simulator.
+            property int pressToTest: 0
+
+            width: themeData.iconSizeMedium
+            height: buttonLayout.buttonHeigth
+            color: themeData.backgroundColor
+            iconSource: buttonLayout.icon("info", "about", helpButton)
+            onClicked: {
+                pressToTest = usbService.isUsbActive ? 0 : pressToTest + 1
+                if (pressToTest === 12) {
+                    pressToTest = 0
+                    usbService.startTesting()
+                }
+                buttonLayout.help()
+            }
+        }
+
+        Button {
+            id: usbConnectButton
+
+            width: themeData.iconSizeMedium
+            height: buttonLayout.buttonHeigth
+            color: themeData.backgroundColor
+            iconSource: buttonLayout.icon("usb", "usb", usbConnectButton)
+            onClicked: {
+                if (usbService.isUsbActive)
+                    usbService.disconnect()
+                else
+                    usbService.startUsb()
+            }
+        }
+    }
+}

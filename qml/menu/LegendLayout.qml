@@ -1,0 +1,48 @@
+import QtQuick 2.0
+
+Item {
+    id: legendLayout
+
+    readonly property int rectHeigth: themeData.iconSizeMedium
+    readonly property real spacing: themeData.fontSizeSmall * 0.5
+
+    height: rectHeigth + spacing
+
+    ListView {
+        id: row
+
+        readonly property real offset: themeData.fontSizeSmall * 0.5
+
+        anchors.fill: parent
+        anchors.leftMargin: offset
+        anchors.rightMargin: offset
+        anchors.topMargin: offset
+        spacing: offset
+        orientation: ListView.Horizontal
+        boundsBehavior: Flickable.StopAtBounds
+        model: ["Wi-Fi", qsTr("DIG"), "FPV"]
+
+        delegate: Rectangle {
+            readonly property var fills: [themeData.wifiColor, themeData.digColor, themeData.fpvColor]
+
+            width: (legendLayout.width - 4 * row.offset) / 3
+            height: legendLayout.rectHeigth
+            border.color: themeData.strokeColor
+            color: usbService.isUsbActive ? fills[index] : "transparent"
+
+            Text {
+                anchors.fill: parent
+                anchors.margins: parent.border.width
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                // A word too long for its field is set smaller, not cut.
+                fontSizeMode: Text.Fit
+                minimumPointSize: 1
+                font.pointSize: themeData.iconSizeSmall
+                font.bold: true
+                color: themeData.lightTextColor
+                text: modelData
+            }
+        }
+    }
+}

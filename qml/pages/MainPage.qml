@@ -1,0 +1,106 @@
+import QtQuick 2.0
+import barScanResultPlot 1.0
+
+Rectangle {
+    objectName: "mainPage"
+    color: "transparent"
+
+    ListView {
+        id: plots
+
+        // The views of each band, by row.
+        property var histViews: []
+        property var barPlots: []
+        property var freqPlots: []
+
+        // Whole rows of one height, however the page's height divides.
+        function getH() {
+            var h = parent.height
+            var rows = historyModel.rowCount()
+            return rows === 0 ? h : h - h % rows
+        }
+
+        function showHistories() {
+            for (var i = 0; i < historyModel.rowCount(); ++i)
+                barPlots[i].setHistory(historyModel.getHistory(i))
+        }
+
+        width: parent.width
+        height: parent.height
+        clip: true
+        spacing: 0
+        boundsBehavior: Flickable.StopAtBounds
+        model: historyModel
+
+        Component.onCompleted: {
+            usbService.gotConfig.connect(historyModel.setConfig)
+            usbService.gotScanResult.connect(historyModel.acceptScanResult)
+            historyModel.gotHistory.connect(showHistories)
+        }
+
+        delegate: Rectangle {
+            id: rect
+
+            // The views side by side, in the order of `selected`.
+            readonly property var views: [barPlot]
+            property int selected: 0
+
+            function select(next) {
+                // Visible before the move: that is what makes it paint the data it was handed while hidden.
+                views[next].visible = true
+                selected = next
+            }
+
+            x: -selected * plots.width
+            width: plots.width * 3
+            height: plots.getH() / historyModel.rowCount()
+            color: "transparent"
+            clip: true
+            visible: usbService.isUsbActive
+
+            onXChanged: anim.complete()
+
+            Behavior on x {
+                SmoothedAnimation {
+                    id: anim
+
+                    velocity: 2000
+                    onRunningChanged: {
+                        if (!running)
+                            rect.views.forEach(function (view, i) { view.visible = i === rect.selected })
+                    }
+                }
+            }
+
+            BarScanResultPlot {
+                id: barPlot
+
+                width: plots.width
+                height: rect.height
+                backgroundColor: themeData.backgroundColor
+                innerBorderColor: themeData.barPlotBorder
+                lineWidth: themeData.fontSizeTiny * 0.1
+                textSize: themeData.fontSizeTiny
+                Component.onCompleted: plots.barPlots[index] = barPlot
+            }
+
+            MouseArea {
+                property real lastX: 0
+                readonly property int minFlick: 100
+
+                anchors.fill: parent
+                preventStealing: true
+                onPressed: lastX = mouse.x
+                onReleased: {
+                    if (anim.running)
+                        return
+                    var newX = mouse.x
+                    if (newX - lastX > minFlick && rect.selected > 0)
+                        rect.select(rect.selected - 1)
+                    else if (lastX - newX > minFlick && rect.selected < rect.views.length - 1)
+                        rect.select(rect.selected + 1)
+                }
+            }
+        }
+    }
+}
