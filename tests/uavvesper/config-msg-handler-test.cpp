@@ -24,7 +24,11 @@ protected:
     SentTexts sent{handler};
 };
 
-TEST_F(ConfigMsgHandlerTest, ShowsAnAcceptedConfigAndSendsNothing) {
+TEST_F(ConfigMsgHandlerTest, ShowsWhatItHasAndWhatItAccepts) {
+    handler.nextSens();
+    EXPECT_EQ(recorder.take(), "sensChanged");
+    EXPECT_EQ(handler.getSens(), "LOW");
+    EXPECT_EQ(handler.getAtten(), 6);
     EXPECT_EQ(handler.getIndLedLvl(), 75);
     EXPECT_EQ(handler.getIndSndLvl(), 100);
     handler.accept(held(CONFIG));
@@ -64,11 +68,4 @@ TEST_F(ConfigMsgHandlerTest, SendsNothingBeforeTheDeviceHasToldItsRanges) {
     EXPECT_EQ(handler.enumMode(), "AUTO");
     EXPECT_EQ(handler.getRanges(), QList<int>{2});
     EXPECT_EQ(sent.size(), 1u);
-}
-
-TEST_F(ConfigMsgHandlerTest, StepsTheSensitivityWithoutSending) {
-    handler.nextSens();
-    EXPECT_EQ(recorder.take(), "sensChanged");
-    EXPECT_EQ(handler.getSens(), "LOW");
-    EXPECT_EQ(handler.getAtten(), 6);
 }

@@ -32,7 +32,7 @@ TEST(Defaults, AreTheFactorySettings) {
     EXPECT_EQ(Defaults::getDefaultConfigMsg(ProtoEnum::K7EW)->getRanges().at(0), FreqModeEnum::STD_1200);
 }
 
-TEST(SensLevel, FallsAsTheAttenuationRises) {
+TEST(LevelTables, FollowTheAttenuationAndMindWhatTheyDoNotHold) {
     using Level = SensLevelEnum;
     for (const auto &[atten, level, next] : {std::tuple(6, Level::LOW, Level::MIDDLE),
                                              {3, Level::MIDDLE, Level::HIGH},
@@ -42,11 +42,8 @@ TEST(SensLevel, FallsAsTheAttenuationRises) {
         EXPECT_EQ(SensLevel(level).next(), next) << atten;
     }
     EXPECT_EQ(SensLevel(Level::HIGH).getViewName(), "Высок");
+    EXPECT_EQ(SigTypeColors::getColor(SigTypeEnum::FPV), QColor(255, 0, 0));
     EXPECT_EQ(SensLevel(static_cast<Level>(-1)).getEnumName(), "???");
     EXPECT_THROW(SensLevel(static_cast<Level>(4)).getAtten(), std::out_of_range);
-}
-
-TEST(SigTypeColors, HaveNoColourForWhatIsNoClass) {
-    EXPECT_EQ(SigTypeColors::getColor(SigTypeEnum::FPV), QColor(255, 0, 0));
     EXPECT_EQ(SigTypeColors::getColor(static_cast<SigTypeEnum>(6)).alpha(), 0);
 }

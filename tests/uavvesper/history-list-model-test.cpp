@@ -38,7 +38,6 @@ TEST(HistoryListModel, LaysOutTheBandsAnewWithEachConfig) {
     const auto history = model.data(model.index(2), model.roleNames().key("history")).value<History>();
     EXPECT_EQ(history.getMasterMode(), MasterFreqModeEnum::R_5800);
     EXPECT_EQ(model.getHistory(0).getSize(), 0);
-    EXPECT_EQ(model.getHistory(0).getHistoryLen(), 10);
     EXPECT_FALSE(model.data(model.index(-1), 256).isValid());
     EXPECT_THROW(model.getHistory(3), std::out_of_range);
 }

@@ -9,10 +9,7 @@ using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
 
-static const QColor OFF(10, 20, 30);
-static const QColor LABEL = QColor::fromRgb(0x5b9bd5);
-static const QColor HEAD = QColor::fromRgb(0xc4d5ec);
-static const QColor DISC = QColor::fromRgb(0x41709a);
+static const QColor OFF(10, 20, 30), LABEL(0x5b, 0x9b, 0xd5), HEAD(0xc4, 0xd5, 0xec), DISC(0x41, 0x70, 0x9a);
 
 /// An item's size and points of it off the text and off every edge: on the label, on the head beside the
 /// disc, and on the upper and the lower half of the disc.
@@ -39,27 +36,22 @@ static std::vector<QColor> colors(QQuickPaintedItem &item, const Layout &layout)
 
 TEST(UavSwitch, ShowsItsStateInEverySize) {
     for (const Layout &layout : {LARGE, SMALL}) {
-        UavSwitch item;
-        item.setChecked(true);
-        EXPECT_THAT(colors(item, layout), ElementsAre(OFF, HEAD, HEAD, HEAD));
-        item.setSwitchEnabled(true);
-        EXPECT_THAT(colors(item, layout), ElementsAre(LABEL, HEAD, DISC, DISC));
-        item.setChecked(false);
-        EXPECT_THAT(colors(item, layout), ElementsAre(LABEL, HEAD, HEAD, HEAD));
-    }
-}
-
-TEST(UavThreeSwitch, ShowsItsPositionInEverySize) {
-    for (const Layout &layout : {LARGE, SMALL}) {
-        UavThreeSwitch item;
-        item.nextPosition();
-        EXPECT_THAT(colors(item, layout), ElementsAre(OFF, HEAD, HEAD, HEAD));
-        item.setSwitchEnabled(true);
-        EXPECT_THAT(colors(item, layout), ElementsAre(LABEL, HEAD, HEAD, DISC));
-        item.nextPosition();
-        EXPECT_THAT(colors(item, layout), ElementsAre(LABEL, HEAD, DISC, DISC));
-        item.nextPosition();
-        EXPECT_THAT(colors(item, layout), ElementsAre(LABEL, HEAD, HEAD, HEAD));
+        UavSwitch two;
+        UavThreeSwitch three;
+        two.setChecked(true);
+        three.nextPosition();
+        EXPECT_THAT(colors(two, layout), ElementsAre(OFF, HEAD, HEAD, HEAD));
+        EXPECT_THAT(colors(three, layout), ElementsAre(OFF, HEAD, HEAD, HEAD));
+        two.setSwitchEnabled(true);
+        three.setSwitchEnabled(true);
+        EXPECT_THAT(colors(two, layout), ElementsAre(LABEL, HEAD, DISC, DISC));
+        EXPECT_THAT(colors(three, layout), ElementsAre(LABEL, HEAD, HEAD, DISC));
+        two.setChecked(false);
+        three.nextPosition();
+        EXPECT_THAT(colors(two, layout), ElementsAre(LABEL, HEAD, HEAD, HEAD));
+        EXPECT_THAT(colors(three, layout), ElementsAre(LABEL, HEAD, DISC, DISC));
+        three.nextPosition();
+        EXPECT_THAT(colors(three, layout), ElementsAre(LABEL, HEAD, HEAD, HEAD));
     }
 }
 
