@@ -12,8 +12,10 @@
 /// is itself the link to the device.
 class LinuxConnector : public SerialInterfaceConnector, public UsbTty {
 public:
+    static constexpr const char *SERIAL_DIRECTORY = "/dev/serial/by-id";
+
     /// `serialDirectory` holds a symbolic link to the terminal of each serial device.
-    explicit LinuxConnector(std::filesystem::path serialDirectory = "/dev/serial/by-id");
+    explicit LinuxConnector(std::filesystem::path serialDirectory = SERIAL_DIRECTORY);
     ~LinuxConnector() override;
 
     /// Opens one device after the other and asks for its state. The first that answers with a STATE as its

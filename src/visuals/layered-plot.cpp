@@ -78,7 +78,8 @@ void LayeredPlot::rebuild() {
 }
 
 void LayeredPlot::showData() {
-    if (!isVisible())
+    // Rows that outlive the window count as visible once more while the application object ends.
+    if (!isVisible() || QCoreApplication::closingDown())
         return;
     paintOnImage();
     update();

@@ -1,0 +1,52 @@
+#include "screen-engine.h"
+
+#include "common/history.h"
+#include "msg-holder.h"
+#include "version.h"
+#include "visuals/bar-scan-result-plot.h"
+#include "visuals/plots-list-model.h"
+#include "visuals/uav-switch.h"
+#include "visuals/uav-three-switch.h"
+
+#include <QCoreApplication>
+#include <QQmlContext>
+#include <QTranslator>
+
+void registerTypes() {
+    qmlRegisterType<BarScanResultPlot>("barScanResultPlot", 1, 0, "BarScanResultPlot");
+    qmlRegisterType<PlotListModel>("plotListModel", 1, 0, "PlotListModel");
+    qmlRegisterType<UavSwitch>("uavSwitch", 1, 0, "UavSwitch");
+    qmlRegisterType<UavThreeSwitch>("uavThreeSwitch", 1, 0, "UavThreeSwitch");
+    qRegisterMetaType<History>("History");
+    qRegisterMetaType<MsgHolder>("MsgHolder");
+}
+
+ScreenEngine::ScreenEngine(ServiceObjects &objects)
+    : version(QString::fromStdString(version::getVersion())) {
+    QQmlContext &context = *engine.rootContext();
+    context.setContextProperty("usbService", &objects.usbService);
+    context.setContextProperty("themeData", &objects.themeData);
+    context.setContextProperty("masterModes", &objects.masterModes);
+    context.setContextProperty("confHndlr", &confHndlr);
+    context.setContextProperty("aiPriorHndlr", &aiPriorHndlr);
+    context.setContextProperty("confK7Hndlr", &confK7Hndlr);
+    context.setContextProperty("historyModel", &historyModel);
+    context.setContextProperty("version", version);
+    QObject::connect(&engine, &QQmlApplicationEngine::quit, qApp, &QCoreApplication::quit);
+}
+
+void ScreenEngine::load(const QUrl &document) {
+    QObject::connect(
+        &engine, &QQmlApplicationEngine::objectCreated, qApp,
+        [document](const QObject *created, const QUrl &address) {
+            if (!created && address == document)
+                QCoreApplication::exit(-1);
+        },
+        Qt::QueuedConnection);
+    // The translation lies in the working directory of a user who reads Russian and nowhere else; without it
+    // the screens keep their source texts. A null suffix stands for Qt's own, an empty one would be none.
+    auto *translator = new QTranslator;
+    translator->load("UavVesper-ru", ".", QString(), QString());
+    QCoreApplication::installTranslator(translator);
+    engine.load(document);
+}

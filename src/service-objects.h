@@ -1,0 +1,17 @@
+#pragma once
+
+#include "common/guarded.h"
+#include "usb-service.h"
+#include "visuals/ranges-list-model.h"
+#include "visuals/theme-data.h"
+
+/// What the screens see of the device and of the window, in order of construction. None of it needs the
+/// application object, which it outlives.
+struct ServiceObjects {
+    explicit ServiceObjects(const std::filesystem::path &serialDirectory = LinuxConnector::SERIAL_DIRECTORY)
+        : usbService(nullptr, serialDirectory) {}
+
+    Guarded<UsbService> usbService;
+    Guarded<ThemeData> themeData;
+    Guarded<RangesListModel> masterModes;
+};

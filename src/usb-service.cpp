@@ -1,0 +1,235 @@
+#include "usb-service.h"
+
+#include "common/defaults.h"
+#include "log.h"
+#include "msg/ai-prior-msg.h"
+#include "msg/config-k7-msg.h"
+#include "msg/config-msg.h"
+#include "msg/fail-msg.h"
+#include "msg/get-ai-prior-msg.h"
+#include "msg/get-config-k7-msg.h"
+#include "msg/get-config-msg.h"
+#include "msg/get-state-msg.h"
+#include "msg/mask-result-msg.h"
+#include "msg/scan-msg.h"
+#include "msg/scan-result-msg.h"
+#include "msg/set-mask-msg.h"
+#include "msg/state-msg.h"
+
+#include <algorithm>
+
+using std::chrono::milliseconds;
+
+namespace {
+
+constexpr milliseconds CONFIG_TIMEOUT{1000}; // the first CONFIG of a connection
+constexpr milliseconds GET_TIMEOUT{100};
+constexpr milliseconds SCAN_TIMEOUT{200};
+constexpr milliseconds SETTING_TIMEOUT{30};
+
+bool isOfType(const std::shared_ptr<Msg> &msg, MsgTypeEnum type) {
+    return msg && msg->getType() == type;
+}
+
+} // namespace
+
+UsbService::UsbService(QObject *parent, const std::filesystem::path &serialDirectory)
+    : QObject(parent)
+    , connector(std::make_unique<LinuxConnector>(serialDirectory))
+    , msgListener(std::make_shared<std::function<void(std::shared_ptr<Msg>)>>(
+          [this](const std::shared_ptr<Msg> &msg) { acceptMsg(msg); })) {}
+
+UsbService::~UsbService() {
+    shutDown();
+}
+
+void UsbService::shutDown() {
+    joinConnectionAttempt();
+    if (usbActive)
+        disconnect();
+}
+
+void UsbService::joinConnectionAttempt() {
+    if (connectorThread && connectorThread->joinable())
+        connectorThread->join();
+}
+
+void UsbService::startUsb() {
+    joinConnectionAttempt();
+    if (usbActive)
+        disconnect();
+    connectorThread = std::make_shared<std::thread>([this] { initUsb(connector->connectInterface()); });
+}
+
+void UsbService::startTesting() {
+    joinConnectionAttempt();
+    if (usbActive)
+        return;
+    connector->startTesting();
+    emit testingChanged();
+    initUsb(true);
+}
+
+void UsbService::disconnect() {
+    joinConnectionAttempt();
+    if (usbActive)
+        stopScan();
+    const bool wasTesting = connector->isTesting();
+    connector->disconnect();
+    if (wasTesting)
+        emit testingChanged();
+    initUsb(false);
+}
+
+void UsbService::initUsb(bool active) {
+    if (active) {
+        busy = false;
+        const auto reply = request(std::make_shared<GetConfigMsg>(), CONFIG_TIMEOUT);
+        if (isOfType(reply, MsgTypeEnum::CONFIG))
+            emit gotConfig(MsgHolder(reply));
+        connector->addListener(msgListener);
+        startScan();
+        sendGetState();
+        sendGetAiPrior();
+        sendGetConfigK7();
+    } else {
+        busy = true;
+        if (usbActive)
+            connector->removeListener(msgListener);
+    }
+    busyCV.notify_one();
+    emit busyChanged();
+    usbActive = active;
+    emit usbStateChanged();
+}
+
+std::shared_ptr<Msg> UsbService::request(const std::shared_ptr<Msg> &msg, milliseconds timeout) {
+    return connector->busyTransaction(msg, timeout);
+}
+
+void UsbService::sendGetConfig() {
+    request(std::make_shared<GetConfigMsg>(), GET_TIMEOUT);
+}
+
+void UsbService::sendGetState() {
+    request(std::make_shared<GetStateMsg>(), GET_TIMEOUT);
+}
+
+void UsbService::sendGetAiPrior() {
+    request(std::make_shared<GetAiPriorMsg>(), GET_TIMEOUT);
+}
+
+void UsbService::sendGetConfigK7() {
+    request(std::make_shared<GetConfigK7Msg>(), GET_TIMEOUT);
+}
+
+void UsbService::startScan() {
+    sendScan(true);
+}
+
+void UsbService::stopScan() {
+    sendScan(false);
+}
+
+void UsbService::sendScan(bool scan) {
+    request(std::make_shared<ScanMsg>(ScanMsgBuilder().scan(scan).build()), SCAN_TIMEOUT);
+}
+
+void UsbService::sendConfig(MsgHolder holder) {
+    sendHeld(holder, MsgTypeEnum::CONFIG, GET_TIMEOUT);
+}
+
+void UsbService::sendAiPrior(MsgHolder holder) {
+    sendHeld(holder, MsgTypeEnum::AI_PRIOR, SETTING_TIMEOUT);
+}
+
+void UsbService::sendConfigK7(MsgHolder holder) {
+    sendHeld(holder, MsgTypeEnum::CONFIG_K7, SETTING_TIMEOUT);
+}
+
+void UsbService::sendHeld(const MsgHolder &holder, MsgTypeEnum type, milliseconds timeout) {
+    if (isOfType(holder.getMsg(), type))
+        request(holder.getMsg(), timeout);
+}
+
+bool UsbService::setMask() {
+    const auto reply = request(std::make_shared<SetMaskMsg>(), TIMEOUT);
+    if (isOfType(reply, MsgTypeEnum::FAIL))
+        emitFail(reply, "Не удалось установить маску: ");
+    return isOfType(reply, MsgTypeEnum::MASK_RESULT) &&
+           std::static_pointer_cast<MaskResultMsg>(reply)->getMask();
+}
+
+void UsbService::resetToDefaults(int proto) {
+    for (const auto &setting : Defaults::getDefaults(static_cast<ProtoEnum>(proto))) {
+        const auto reply = request(setting, TIMEOUT);
+        if (!reply)
+            continue;
+        if (isOfType(reply, MsgTypeEnum::FAIL))
+            emitFail(reply, "Ошибка: ");
+        else if (const auto readBack = MsgType(setting->getType()).getRequestMsg())
+            request(readBack, GET_TIMEOUT);
+    }
+    sendGetConfig();
+}
+
+void UsbService::emitFail(const std::shared_ptr<Msg> &msg, const QString &prefix) {
+    const auto fail = std::static_pointer_cast<FailMsg>(msg);
+    const QString text = prefix + QString::fromStdString(fail->getFailMsg());
+    Log::error("UsbService", text.toStdString());
+    emit toast(text);
+}
+
+void UsbService::acceptMsg(const std::shared_ptr<Msg> &msg) {
+    if (!msg)
+        return;
+    switch (msg->getType()) {
+    case MsgTypeEnum::CONFIG:
+        emit gotConfig(MsgHolder(msg));
+        break;
+    case MsgTypeEnum::SCAN_RESULT:
+        acceptScanResult(msg);
+        break;
+    case MsgTypeEnum::STATE:
+        emit gotBatteryState(std::static_pointer_cast<StateMsg>(msg)->getBattLvl());
+        break;
+    case MsgTypeEnum::AI_PRIOR:
+        emit gotAiPrior(MsgHolder(msg));
+        break;
+    case MsgTypeEnum::CONFIG_K7:
+        emit gotConfigK7(MsgHolder(msg));
+        break;
+    default:
+        break;
+    }
+}
+
+void UsbService::acceptScanResult(const std::shared_ptr<Msg> &msg) {
+    const auto scan = std::static_pointer_cast<ScanResultMsg>(msg);
+    emit gotScanResult(MsgHolder(msg));
+    emit gotMask(scan->getMask());
+    const auto freqs = scan->getFreqs();
+    if (freqs.empty())
+        return;
+    const auto strongest = ScanResultMsgBuilder().freqs(strongestSignals(freqs)).build();
+    emit gotMaxFreqs(MsgHolder(std::make_shared<ScanResultMsg>(strongest)));
+}
+
+/// A signal that is not stronger than all of a list that has room left is dropped, not appended: of a falling
+/// run of signals only the first is named.
+UsbService::FreqScanResults UsbService::strongestSignals(const FreqScanResults &scan) {
+    FreqScanResults strongest;
+    strongest.reserve(MAX_FREQS_DISPLAYED + 1);
+    for (const auto &result : scan) {
+        if (!result || result->getRssi() <= MIN_FREQ_DISPLAYED || result->getType() == SigTypeEnum::NONE)
+            continue;
+        const auto weaker = std::find_if(strongest.begin(), strongest.end(), [&](const auto &listed) {
+            return result->getRssi() > listed->getRssi();
+        });
+        if (weaker != strongest.end() || strongest.empty())
+            strongest.insert(weaker, result);
+        if (strongest.size() > MAX_FREQS_DISPLAYED)
+            strongest.pop_back();
+    }
+    return strongest;
+}
