@@ -1,0 +1,107 @@
+// Walks through the screens with the built-in simulator and writes a picture of each state worth seeing.
+
+#include "screen-driver.h"
+#include "screen-engine.h"
+#include "service-objects.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <cstdio>
+
+namespace {
+
+/// Raised with a sentence for the user when a step of the tour can't be made.
+struct TourError {
+    QString text;
+};
+
+class Tour {
+public:
+    Tour(ServiceObjects &serviceObjects, QQuickWindow &window, const QDir &directory)
+        : objects(serviceObjects)
+        , driver(window)
+        , pictures(directory) {
+        QObject::connect(&objects.usbService, &UsbService::gotScanResult, &window, [this] { ++scans; });
+    }
+
+    void run() {
+        shoot("not-connected");
+        startSimulator();
+        waitForScans(1);
+        shoot("bars");
+    }
+
+private:
+    /// Twelve clicks on the help button while not connected.
+    void startSimulator() {
+        for (int i = 0; i < 12; ++i)
+            driver.click(control("info"));
+        waitFor([this] { return objects.usbService.isUsbActive(); }, "The simulator does not start.");
+    }
+
+    void waitForScans(int count) {
+        const int wanted = scans + count;
+        waitFor([&] { return scans >= wanted; }, "The simulator sends no scans.");
+    }
+
+    void waitFor(const std::function<bool()> &condition, const QString &otherwise) {
+        if (!ScreenDriver::waitFor(condition))
+            throw TourError{otherwise};
+    }
+
+    const QQuickItem &control(const QString &wordOrPicture) const {
+        const QQuickItem *found = driver.control(wordOrPicture);
+        if (!found)
+            throw TourError{"No control on the screen shows: " + wordOrPicture};
+        return *found;
+    }
+
+    void shoot(const QString &state) {
+        const QString file =
+            pictures.filePath(QString("%1-%2.png").arg(++shots, 2, 10, QChar('0')).arg(state));
+        if (!driver.picture().save(file))
+            throw TourError{"Can't write " + file};
+        std::printf("%s\n", qPrintable(file));
+    }
+
+    ServiceObjects &objects;
+    ScreenDriver driver;
+    QDir pictures;
+    int scans = 0;
+    int shots = 0;
+};
+
+int fail(const QString &text) {
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    // No serial directory: the tour leaves a device that is plugged in alone.
+    ServiceObjects objects{std::filesystem::path()};
+    registerTypes();
+    QGuiApplication app(argc, argv);
+    if (argc != 2)
+        return fail("Usage: uav-vesper-tour DIR");
+    const QDir directory(QString::fromLocal8Bit(argv[1]));
+    if (!directory.mkpath("."))
+        return fail("Can't make the folder " + directory.path());
+
+    ScreenEngine screens(objects);
+    screens.load();
+    auto *window = qobject_cast<QQuickWindow *>(screens.qmlEngine().rootObjects().value(0));
+    if (!window)
+        return fail("The window can't be shown.");
+    try {
+        Tour(objects, *window, directory).run();
+    } catch (const TourError &error) {
+        return fail(error.text);
+    }
+    objects.usbService.shutDown();
+    return 0;
+}
