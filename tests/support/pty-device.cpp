@@ -1,0 +1,378 @@
+#include "pty-device.h"
+
+#include "freq-mode.h"
+#include "msg-to-json-parser.h"
+#include "msg/scan-result-msg.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <stdexcept>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+using json11::Json;
+using std::chrono::milliseconds;
+
+namespace {
+
+const std::string NOISE = std::string("\xff}]\0\x80 [1, \"two\"] ", 17);
+constexpr int CLOSED_POLL = 5; // ms between looks whether somebody opened the port
+
+int checked(int result, const char *operation) {
+    if (result < 0)
+        throw std::runtime_error(operation);
+    return result;
+}
+
+std::map<std::string, Json::object> factorySettings(ProtoEnum proto) {
+    Json::array ranges{"EXT_2400", "EXT_4900", "EXT_5800"};
+    if (proto >= ProtoEnum::K7)
+        ranges.insert(ranges.begin(), "STD_1200");
+    Json::object config{{"proto", Proto(proto).name()},
+                        {"indLed", true},
+                        {"indSnd", true},
+                        {"indVibro", false},
+                        {"indLedLvl", 50},
+                        {"indSndLvl", 100},
+                        {"mode", "BASE"},
+                        {"wifiDet", false},
+                        {"uavDet", true},
+                        {"ranges", ranges},
+                        {"hwVers", "7.1"},
+                        {"fwVers", "2.30"},
+                        {"bootVers", "1.4"},
+                        {"md5Serial", "5d41402abc4b2a76"},
+                        {"atten", 0}};
+    Json::object configK7{{"voiceEn", true},  {"dispLvl", 50},          {"dispOffTime", 30},
+                          {"indHeadLvl", 25}, {"indHeadMode", "SOUND"}, {"btEn", false},
+                          {"btPowerDbm", 0},  {"voiceDbLvl", -94}};
+    return {{"CONFIG", config},
+            {"CONFIG_K7", configK7},
+            {"AI_PRIOR", {{"aiPrior", "DEFAULT"}}},
+            {"CONFIG_EW", {{"targets", Json::array()}}},
+            {"STATE",
+             {{"battLvl", 87}, {"battVoltage", 3.9}, {"bootload", false}, {"stateRanges", Json::object()}}}};
+}
+
+/// Behind the last brace of the object that begins at or after `start`, or npos.
+std::size_t objectEnd(const std::string &text, std::size_t start) {
+    int depth = 0;
+    bool quoted = false;
+    for (std::size_t i = start; i < text.size(); ++i) {
+        if (text[i] == '"')
+            quoted = !quoted;
+        else if (text[i] == '{' && !quoted)
+            ++depth;
+        else if (text[i] == '}' && !quoted && --depth == 0)
+            return i + 1;
+    }
+    return std::string::npos;
+}
+
+} // namespace
+
+SerialDirectory::SerialDirectory() {
+    std::string name = (fs::temp_directory_path() / "serial-XXXXXX").string();
+    if (!mkdtemp(name.data()))
+        throw std::runtime_error("mkdtemp");
+    directory = name;
+}
+
+SerialDirectory::~SerialDirectory() {
+    fs::remove_all(directory);
+}
+
+PtyDevice::PtyDevice(const SerialDirectory &directory, ProtoEnum generation, const std::string &linkName)
+    : proto(generation)
+    , link(directory.path() / linkName)
+    , wakeEvent(checked(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC), "eventfd"))
+    , settings(factorySettings(generation)) {
+    plugIn();
+}
+
+PtyDevice::~PtyDevice() {
+    unplug();
+    close(wakeEvent);
+}
+
+void PtyDevice::plugIn() {
+    if (plugged)
+        return;
+    master = checked(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC), "posix_openpt");
+    checked(grantpt(master), "grantpt");
+    checked(unlockpt(master), "unlockpt");
+    slaveName = ptsname(master);
+    // Whoever opens the port sets the line up; before that it must not send back what the device says.
+    termios line = lineSettings();
+    line.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    setLineSettings(line);
+    close(checked(::open(slaveName.c_str(), O_RDWR | O_NOCTTY), "open")); // from now on "closed" can be seen
+    plugged = true;
+    thread = std::thread([this] { run(); });
+    fs::create_symlink(fs::relative(slaveName, link.parent_path()), link);
+}
+
+void PtyDevice::unplug() {
+    if (!plugged.exchange(false))
+        return;
+    fs::remove(link);
+    wake();
+    thread.join();
+    close(master);
+    const std::lock_guard lock(mutex);
+    setOpen(false);
+}
+
+void PtyDevice::setManner(Manner newManner) {
+    const std::lock_guard lock(mutex);
+    manner = newManner;
+}
+
+void PtyDevice::setAnswerDelay(milliseconds delay) {
+    const std::lock_guard lock(mutex);
+    answerDelay = delay;
+}
+
+void PtyDevice::setScanPeriod(milliseconds period) {
+    const std::lock_guard lock(mutex);
+    scanPeriod = period;
+    wake();
+}
+
+void PtyDevice::startStreaming() {
+    const std::lock_guard lock(mutex);
+    scanning = true;
+    wake();
+}
+
+void PtyDevice::setBattery(int percent) {
+    const std::lock_guard lock(mutex);
+    settings["STATE"]["battLvl"] = percent;
+}
+
+void PtyDevice::sendText(const std::string &text) {
+    const std::lock_guard lock(mutex);
+    outgoing.emplace(Clock::now(), text);
+    wake();
+}
+
+void PtyDevice::send(const std::shared_ptr<Msg> &msg) {
+    sendText(MsgToJsonParser::toJson(msg) + "\n");
+}
+
+void PtyDevice::sendScan(const std::vector<std::shared_ptr<FreqScanResult>> &results, bool maskOn) {
+    send(std::make_shared<ScanResultMsg>(ScanResultMsgBuilder().freqs(results).mask(maskOn).build()));
+}
+
+std::string PtyDevice::received() const {
+    const std::lock_guard lock(mutex);
+    return record;
+}
+
+std::vector<std::string> PtyDevice::requests() const {
+    const std::lock_guard lock(mutex);
+    return requestTexts;
+}
+
+std::vector<std::string> PtyDevice::requestTypes() const {
+    const std::lock_guard lock(mutex);
+    return types;
+}
+
+void PtyDevice::clearRecord() {
+    const std::lock_guard lock(mutex);
+    record.clear();
+    framed = 0;
+    requestTexts.clear();
+    types.clear();
+}
+
+Json PtyDevice::setting(const std::string &type, const std::string &key) const {
+    const std::lock_guard lock(mutex);
+    return Json(settings.at(type))[key];
+}
+
+bool PtyDevice::isScanning() const {
+    const std::lock_guard lock(mutex);
+    return scanning;
+}
+
+bool PtyDevice::waitForRequests(std::size_t count) const {
+    std::unique_lock lock(mutex);
+    return changed.wait_for(lock, DEADLINE, [&] { return types.size() >= count; });
+}
+
+bool PtyDevice::waitForOpen(bool wanted) const {
+    std::unique_lock lock(mutex);
+    return changed.wait_for(lock, DEADLINE, [&] { return open == wanted; });
+}
+
+termios PtyDevice::lineSettings() const {
+    termios line{};
+    checked(tcgetattr(master, &line), "tcgetattr");
+    return line;
+}
+
+void PtyDevice::setLineSettings(const termios &line) {
+    checked(tcsetattr(master, TCSANOW, &line), "tcsetattr");
+}
+
+void PtyDevice::wake() {
+    eventfd_write(wakeEvent, 1);
+}
+
+void PtyDevice::run() {
+    while (plugged) {
+        pollfd ends[] = {{wakeEvent, POLLIN, 0}, {master, POLLIN, 0}};
+        int timeout = CLOSED_POLL;
+        bool isOpen = false;
+        {
+            const std::lock_guard lock(mutex);
+            readBytes();
+            poll(&ends[1], 1, 0);
+            isOpen = !(ends[1].revents & POLLHUP);
+            setOpen(isOpen);
+            if (isOpen) {
+                write();
+                timeout = msUntilDue();
+            }
+        }
+        // A closed port answers every poll at once, so only the other end is waited for then.
+        poll(ends, isOpen ? 2 : 1, timeout);
+        eventfd_t ignored;
+        eventfd_read(wakeEvent, &ignored);
+    }
+}
+
+/// What nobody has read is gone with a closed port and does not meet the next who opens it.
+void PtyDevice::setOpen(bool isOpen) {
+    if (!isOpen) {
+        outgoing.clear();
+        leaving.clear();
+    }
+    if (isOpen == open)
+        return;
+    open = isOpen;
+    scanDue = Clock::now();
+    changed.notify_all();
+    if (!isOpen && plugged) {
+        const int slave = checked(::open(slaveName.c_str(), O_RDWR | O_NOCTTY), "open");
+        tcflush(slave, TCIFLUSH);
+        close(slave);
+    }
+}
+
+void PtyDevice::readBytes() {
+    char bytes[4096];
+    for (ssize_t count; (count = ::read(master, bytes, sizeof bytes)) > 0;)
+        record.append(bytes, static_cast<std::size_t>(count));
+    takeRequests();
+}
+
+void PtyDevice::takeRequests() {
+    for (std::size_t start, end; (start = record.find('{', framed)) != std::string::npos &&
+                                 (end = objectEnd(record, start)) != std::string::npos;
+         framed = end) {
+        std::string text = record.substr(start, end - start);
+        text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
+        std::string error;
+        const Json request = Json::parse(text, error);
+        const std::string type = request["type"].string_value();
+        requestTexts.push_back(text);
+        types.push_back(type);
+        changed.notify_all();
+        if (manner != Manner::SILENT)
+            queue(answer(type, request).dump(), answerDelay);
+    }
+}
+
+Json PtyDevice::answer(const std::string &type, const Json &request) {
+    const auto fail = [&](const char *why) {
+        return Json(Json::object{{"type", "FAIL"}, {"respOn", type}, {"failMsg", why}});
+    };
+    const auto known = MsgType::getEnumValue(type);
+    if (!known || MsgType(*known).getSinceProto() > proto)
+        return fail("unknown request");
+    if (type.rfind("GET_", 0) == 0 && settings.count(type.substr(4))) {
+        Json::object reply = settings.at(type.substr(4));
+        reply["type"] = type.substr(4);
+        return reply;
+    }
+    if (type == "SCAN")
+        scanning = request["scan"].bool_value();
+    else if (manner == Manner::REFUSING)
+        return fail("refused");
+    else if (type == "SET_MASK")
+        return Json::object{{"type", "MASK_RESULT"}, {"mask", mask = !mask}};
+    else if (!settings.count(type))
+        return fail("unknown request");
+    else
+        for (const auto &[key, value] : request.object_items())
+            settings[type][key] = value;
+    return Json::object{{"type", "OK"}, {"respOn", type}};
+}
+
+void PtyDevice::queue(const std::string &message, milliseconds delay) {
+    std::string bytes = message + "\n";
+    if (manner == Manner::NOISY)
+        bytes.insert(0, NOISE);
+    else if (manner == Manner::CUT)
+        bytes.resize(bytes.size() / 2);
+    outgoing.emplace(Clock::now() + delay, bytes);
+}
+
+void PtyDevice::write() {
+    if (isStreaming() && Clock::now() >= scanDue) {
+        scanDue = Clock::now() + scanPeriod;
+        queue(MsgToJsonParser::toJson(nextScan()), milliseconds(0));
+    }
+    for (auto next = outgoing.begin(); next != outgoing.end() && next->first <= Clock::now();
+         next = outgoing.erase(next))
+        leaving += next->second;
+    const ssize_t count = ::write(master, leaving.data(), leaving.size());
+    leaving.erase(0, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+}
+
+bool PtyDevice::isStreaming() const {
+    return scanning && manner != Manner::SILENT && scanPeriod.count() > 0;
+}
+
+/// -1 for ever.
+int PtyDevice::msUntilDue() const {
+    if (!leaving.empty())
+        return 1; // the reader is behind
+    auto due = isStreaming() ? scanDue : Clock::time_point::max();
+    if (!outgoing.empty())
+        due = std::min(due, outgoing.begin()->first);
+    if (due == Clock::time_point::max())
+        return -1;
+    return static_cast<int>(std::max<long>(std::chrono::ceil<milliseconds>(due - Clock::now()).count(), 0));
+}
+
+/// A peak wanders through each active range.
+std::shared_ptr<Msg> PtyDevice::nextScan() {
+    static const SigTypeEnum KINDS[] = {SigTypeEnum::WIFI, SigTypeEnum::DIG, SigTypeEnum::FPV};
+    std::vector<std::shared_ptr<FreqScanResult>> results;
+    std::size_t kind = 0;
+    for (const Json &range : settings["CONFIG"]["ranges"].array_items()) {
+        const auto mode = FreqMode::getEnumValue(range.string_value());
+        const auto plan = mode ? FreqMode(*mode).getFreqList()->getFreqs() : std::vector<float>();
+        const int peak = plan.empty() ? 0 : static_cast<int>(scans % plan.size());
+        for (int i = 0; i < static_cast<int>(plan.size()); ++i) {
+            const float rssi = static_cast<float>(std::max(-105, -78 - 6 * std::abs(i - peak)));
+            const auto type = rssi > -90 ? KINDS[kind % std::size(KINDS)] : SigTypeEnum::NONE;
+            results.push_back(std::make_shared<FreqScanResult>(FreqScanResultBuilder()
+                                                                   .freqMHz(plan[static_cast<std::size_t>(i)])
+                                                                   .rssi(rssi)
+                                                                   .type(type)
+                                                                   .build()));
+        }
+        ++kind;
+    }
+    ++scans;
+    return std::make_shared<ScanResultMsg>(
+        ScanResultMsgBuilder().freqs(results).mask(mask).maskedModes({}).build());
+}
