@@ -47,16 +47,10 @@ TEST(Msg, ReaderTakesEachFieldByItsOwnRule) {
              Case{"CONFIG", R"("proto":"k7","mode":2,"uavDet":true)", R"("uavDet" : true,|)"},
              Case{"CONFIG", R"("ranges":["STD_2400",7,"STD_3300",null,"EXT_1200"])",
                   R"("ranges" : [|"STD_2400",|"EXT_1200"|],|)"},
-             Case{"CONFIG", R"("ranges":[])", R"("ranges" : [||],|)"},
              Case{"CONFIG", R"("ranges":"STD_2400")", R"("ranges" : [||],|)"},
              Case{"CONFIG_K7", R"("indHeadMode":"sound","btPowerDbm":-7)", R"("btPowerDbm" : -7,|)"},
              Case{"FAIL", R"("respOn":"NOTHING","failMsg":"no")", R"("failMsg" : "no",|)"},
-             Case{"AI_PRIOR", R"("aiPrior":"default")", ""},
-             Case{"SET_MASK_RANGES", R"("maskedModes":{"R_1200":1})", R"("maskedModes" : [||],|)"},
-             Case{"SET_MASK_RANGES", R"("maskedModes":["R_1200",1,"STD_1200"])",
-                  R"("maskedModes" : [|"R_1200"|],|)"},
              Case{"SDR_DATA", R"("data":[1,"2",3.7,null])", R"("data" : [|1,|3|],|)"},
-             Case{"SDR_DATA", R"("data":"x")", R"("data" : [||],|)"},
              Case{"FREQS", R"("freqList":[5])", ""},
              Case{"FREQS", R"("freqList":{})", R"("freqList" : {||},|)"},
              Case{"FREQS", R"("freqList":{"freqs":[2400,"5",0.0000004,-1.5]})",
@@ -65,30 +59,23 @@ TEST(Msg, ReaderTakesEachFieldByItsOwnRule) {
              Case{"STATE", R"("battLvl":87.9,"battVoltage":"4","bootload":0)", R"("battLvl" : 87,|)"},
              Case{"STATE", R"("battVoltage":2400.1)", R"("battVoltage" : 2400.100098,|)"},
              Case{"STATE", R"("stateRanges":5)", ""},
-             Case{"STATE", R"("stateRanges":{})", R"("stateRanges" : {},|)"},
              Case{"STATE", R"("stateRanges":{"R_1300":{},"R_1200":1})", R"("stateRanges" : {},|)"},
              Case{"STATE", R"("stateRanges":{"R_4900":{"rew":true},"R_2400":{}})",
                   R"("stateRanges" : {"R_2400":{||},|"R_4900":{|"rew" : true|}},|)"},
-             Case{"CONFIG_RANGES", R"("cfgRanges":[{"refLvl":1}])", ""},
              Case{"CONFIG_RANGES", R"("cfgRanges":{"R_1200":"x","R_2400":{"refLvl":42}})",
                   R"("cfgRanges" : {"R_2400":{|"refLvl" : 42|}},|)"},
-             Case{"FREQ_RANGE_ATTEN", R"("attens":[])", ""},
              Case{"FREQ_RANGE_ATTEN", R"("attens":{"R_5800":"1","R_2400":3.7,"ALL":5})",
                   R"("attens" : {"R_2400":3},|)"},
              Case{"SCAN_RESULT", R"("freqs":5,"mask":"true")", R"("freqs" : [||],|)"},
              Case{"SCAN_RESULT", R"("freqs":[1,{"freqMHz":900},[],{"type":"UFO"}])",
                   R"("freqs" : [|{|"freqMHz" : 900.000000|},|{||}|],|)"},
-             Case{"CONFIG_EW", R"("targets":{})", R"("targets" : [||],|)"},
              Case{"CONFIG_EW",
                   R"("targets":[{"ewOutConf":[],"prior":2},{"ewOutConf":{"b":{"x":[1,{}]},"a":"y"}}])",
                   R"("targets" : [|{|"prior" : 2|},|{|"ewOutConf" : {"a":"y",|"b":{"x": [1, {}]}}|}|],|)"},
              Case{"SWITCH_EW_OUTPUT", R"("conf":[],"on":1,"id":2)", R"("id" : 2,|)"},
              Case{"SWITCH_EW_OUTPUT", R"("conf":{})", R"("conf" : {},|)"},
-             Case{"EW_OUTPUT_STATES", R"("outStates":[{"id":1,"state":"on","stateMsg":"hot"}])",
-                  R"("outStates" : [|{|"id" : 1,|"stateMsg" : "hot"|}|],|)"},
              Case{"EW_HARDWARE", R"("outs":[{"params":[{}]}])", R"("outs" : [|{|"params" : [|{||}|]|}|],|)"},
              Case{"WRITE_EXT_MEM", R"("offset":4096.9)", R"("offset" : 4096,|)"},
-             Case{"WRITE_EXT_MEM", R"("offset":-1.5)", R"("offset" : -1,|)"},
              Case{"WRITE_EXT_MEM", R"("offset":9007199254740993)", R"("offset" : 9007199254740992,|)"},
              Case{"WRITE_EXT_MEM", R"("offset":9223372036854775808)", R"("offset" : )" + most + ",|"},
              Case{"WRITE_EXT_MEM", R"("offset":-1e300)", R"("offset" : )" + least + ",|"},
@@ -104,31 +91,18 @@ TEST(Msg, ReaderTakesEachFieldByItsOwnRule) {
 }
 
 TEST(Msg, GettersGiveWhatWasRead) {
-    const auto config =
-        readAs<ConfigMsg>(R"({"proto":"K7EW","indSndLvl":70,"ranges":["EXT_5800"],"fwVers":"2"})");
-    EXPECT_EQ(config->getProto(), ProtoEnum::K7EW);
-    EXPECT_EQ(config->getIndSndLvl(), 70);
-    EXPECT_THAT(config->getRanges(), ElementsAre(FreqModeEnum::EXT_5800));
-    EXPECT_EQ(config->getFwVers(), "2");
-    const auto data = readAs<AiDataMsg>(R"({"freqMHz":2400.5,"ai_res":"DIG","cnt":0,"data":[1,2,3]})");
+    const auto data = readAs<AiDataMsg>(R"({"type":"OK","freqMHz":2400.5,"ai_res":"DIG","data":[1,2,3]})");
+    EXPECT_EQ(data->getType(), MsgTypeEnum::AI_DATA) << "the class's own reader does not ask for the type";
     EXPECT_EQ(data->getFreqMHz(), 2400.5f);
     EXPECT_EQ(data->getAi_res(), SigTypeEnum::DIG);
-    EXPECT_EQ(data->getCnt(), 0);
     EXPECT_THAT(data->getData(), ElementsAre(1, 2, 3));
     const auto state = readAs<StateMsg>(R"({"stateRanges":{"R_1200":{"overflow":true}}})");
     EXPECT_TRUE(state->getStateRanges().at(MasterFreqModeEnum::R_1200)->getOverflow());
-    EXPECT_TRUE(readAs<AiModeMsg>(R"({"ai_mode":true})")->getAi_mode());
     EXPECT_EQ(readAs<WriteFlashMsg>(R"({"b64Buffer":"QQ=="})")->getB64Buffer(), "QQ==");
-    EXPECT_EQ(readAs<WriteExtMemoryMsg>(R"({"offset":5000000000})")->getOffset(), 5000000000);
+    EXPECT_EQ(readAs<WriteExtMemoryMsg>(R"({"offset":-5000000000.9})")->getOffset(), -5000000000);
     EXPECT_THAT(FreqCalib::parseJson(R"({"fLvls":[-60]})")->getFLvls(), ElementsAre(-60));
     EXPECT_EQ(ConfParam::parseJson(R"({"numMin":2400.1})")->getNumMin(), 2400.1);
     EXPECT_EQ(FreqScanResult::parseJson("[]"), nullptr);
-}
-
-TEST(Msg, ClassReaderKeepsItsOwnType) {
-    const auto config = readAs<ConfigMsg>(R"({"type":"OK","atten":1})");
-    EXPECT_EQ(config->getType(), MsgTypeEnum::CONFIG);
-    EXPECT_EQ(config->parseMsg(), wire(R"({|"atten" : 1,|"type" : "CONFIG"|})"));
 }
 
 TEST(Msg, SetterMarksAndRemoverUnmarks) {
