@@ -15,7 +15,8 @@ class Msg;
 
 /// The message types in the order of their numbers: name (also the value of the key "type"), first protocol
 /// generation that has it, class, and the class of the request that makes the device send it.
-/// FREQ_RANGE_ATTEN has a request class but no request here, as devices were never asked for it.
+/// FREQ_RANGE_ATTEN has a request class but no request here: nothing reads it back. USB_NODE_INIT came last
+/// and holds for every generation all the same.
 #define MESSAGE_TYPES(ROW)                                                \
     ROW(CONFIG, K1, ConfigMsg, GetConfigMsg)                              \
     ROW(GET_CONFIG, K1, GetConfigMsg, NoRequest)                          \

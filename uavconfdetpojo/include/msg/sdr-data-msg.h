@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// Raw data at one frequency.
+/// A block of SDR data at one frequency.
 ///
 /// - `freqMHz`: in MHz
 #define SDR_DATA_MSG_FIELDS(FIELD) \

@@ -2,9 +2,10 @@
 
 #include "msg/msg.h"
 
-/// Asks for raw data at one frequency.
+/// The SDR mode at one frequency. What it does is the business of the device.
 ///
 /// - `freqMHz`: in MHz
+/// - `count`: without a unit here
 #define SDR_MODE_MSG_FIELDS(FIELD) \
     FIELD(float, freqMHz, FreqMHz) \
     FIELD(int, count, Count)
