@@ -13,7 +13,7 @@ function(extract language variable)
 endfunction()
 
 function(run)
-    execute_process(COMMAND ${ARGV} OUTPUT_VARIABLE output COMMAND_ECHO STDOUT COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND ${ARGV} OUTPUT_VARIABLE output ECHO_OUTPUT_VARIABLE COMMAND_ECHO STDOUT COMMAND_ERROR_IS_FATAL ANY)
     set(output "${output}" PARENT_SCOPE)
 endfunction()
 
