@@ -131,8 +131,7 @@ TEST(Msg, SetterMarksAndRemoverUnmarks) {
 
 TEST(Msg, BuilderOperationsReturnCopies) {
     ConfigK7MsgBuilder builder;
-    ConfigK7MsgBuilder chained = builder.dispLvl(5);
-    chained.btEn(true);
+    const ConfigK7MsgBuilder chained = builder.dispLvl(5).btEn(true);
     EXPECT_EQ(builder.build().parseMsg(), wire(R"({|"dispLvl" : 5,|"type" : "CONFIG_K7"|})"));
     EXPECT_EQ(chained.build().parseMsg(), wire(R"({|"dispLvl" : 5,|"btEn" : true,|"type" : "CONFIG_K7"|})"));
 }
