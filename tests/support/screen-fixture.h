@@ -1,0 +1,141 @@
+#pragma once
+
+#include "messages.h"
+#include "pty-device.h"
+#include "screen-driver.h"
+#include "screen-engine.h"
+#include "service-objects.h"
+
+#include <QTest>
+#include <gmock/gmock.h>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <stdexcept>
+
+/// Keeps what Qt warns of, on any thread, while it lives. One at a time.
+class QtWarnings {
+public:
+    QtWarnings() { qInstallMessageHandler(keep); }
+    ~QtWarnings() { qInstallMessageHandler(nullptr); }
+    QtWarnings(const QtWarnings &) = delete;
+    QtWarnings &operator=(const QtWarnings &) = delete;
+
+    static std::vector<std::string> take() {
+        const std::lock_guard lock(mutex);
+        return std::exchange(texts, {});
+    }
+
+private:
+    static void keep(QtMsgType type, const QMessageLogContext &, const QString &text) {
+        const std::lock_guard lock(mutex);
+        if (type != QtDebugMsg && type != QtInfoMsg)
+            texts.push_back(text.toStdString());
+    }
+
+    static inline std::mutex mutex;
+    static inline std::vector<std::string> texts;
+};
+
+/// The application's window as a user has it, and a device to plug in. A warning of Qt's fails the test.
+class ScreenFixture : public testing::Test {
+protected:
+    ScreenFixture() {
+        [[maybe_unused]] static const bool once = (registerTypes(), true);
+        screens = std::make_unique<ScreenEngine>(objects);
+        screens->load();
+        window = qobject_cast<QQuickWindow *>(screens->qmlEngine().rootObjects().value(0));
+        if (!window || !QTest::qWaitForWindowExposed(window))
+            throw std::runtime_error("the window does not show");
+        driver.emplace(*window);
+        // Made behind the documents' own connections: once they count, the screens have had their turn.
+        const auto count = [this] { ++messages; };
+        const UsbService &service = objects.usbService;
+        QObject::connect(&service, &UsbService::gotConfig, window, [this] { ++messages, ++configs; });
+        QObject::connect(&service, &UsbService::gotAiPrior, window, count);
+        QObject::connect(&service, &UsbService::gotConfigK7, window, count);
+        QObject::connect(&service, &UsbService::gotBatteryState, window, count);
+        QObject::connect(&service, &UsbService::gotScanResult, window, count);
+        QObject::connect(&service, &UsbService::usbStateChanged, window, [this] { ++stateChanges; });
+    }
+
+    /// Ends as the application does.
+    void TearDown() override {
+        objects.usbService.shutDown();
+        screens.reset();
+        EXPECT_THAT(QtWarnings::take(), testing::IsEmpty());
+    }
+
+    /// Plugs in a device in place of the one before. It scans only when it is given a period.
+    void plugIn(ProtoEnum generation) {
+        device.reset();
+        device.emplace(directory, generation);
+        device->setScanPeriod(std::chrono::milliseconds(0));
+    }
+
+    /// Presses the USB button until the screens have the device's settings: on a busy machine the device may
+    /// answer too late for an attempt.
+    void connectByButton() {
+        const int known = configs;
+        for (int presses = 0; !isConnected() || configs == known; ++presses) {
+            ASSERT_LT(presses, 50) << "no connection";
+            const int seen = stateChanges;
+            click("usb");
+            ASSERT_TRUE(ScreenDriver::waitFor([&] { return stateChanges > seen; }));
+        }
+        drainWire();
+    }
+    void disconnectByButton() {
+        click("usb");
+        ASSERT_FALSE(isConnected());
+    }
+    bool isConnected() const { return objects.usbService.isUsbActive(); }
+
+    /// Clicks the visible control with this word or picture on it.
+    void click(const QString &wordOrPicture) {
+        const QQuickItem *control = driver->control(wordOrPicture);
+        ASSERT_NE(control, nullptr) << qPrintable(wordOrPicture);
+        driver->click(*control);
+    }
+
+    /// The texts that reach the connected device because of a gesture.
+    std::vector<std::string> sentBy(const std::function<void()> &gesture) {
+        device->clearRecord();
+        gesture();
+        drainWire();
+        auto texts = device->requests();
+        texts.pop_back();
+        return texts;
+    }
+
+    /// Has the connected device send a text, and waits until the screens have taken it.
+    void deviceSays(const std::string &text) {
+        const int seen = messages;
+        device->sendText(text + "\n");
+        ASSERT_TRUE(ScreenDriver::waitFor([&] { return messages > seen; })) << text;
+    }
+
+    SerialDirectory directory;
+    std::optional<PtyDevice> device;
+    ServiceObjects objects{directory.path()};
+    QtWarnings warnings;
+    std::unique_ptr<ScreenEngine> screens;
+    QQuickWindow *window = nullptr;
+    std::optional<ScreenDriver> driver;
+
+private:
+    /// Waits until the device has all that was sent: the request sent last, which changes nothing on the
+    /// screens, has arrived.
+    void drainWire() {
+        const auto count = device->requests().size();
+        objects.usbService.sendGetAiPrior();
+        ASSERT_TRUE(ScreenDriver::waitFor([&] {
+            const auto types = device->requestTypes();
+            return types.size() > count && types.back() == "GET_AI_PRIOR";
+        }));
+    }
+
+    int messages = 0;
+    int configs = 0;
+    int stateChanges = 0;
+};
