@@ -34,8 +34,11 @@ bool isOfType(const std::shared_ptr<Msg> &msg, MsgTypeEnum type) {
 } // namespace
 
 UsbService::UsbService(QObject *parent, const std::filesystem::path &serialDirectory)
+    : UsbService(std::make_unique<LinuxConnector>(serialDirectory), parent) {}
+
+UsbService::UsbService(std::unique_ptr<SerialInterfaceConnector> deviceConnector, QObject *parent)
     : QObject(parent)
-    , connector(std::make_unique<LinuxConnector>(serialDirectory))
+    , connector(std::move(deviceConnector))
     , msgListener(std::make_shared<std::function<void(std::shared_ptr<Msg>)>>(
           [this](const std::shared_ptr<Msg> &msg) { acceptMsg(msg); })) {}
 

@@ -38,6 +38,8 @@ public:
 
     explicit UsbService(QObject *parent = nullptr,
                         const std::filesystem::path &serialDirectory = LinuxConnector::SERIAL_DIRECTORY);
+    /// On another connector than that for the serial devices of this system.
+    explicit UsbService(std::unique_ptr<SerialInterfaceConnector> connector, QObject *parent = nullptr);
     ~UsbService() override;
 
     /// The connection is up and its first requests were made.
