@@ -1,3 +1,5 @@
+#include "screen-engine.h"
+
 #include <QGuiApplication>
 #include <gtest/gtest.h>
 #include <memory>
@@ -20,6 +22,7 @@ int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     const auto app = makeApplication(argc, argv);
+    registerTypes();
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
