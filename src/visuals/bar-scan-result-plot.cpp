@@ -1,5 +1,6 @@
 #include "visuals/bar-scan-result-plot.h"
 
+#include "common/bounded.h"
 #include "common/sig-type-colors.h"
 #include "freq-mode.h"
 #include "master-freq-mode.h"
@@ -10,8 +11,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int LEVEL_STEP_DB = 5;
 
 /// The labels come anew with each size, the grid lines they stand for do not.
 template <typename Label>
@@ -113,7 +112,7 @@ void BarScanResultPlot::paintPlot(QPainter &painter) const {
         if (freq < minFreq || freq > maxFreq)
             continue;
         painter.setBrush(SigTypeColors::getColor(result->getType()));
-        const int height = scaleY(static_cast<int>(result->getRssi()));
+        const int height = scaleY(static_cast<int>(bounded(result->getRssi())));
         painter.drawRect(scaleX(freq), plotHeight - height, width, height);
     }
 }

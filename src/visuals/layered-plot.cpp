@@ -40,10 +40,8 @@ void LayeredPlot::paintBackground() {
     const QSize size(static_cast<int>(boundingRect().width()), static_cast<int>(boundingRect().height()));
     imageArea = layOut(size);
     background = makeLayer(size, [this](QPainter &painter) {
-        if (imageArea.isEmpty())
-            return;
-        painter.setFont(labelFont());
-        paintLegend(painter);
+        if (!imageArea.isEmpty())
+            paintLegend(painter);
     });
 }
 
@@ -93,6 +91,7 @@ QPixmap LayeredPlot::makeLayer(const QSize &size, PaintContent paintContent) con
     layer.fill(backgroundColor);
     QPainter painter(&layer);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(labelFont());
     paintContent(painter);
     return layer;
 }

@@ -47,12 +47,16 @@ signals:
     void sizeChanged();
 
 protected:
+    static constexpr MasterFreqModeEnum NO_BAND = static_cast<MasterFreqModeEnum>(-1);
+    static constexpr int LEVEL_STEP_DB = 5; ///< spacing of the level labels
+
     /// Works out the place of `image` in an item of this size, in pixels. The place may be empty: then
     /// neither labels nor data are painted, so their painting need not mind an area without width or height.
     virtual QRect layOut(const QSizeF &item) = 0;
     /// Paints labels onto `background`, which is filled already; the painter has labelFont() set.
     virtual void paintLegend(QPainter &painter) = 0;
-    /// Paints data onto `image`, which is filled already; (0, 0) is the plot area's corner.
+    /// Paints data onto `image`, which is filled already; (0, 0) is the plot area's corner, and the painter
+    /// has labelFont() set.
     virtual void paintData(QPainter &painter) = 0;
 
     void paintBackground();
@@ -62,7 +66,7 @@ protected:
     void componentComplete() override;
     void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
-    MasterFreqModeEnum masterMode = static_cast<MasterFreqModeEnum>(-1);
+    MasterFreqModeEnum masterMode = NO_BAND;
     QColor backgroundColor;
     int lineWidth = 2;
     int textSize = 10;
