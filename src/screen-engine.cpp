@@ -4,6 +4,8 @@
 #include "msg-holder.h"
 #include "version.h"
 #include "visuals/bar-scan-result-plot.h"
+#include "visuals/freq-plot.h"
+#include "visuals/hist-view.h"
 #include "visuals/plots-list-model.h"
 #include "visuals/uav-switch.h"
 #include "visuals/uav-three-switch.h"
@@ -17,6 +19,8 @@ void registerTypes() {
     qmlRegisterType<PlotListModel>("plotListModel", 1, 0, "PlotListModel");
     qmlRegisterType<UavSwitch>("uavSwitch", 1, 0, "UavSwitch");
     qmlRegisterType<UavThreeSwitch>("uavThreeSwitch", 1, 0, "UavThreeSwitch");
+    qmlRegisterType<HistView>("histView", 1, 0, "HistView");
+    qmlRegisterType<FreqPlot>("freqPlot", 1, 0, "FreqPlot");
     qRegisterMetaType<History>("History");
     qRegisterMetaType<MsgHolder>("MsgHolder");
 }

@@ -3,6 +3,7 @@
 #include "screen-driver.h"
 #include "screen-engine.h"
 #include "service-objects.h"
+#include "visuals/layered-plot.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -27,8 +28,12 @@ public:
     void run() {
         shoot("not-connected");
         startSimulator();
-        waitForScans(1);
+        waitForScans(History::DEFAULT_HISTORY_LEN);
         shoot("bars");
+        swipeAllBands();
+        shoot("course-of-the-strongest-signal");
+        swipeAllBands();
+        shoot("persistence");
     }
 
 private:
@@ -37,6 +42,17 @@ private:
         for (int i = 0; i < 12; ++i)
             driver.click(control("info"));
         waitFor([this] { return objects.usbService.isUsbActive(); }, "The simulator does not start.");
+    }
+
+    /// One swipe to the left on each band.
+    void swipeAllBands() {
+        const auto views =
+            driver.findAll([](const QQuickItem &item) { return qobject_cast<const LayeredPlot *>(&item); });
+        for (const QQuickItem *view : views) {
+            const QPoint middle = ScreenDriver::middleOf(*view);
+            driver.drag(middle + QPoint(100, 0), middle - QPoint(100, 0));
+            waitFor([&] { return !view->isVisible(); }, "A band does not follow the swipe.");
+        }
     }
 
     void waitForScans(int count) {

@@ -1,5 +1,7 @@
 import QtQuick 2.0
 import barScanResultPlot 1.0
+import freqPlot 1.0
+import histView 1.0
 
 Rectangle {
     objectName: "mainPage"
@@ -21,8 +23,11 @@ Rectangle {
         }
 
         function showHistories() {
-            for (var i = 0; i < historyModel.rowCount(); ++i)
+            for (var i = 0; i < historyModel.rowCount(); ++i) {
+                histViews[i].setHistory(historyModel.getHistory(i))
                 barPlots[i].setHistory(historyModel.getHistory(i))
+                freqPlots[i].setHistory(historyModel.getHistory(i))
+            }
         }
 
         width: parent.width
@@ -42,7 +47,7 @@ Rectangle {
             id: rect
 
             // The views side by side, in the order of `selected`.
-            readonly property var views: [barPlot]
+            readonly property var views: [barPlot, freqPlot, histView]
             property int selected: 0
 
             function select(next) {
@@ -82,6 +87,39 @@ Rectangle {
                 lineWidth: themeData.fontSizeTiny * 0.1
                 textSize: themeData.fontSizeTiny
                 Component.onCompleted: plots.barPlots[index] = barPlot
+            }
+
+            FreqPlot {
+                id: freqPlot
+
+                x: plots.width
+                width: plots.width
+                height: rect.height
+                visible: false
+                backgroundColor: "#41505f"
+                textColor: themeData.lightTextColor
+                borderColor: "gray"
+                textSize: themeData.fontSizeTiny
+                lineWidth: themeData.fontSizeTiny * 0.2
+                lang: qsTr("language")
+                Component.onCompleted: plots.freqPlots[index] = freqPlot
+            }
+
+            HistView {
+                id: histView
+
+                x: plots.width * 2
+                width: plots.width
+                height: rect.height
+                visible: false
+                backgroundColor: themeData.darkTextColor
+                textColor: themeData.lightTextColor
+                borderColor: "gray"
+                textSize: themeData.fontSizeTiny
+                lineWidth: themeData.fontSizeTiny * 0.2
+                // The view's own property: the data come by setHistory alone.
+                history: history
+                Component.onCompleted: plots.histViews[index] = histView
             }
 
             MouseArea {
