@@ -70,6 +70,8 @@ Rectangle {
                     id: anim
 
                     velocity: 2000
+                    // complete() alone does not reach an animation of this kind inside a behavior.
+                    duration: 0
                     onRunningChanged: {
                         if (!running)
                             rect.views.forEach(function (view, i) { view.visible = i === rect.selected })
