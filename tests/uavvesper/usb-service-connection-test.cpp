@@ -1,7 +1,6 @@
 #include "pty-device.h"
 #include "usb-service.h"
 
-#include <QCoreApplication>
 #include <QTest>
 #include <fstream>
 #include <gmock/gmock.h>
@@ -19,9 +18,9 @@ class ConnectedService {
 public:
     explicit ConnectedService(const SerialDirectory &directory)
         : usb(nullptr, directory.path()) {
-        QObject::connect(&usb, &UsbService::usbStateChanged, qApp, [this] { ++states; });
-        QObject::connect(&usb, &UsbService::gotScanResult, qApp, [this] { ++scans; });
-        QObject::connect(&usb, &UsbService::gotConfig, qApp, [this] { ++configs; });
+        QObject::connect(&usb, &UsbService::usbStateChanged, &receiver, [this] { ++states; });
+        QObject::connect(&usb, &UsbService::gotScanResult, &receiver, [this] { ++scans; });
+        QObject::connect(&usb, &UsbService::gotConfig, &receiver, [this] { ++configs; });
     }
 
     /// What the USB button does while not connected; false if no device was found.
@@ -47,6 +46,7 @@ public:
     }
 
     int states = 0, scans = 0, configs = 0;
+    QObject receiver; // takes what is on its way to this object with it
     UsbService usb;
 };
 

@@ -1,7 +1,6 @@
 #include "msg/all-messages.h"
 #include "usb-service.h"
 
-#include <QCoreApplication>
 #include <QSignalSpy>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -119,9 +118,10 @@ TEST_F(UsbServiceSignals, EachTypeHasItsSignals) {
 }
 
 TEST_F(UsbServiceRequests, AConnectionBeginsAndEndsInOrder) {
+    const QObject receiver;
     int states = 0, configs = 0; // counted on this thread, wherever the signal is emitted
-    QObject::connect(&service, &UsbService::usbStateChanged, qApp, [&] { ++states; });
-    QObject::connect(&service, &UsbService::gotConfig, qApp, [&] { ++configs; });
+    QObject::connect(&service, &UsbService::usbStateChanged, &receiver, [&] { ++states; });
+    QObject::connect(&service, &UsbService::gotConfig, &receiver, [&] { ++configs; });
     connector.replies[MsgTypeEnum::GET_CONFIG] = std::make_shared<ConfigMsg>();
     service.startUsb();
     ASSERT_TRUE(QTest::qWaitFor([&] { return states == 1; }, 20000));
