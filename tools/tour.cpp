@@ -6,6 +6,7 @@
 #include "visuals/layered-plot.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QGuiApplication>
 #include <cstdio>
 
@@ -66,10 +67,22 @@ private:
     }
 
     const QQuickItem &control(const QString &wordOrPicture) const {
-        const QQuickItem *found = driver.control(wordOrPicture);
+        const QQuickItem *found = driver.control(shown(wordOrPicture));
         if (!found)
             throw TourError{"No control on the screen shows: " + wordOrPicture};
         return *found;
+    }
+
+    /// A word of the documents as the screens show it, in the language of this tour.
+    static QString shown(const QString &word) {
+        for (QDirIterator it(":/qml", {"*.qml"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
+            it.next();
+            const QByteArray document = it.fileInfo().baseName().toUtf8();
+            const QString translated = QCoreApplication::translate(document, word.toUtf8());
+            if (translated != word)
+                return translated;
+        }
+        return word;
     }
 
     void shoot(const QString &state) {
