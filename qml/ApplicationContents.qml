@@ -1,5 +1,6 @@
 import QtQuick 2.0
 
+import "fragments"
 import "menu"
 import "pages"
 
@@ -10,6 +11,12 @@ Item {
     property bool vesper: false
 
     signal shareClicked
+
+    // Opens or closes a drawer; only one is open.
+    function toggle(drawer, other) {
+        other.open = false
+        drawer.open = !drawer.open
+    }
 
     Component.onCompleted: {
         usbService.gotConfig.connect(confHndlr.accept)
@@ -25,6 +32,17 @@ Item {
             usbService.disconnect()
     }
 
+    ListDialogs {
+        id: dialogs
+    }
+
+    ListModel {
+        id: manuals
+
+        ListElement { name: qsTr("Kelvane 6"); value: "manuals/help_K6.pdf" }
+        ListElement { name: qsTr("Kelvane 7"); value: "manuals/help_K7.pdf" }
+    }
+
     Rectangle {
         anchors.fill: parent
         color: themeData.backgroundColor
@@ -34,6 +52,35 @@ Item {
 
             width: parent.width
             height: parent.height - themeData.menuHeight
+
+            Rectangle {
+                id: drawerRect
+
+                z: 5
+                anchors.fill: parent
+                color: "transparent"
+
+                HelpFragment {
+                    id: helpFragment
+
+                    anchors.bottom: parent.bottom
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: parent.width * 0.9
+                    height: parent.height
+                    onManualToggled: dialogs.open(manuals, undefined, function (file) {
+                        Qt.openUrlExternally((contents.vesper ? "../" : "qrc:/") + file)
+                    })
+                }
+
+                ConfigFragment {
+                    id: configFragment
+
+                    anchors.bottom: parent.bottom
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: parent.width * 0.9
+                    height: parent.height
+                }
+            }
         }
 
         Rectangle {
@@ -69,6 +116,8 @@ Item {
                 anchors.bottom: parent.bottom
                 vesper: contents.vesper
                 iconColor: menuPanel.getColor
+                onHelp: contents.toggle(helpFragment, configFragment)
+                onConfig: contents.toggle(configFragment, helpFragment)
             }
         }
     }

@@ -39,6 +39,10 @@ ScreenEngine::ScreenEngine(ServiceObjects &objects)
     QObject::connect(&engine, &QQmlApplicationEngine::quit, qApp, &QCoreApplication::quit);
 }
 
+ScreenEngine::~ScreenEngine() {
+    qDeleteAll(engine.rootObjects());
+}
+
 void ScreenEngine::load(const QUrl &document) {
     QObject::connect(
         &engine, &QQmlApplicationEngine::objectCreated, qApp,

@@ -5,6 +5,7 @@
 #include "handlers/ai-prior-handler.h"
 #include "handlers/config-k7-handler.h"
 #include "handlers/config-msg-handler.h"
+#include "manual-opener.h"
 #include "service-objects.h"
 
 #include <QQmlApplicationEngine>
@@ -20,6 +21,10 @@ void registerTypes();
 class ScreenEngine {
 public:
     explicit ScreenEngine(ServiceObjects &objects);
+    /// The documents end first: they go on reading what they name.
+    ~ScreenEngine();
+    ScreenEngine(const ScreenEngine &) = delete;
+    ScreenEngine &operator=(const ScreenEngine &) = delete;
 
     /// Shows the root document. If it can't be created, the event loop ends with -1 on its next turn.
     void load(const QUrl &document = QUrl("qrc:/qml/MainLinuxWindow.qml"));
@@ -33,4 +38,5 @@ private:
     Guarded<ConfigK7Handler> confK7Hndlr;
     Guarded<HistoryListModel> historyModel;
     QString version;
+    ManualOpener manualOpener;
 };

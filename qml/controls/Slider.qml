@@ -75,6 +75,11 @@ Item {
         drag.maximumX: slider.width - runner.width
         drag.smoothed: false
         onMouseXChanged: getValue(Math.min(Math.max(mouse.x - runner.width * 0.5, 0), width - runner.width))
+        // A drag has overwritten the binding; let go, the runner follows the value again.
+        onPressedChanged: {
+            if (!pressed)
+                realValue = Qt.binding(function () { return slider.value })
+        }
         onReleased: slider.changed()
     }
 }

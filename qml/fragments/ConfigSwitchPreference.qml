@@ -1,0 +1,36 @@
+import QtQuick 2.0
+
+import "../controls"
+
+PreferenceRow {
+    id: row
+
+    property alias checked: toggle.checked
+    property alias setting: mirrored.setting
+    property alias handler: mirrored.handler
+    property alias absent: mirrored.absent
+
+    signal clicked
+
+    reserved: toggle.width + themeData.fontSizeSmall
+
+    MirroredValue {
+        id: mirrored
+
+        control: toggle
+        shownAs: "checked"
+    }
+
+    Switch {
+        id: toggle
+
+        anchors.right: parent.right
+        anchors.rightMargin: themeData.fontSizeSmall
+        width: themeData.iconSizeLarge * 1.5
+        height: parent.height
+        onClicked: {
+            mirrored.commit()
+            row.clicked()
+        }
+    }
+}

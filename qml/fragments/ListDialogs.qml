@@ -1,0 +1,23 @@
+import QtQuick 2.0
+
+// Opens list dialogs over the whole window.
+QtObject {
+    property var component
+
+    // The entries have a name and a value each. `selected` is called with the value of the one that the user chooses.
+    function open(entries, current, selected) {
+        var dialog = component.createObject(window)
+        if (!dialog)
+            return
+        dialog.size = entries.count
+        dialog.model = entries
+        dialog.current = current
+        dialog.selected.connect(selected)
+    }
+
+    Component.onCompleted: {
+        component = Qt.createComponent("ListButtonDialog.qml")
+        if (component.status === Component.Error)
+            console.debug("Error:", component.errorString())
+    }
+}

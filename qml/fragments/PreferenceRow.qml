@@ -1,0 +1,40 @@
+import QtQuick 2.0
+
+// What every preference shows: its title and, below it, what it is for.
+Item {
+    id: row
+
+    property alias title: titleText.text
+    property alias summary: summaryText.text
+    // Kept free at the right of the texts.
+    property real reserved: 0
+    readonly property real indent: themeData.fontSizeLarge * 3
+    readonly property real textHeight: titleText.implicitHeight + summaryText.implicitHeight
+
+    width: parent.width
+    implicitHeight: textHeight
+
+    Column {
+        x: row.indent
+        width: row.width - row.indent - row.reserved
+
+        Text {
+            id: titleText
+
+            width: parent.width
+            wrapMode: Text.WordWrap
+            color: themeData.lightTextColor
+            font.pointSize: themeData.fontSizeSmall
+            font.bold: true
+        }
+
+        Text {
+            id: summaryText
+
+            width: parent.width
+            wrapMode: Text.WordWrap
+            color: "lightgray"
+            font.pointSize: themeData.fontSizeSmall * 0.8
+        }
+    }
+}

@@ -1,0 +1,10 @@
+import QtQuick 2.0
+
+Text {
+    anchors.left: parent.left
+    anchors.right: parent.right
+    anchors.leftMargin: themeData.fontSizeMedium
+    wrapMode: Text.WordWrap
+    color: "#a4ebb6"
+    font.bold: true
+}
