@@ -12,7 +12,7 @@ SCREEN_PACKAGES=(
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
     qml-module-qtquick-templates2 qtwayland5 fonts-dejavu-core
 )
-TEST_PACKAGES=(libgtest-dev libgmock-dev locales)
+TEST_PACKAGES=(libgtest-dev libgmock-dev locales xvfb xauth)
 
 fail() {
     echo "$1" >&2
