@@ -50,6 +50,26 @@ std::shared_ptr<ConfigK7Msg> Defaults::getDefaultConfigK7Msg() {
                                              .build());
 }
 
+std::shared_ptr<ConfigEwMsg> Defaults::getDefaultConfigEwMsg(ProtoEnum proto) {
+    std::vector<std::shared_ptr<EwTarget>> targets;
+    for (const MasterFreqModeEnum band : Proto(proto).getMasterModes()) {
+        const FreqMode widest(MasterFreqMode(band).getMaxRangeFreqMode());
+        targets.push_back(std::make_shared<EwTarget>(EwTargetBuilder()
+                                                         .freqMax(widest.getMaxFreq())
+                                                         .freqMin(widest.getMinFreq())
+                                                         .sigType(SigTypeEnum::ALL)
+                                                         .timeSecOfDetect(10)
+                                                         .lvlOver(-95)
+                                                         .prior(0)
+                                                         .actType(EwActivateEnum::TIMEOUT)
+                                                         .timeout(60)
+                                                         .ewOutId(0)
+                                                         .ewOutConf({})
+                                                         .build()));
+    }
+    return std::make_shared<ConfigEwMsg>(ConfigEwMsgBuilder().targets(targets).build());
+}
+
 std::vector<std::shared_ptr<Msg>> Defaults::getDefaults(ProtoEnum proto) {
     std::vector<std::shared_ptr<Msg>> messages;
     const auto has = [proto](MsgTypeEnum type) { return proto >= MsgType(type).getSinceProto(); };
@@ -57,6 +77,8 @@ std::vector<std::shared_ptr<Msg>> Defaults::getDefaults(ProtoEnum proto) {
         messages.push_back(getDefaultConfigMsg(proto));
     if (has(MsgTypeEnum::CONFIG_K7))
         messages.push_back(getDefaultConfigK7Msg());
+    if (has(MsgTypeEnum::CONFIG_EW))
+        messages.push_back(getDefaultConfigEwMsg(proto));
     if (has(MsgTypeEnum::AI_PRIOR))
         messages.push_back(getDefaultAiPriorMsg());
     return messages;

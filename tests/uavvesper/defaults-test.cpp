@@ -16,6 +16,7 @@ TEST(Defaults, GiveEachGenerationTheMessagesItHas) {
     EXPECT_THAT(typesOf(ProtoEnum::K1), ElementsAre("CONFIG"));
     EXPECT_THAT(typesOf(ProtoEnum::K6), ElementsAre("CONFIG", "AI_PRIOR"));
     EXPECT_THAT(typesOf(ProtoEnum::K7), ElementsAre("CONFIG", "CONFIG_K7", "AI_PRIOR"));
+    EXPECT_THAT(typesOf(ProtoEnum::K7EW), ElementsAre("CONFIG", "CONFIG_K7", "CONFIG_EW", "AI_PRIOR"));
 }
 
 TEST(Defaults, AreTheFactorySettings) {
@@ -28,6 +29,12 @@ TEST(Defaults, AreTheFactorySettings) {
               "{\n\"voiceEn\" : true,\n\"dispLvl\" : 50,\n\"dispOffTime\" : 30,\n\"indHeadLvl\" : 25,\n"
               "\"indHeadMode\" : \"SOUND\",\n\"btEn\" : false,\n\"btPowerDbm\" : 0,\n\"voiceDbLvl\" : -97,\n"
               "\"type\" : \"CONFIG_K7\"\n}");
+    const auto rules = Defaults::getDefaultConfigEwMsg(ProtoEnum::K7EW)->getTargets();
+    ASSERT_EQ(rules.size(), 4U);
+    EXPECT_EQ(rules[1]->parseMsg(),
+              "{\n\"freqMin\" : 2350.000000,\n\"freqMax\" : 2550.000000,\n\"sigType\" : \"ALL\",\n"
+              "\"timeSecOfDetect\" : 10,\n\"lvlOver\" : -95,\n\"prior\" : 0,\n\"actType\" : \"TIMEOUT\",\n"
+              "\"timeout\" : 60,\n\"ewOutId\" : 0,\n\"ewOutConf\" : {}\n}");
     EXPECT_EQ(Defaults::getDefaultAiPriorMsg()->getAiPrior(), AiPriorEnum::DEFAULT);
     EXPECT_EQ(Defaults::getDefaultConfigMsg(ProtoEnum::K7EW)->getRanges().at(0), FreqModeEnum::STD_1200);
 }

@@ -121,6 +121,24 @@ TEST_F(UsbServiceConnection, TakesADeviceThatStreamsAfterAnotherPress) {
     ASSERT_TRUE(service.connectTo(device));
 }
 
+TEST_F(UsbServiceConnection, AFactoryResetReachesEverySettingOfTheGeneration) {
+    PtyDevice ew(directory, ProtoEnum::K7EW, "usb-ew");
+    device.unplug();
+    ew.setScanPeriod(milliseconds(0));
+    ASSERT_TRUE(service.connectTo(ew));
+    ew.clearRecord();
+    service.usb.resetToDefaults(static_cast<int>(ProtoEnum::K7EW));
+    std::vector<std::string> settings; // which of them are read back depends on how fast they are answered
+    for (const std::string &type : ew.requestTypes()) {
+        if (type.rfind("GET_", 0) != 0)
+            settings.push_back(type);
+    }
+    EXPECT_THAT(settings, ElementsAre("CONFIG", "CONFIG_K7", "CONFIG_EW", "AI_PRIOR"));
+    EXPECT_EQ(ew.requestTypes().back(), "GET_CONFIG");
+    EXPECT_EQ(ew.setting("CONFIG_EW", "targets")[3]["freqMax"].number_value(), 6100);
+    EXPECT_EQ(ew.setting("CONFIG_K7", "voiceDbLvl").int_value(), -97);
+}
+
 TEST_F(UsbServiceConnection, LivesWithNoiseAndRefusal) {
     device.setManner(Manner::NOISY);
     ASSERT_TRUE(service.connectTo(device));

@@ -170,6 +170,12 @@ TEST_F(UsbServiceRequests, AFactoryResetReadsBackWhatTheDeviceTook) {
                 ElementsAre("CONFIG 5", "GET_CONFIG 100", "CONFIG_K7 5", "AI_PRIOR 5", "GET_CONFIG 100"));
     ASSERT_EQ(toasts.count(), 1);
     EXPECT_EQ(toasts.value(0).value(0).toString(), "Ошибка: busy");
+    for (const auto type : {MsgTypeEnum::CONFIG_K7, MsgTypeEnum::CONFIG_EW, MsgTypeEnum::AI_PRIOR})
+        connector.replies[type] = ok;
+    service.resetToDefaults(static_cast<int>(ProtoEnum::K7EW));
+    EXPECT_THAT(connector.takeNotes(),
+                ElementsAre("CONFIG 5", "GET_CONFIG 100", "CONFIG_K7 5", "GET_CONFIG_K7 100", "CONFIG_EW 5",
+                            "GET_CONFIG_EW 100", "AI_PRIOR 5", "GET_AI_PRIOR 100", "GET_CONFIG 100"));
 }
 
 TEST_F(UsbServiceRequests, TestModeStartsOnlyWithoutADevice) {
