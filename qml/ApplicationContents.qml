@@ -90,8 +90,15 @@ Item {
                 return enabled && !pressed ? themeData.lightTextColor : themeData.disabledTextColor
             }
 
+            // The address of a button's icon in the resources, or in the theme of the mobile platform.
+            function icon(desktopName, themeName, button) {
+                if (!contents.vesper)
+                    return "qrc:/icons/" + desktopName
+                return "image://theme/icon-m-" + themeName + "?" + getColor(button.enabled, button.pressed)
+            }
+
             function updateMenuHeight() {
-                themeData.menuHeight = legend.height + buttons.height
+                themeData.menuHeight = legend.height + buttons.height + settings.height
             }
 
             z: 10
@@ -113,11 +120,19 @@ Item {
             ButtonLayout {
                 id: buttons
 
-                anchors.bottom: parent.bottom
-                vesper: contents.vesper
-                iconColor: menuPanel.getColor
+                anchors.bottom: settings.top
+                icon: menuPanel.icon
                 onHelp: contents.toggle(helpFragment, configFragment)
                 onConfig: contents.toggle(configFragment, helpFragment)
+            }
+
+            SettingsLayout {
+                id: settings
+
+                anchors.bottom: parent.bottom
+                vesper: contents.vesper
+                icon: menuPanel.icon
+                onShareClicked: contents.shareClicked()
             }
         }
     }

@@ -4,6 +4,7 @@
 #include "screen-engine.h"
 #include "service-objects.h"
 #include "visuals/layered-plot.h"
+#include "visuals/uav-three-switch.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -19,9 +20,10 @@ struct TourError {
 
 class Tour {
 public:
-    Tour(ServiceObjects &serviceObjects, QQuickWindow &window, const QDir &directory)
+    Tour(ServiceObjects &serviceObjects, QQuickWindow &shownWindow, const QDir &directory)
         : objects(serviceObjects)
-        , driver(window)
+        , window(shownWindow)
+        , driver(shownWindow)
         , pictures(directory) {
         QObject::connect(&objects.usbService, &UsbService::gotScanResult, &window, [this] { ++scans; });
     }
@@ -35,6 +37,11 @@ public:
         shoot("course-of-the-strongest-signal");
         swipeAllBands();
         shoot("persistence");
+        switchBands();
+        shootAt({300, 400}, "small-window");
+        shootAt({2560, 1440}, "large-window");
+        driver.click(control("usb"));
+        shoot("disconnected");
     }
 
 private:
@@ -53,6 +60,33 @@ private:
             const QPoint middle = ScreenDriver::middleOf(*view);
             driver.drag(middle + QPoint(100, 0), middle - QPoint(100, 0));
             waitFor([&] { return !view->isVisible(); }, "A band does not follow the swipe.");
+        }
+    }
+
+    /// Each band off, on its standard range and on its extended one. The last active band can't be off.
+    void switchBands() {
+        const QStringList firstBands{"1.2", "2.4", "4.9"};
+        const QStringList lastBand{"5.8"};
+        step(firstBands, UavThreeSwitch::OFF);
+        shoot("first-bands-off");
+        step(firstBands, UavThreeSwitch::FIRST);
+        step(lastBand, UavThreeSwitch::OFF);
+        shoot("last-band-off");
+        step(lastBand, UavThreeSwitch::FIRST);
+        shoot("bands-standard");
+        step(firstBands + lastBand, UavThreeSwitch::SECOND);
+        shoot("bands-extended");
+    }
+
+    /// Clicks the switches of these bands until they stand so.
+    void step(const QStringList &bands, UavThreeSwitch::Position position) {
+        for (const QString &band : bands) {
+            const auto isBand = [&](const QQuickItem &item) {
+                const auto *control = qobject_cast<const UavThreeSwitch *>(&item);
+                return control && control->getText().startsWith(band) && control->getPosition() != position;
+            };
+            while (const QQuickItem *control = driver.find(isBand))
+                driver.click(*control);
         }
     }
 
@@ -85,6 +119,14 @@ private:
         return word;
     }
 
+    void shootAt(const QSize &size, const QString &state) {
+        const QSize usual = window.size();
+        window.resize(size);
+        waitForScans(2);
+        shoot(state);
+        window.resize(usual);
+    }
+
     void shoot(const QString &state) {
         const QString file =
             pictures.filePath(QString("%1-%2.png").arg(++shots, 2, 10, QChar('0')).arg(state));
@@ -94,6 +136,7 @@ private:
     }
 
     ServiceObjects &objects;
+    QQuickWindow &window;
     ScreenDriver driver;
     QDir pictures;
     int scans = 0;

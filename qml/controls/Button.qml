@@ -15,7 +15,8 @@ ButtonFrame {
         anchors.margins: button.radius * 0.5
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
-        // A word too long for the button is set smaller, not cut.
+        // Words too long for the button take several lines and are set smaller, not cut.
+        wrapMode: Text.WordWrap
         fontSizeMode: Text.Fit
         minimumPointSize: 1
         font.pointSize: themeData.fontSizeSmall

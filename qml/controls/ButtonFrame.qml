@@ -19,6 +19,7 @@ Item {
         id: frame
 
         anchors.fill: parent
+        color: themeData.backgroundColor
         radius: Math.min(height, width) * 0.2
         border.color: button.enabled ? themeData.strokeColor : themeData.disabledTextColor
         border.width: themeData.fontSizeTiny * 0.2

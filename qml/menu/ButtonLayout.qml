@@ -7,17 +7,11 @@ Item {
 
     readonly property int buttonHeigth: themeData.iconSizeMedium
     readonly property real spacing: themeData.fontSizeSmall * 0.5
-    property bool vesper: false
-    // Gives the colour of an icon of the platform theme, from the button's enabled and pressed.
-    property var iconColor
+    // Gives the address of an icon, from its names on the desktop and on the mobile platform and its button.
+    property var icon
 
     signal help
     signal config
-
-    function icon(desktopName, themeName, button) {
-        return vesper ? "image://theme/icon-m-" + themeName + "?" + iconColor(button.enabled, button.pressed)
-                      : "qrc:/icons/" + desktopName
-    }
 
     width: parent.width
     height: buttonHeigth + spacing
@@ -44,7 +38,6 @@ Item {
 
             width: themeData.buttonSizeSmall
             height: buttonLayout.buttonHeigth
-            color: themeData.backgroundColor
             enabled: usbService.isUsbActive
             iconSource: buttonLayout.icon(level, "battery", chargeButton)
             text: charge + "%"
@@ -73,7 +66,6 @@ Item {
 
             width: themeData.buttonSizeMedium
             height: buttonLayout.buttonHeigth
-            color: themeData.backgroundColor
             enabled: usbService.isUsbActive
             text: qsTr("Fabric settings")
             onClicked: usbService.resetToDefaults(confHndlr.proto)
@@ -84,7 +76,6 @@ Item {
 
             width: themeData.iconSizeMedium
             height: buttonLayout.buttonHeigth
-            color: themeData.backgroundColor
             enabled: usbService.isUsbActive
             iconSource: buttonLayout.icon("cfg", "setting", configButton)
             onClicked: buttonLayout.config()
@@ -98,7 +89,6 @@ Item {
 
             width: themeData.iconSizeMedium
             height: buttonLayout.buttonHeigth
-            color: themeData.backgroundColor
             iconSource: buttonLayout.icon("info", "about", helpButton)
             onClicked: {
                 pressToTest = usbService.isUsbActive ? 0 : pressToTest + 1
@@ -115,7 +105,6 @@ Item {
 
             width: themeData.iconSizeMedium
             height: buttonLayout.buttonHeigth
-            color: themeData.backgroundColor
             iconSource: buttonLayout.icon("usb", "usb", usbConnectButton)
             onClicked: {
                 if (usbService.isUsbActive)

@@ -8,9 +8,9 @@
 /// the whole.
 class UavThreeSwitch : public QQuickPaintedItem, private AbstractUavSwitch {
     Q_OBJECT
-    Q_PROPERTY(QColor backgroundColor MEMBER bckgClr)
-    Q_PROPERTY(int lineWidth MEMBER lineWidth)
-    Q_PROPERTY(int textSize MEMBER textSize)
+    Q_PROPERTY(QColor backgroundColor MEMBER bckgClr WRITE setBackgroundColor)
+    Q_PROPERTY(int lineWidth MEMBER lineWidth WRITE setLineWidth)
+    Q_PROPERTY(int textSize MEMBER textSize WRITE setTextSize)
     Q_PROPERTY(QString text READ getText WRITE setText NOTIFY textChanged)
     Q_PROPERTY(bool switchEnabled READ getSwitchEnabled WRITE setSwitchEnabled NOTIFY switchEnabledChanged)
     Q_PROPERTY(Position position READ getPosition WRITE setPosition NOTIFY positionChanged)
@@ -20,6 +20,11 @@ public:
     Q_ENUM(Position)
 
     explicit UavThreeSwitch(QQuickItem *parent = nullptr);
+
+    // These have no signal of their own, but what they change is painted anew.
+    void setBackgroundColor(const QColor &value) { bckgClr = value, update(); }
+    void setLineWidth(int value) { lineWidth = value, update(); }
+    void setTextSize(int value) { textSize = value, update(); }
 
     QString getText() const { return text; }
     void setText(const QString &value);

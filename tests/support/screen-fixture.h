@@ -48,14 +48,14 @@ protected:
         if (!window || !QTest::qWaitForWindowExposed(window))
             throw std::runtime_error("the window does not show");
         driver.emplace(*window);
-        // Made behind the documents' own connections: once they count, the screens have had their turn.
-        const auto count = [this] { ++messages; };
+        // Made behind the documents' own connections: what is counted, the screens have taken.
+        const auto count = [this](MsgTypeEnum type) { return [this, type] { ++taken[type]; }; };
         const UsbService &service = objects.usbService;
-        QObject::connect(&service, &UsbService::gotConfig, window, [this] { ++messages, ++configs; });
-        QObject::connect(&service, &UsbService::gotAiPrior, window, count);
-        QObject::connect(&service, &UsbService::gotConfigK7, window, count);
-        QObject::connect(&service, &UsbService::gotBatteryState, window, count);
-        QObject::connect(&service, &UsbService::gotScanResult, window, count);
+        QObject::connect(&service, &UsbService::gotConfig, window, count(MsgTypeEnum::CONFIG));
+        QObject::connect(&service, &UsbService::gotAiPrior, window, count(MsgTypeEnum::AI_PRIOR));
+        QObject::connect(&service, &UsbService::gotConfigK7, window, count(MsgTypeEnum::CONFIG_K7));
+        QObject::connect(&service, &UsbService::gotBatteryState, window, count(MsgTypeEnum::STATE));
+        QObject::connect(&service, &UsbService::gotScanResult, window, count(MsgTypeEnum::SCAN_RESULT));
         QObject::connect(&service, &UsbService::usbStateChanged, window, [this] { ++stateChanges; });
     }
 
@@ -76,8 +76,8 @@ protected:
     /// Presses the USB button until the screens have the device's settings: on a busy machine the device may
     /// answer too late for an attempt.
     void connectByButton() {
-        const int known = configs;
-        for (int presses = 0; !isConnected() || configs == known; ++presses) {
+        const int known = taken[MsgTypeEnum::CONFIG];
+        for (int presses = 0; !isConnected() || taken[MsgTypeEnum::CONFIG] == known; ++presses) {
             ASSERT_LT(presses, 50) << "no connection";
             const int seen = stateChanges;
             click("usb");
@@ -108,11 +108,12 @@ protected:
         return texts;
     }
 
-    /// Has the connected device send a text, and waits until the screens have taken it.
+    /// Has the connected device send a message, and waits until the screens have taken it.
     void deviceSays(const std::string &text) {
-        const int seen = messages;
+        const int &count = taken[Msg::parseJson(text)->getType()];
+        const int seen = count;
         device->sendText(text + "\n");
-        ASSERT_TRUE(ScreenDriver::waitFor([&] { return messages > seen; })) << text;
+        ASSERT_TRUE(ScreenDriver::waitFor([&] { return count > seen; })) << text;
     }
 
     SerialDirectory directory;
@@ -135,7 +136,6 @@ private:
         }));
     }
 
-    int messages = 0;
-    int configs = 0;
+    std::map<MsgTypeEnum, int> taken; // messages, on the UI thread
     int stateChanges = 0;
 };

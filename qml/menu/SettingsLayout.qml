@@ -1,0 +1,201 @@
+import QtQuick 2.0
+import uavThreeSwitch 1.0
+
+import "../controls"
+
+Item {
+    id: settingsLayout
+
+    property bool vesper: false
+    // Gives the address of an icon, as in the button row.
+    property var icon
+
+    signal shareClicked
+
+    width: parent.width
+    height: Math.max(switches.getSwitchesH(), buttons.getButtonsH())
+
+    Row {
+        id: row
+
+        readonly property real offset: themeData.fontSizeSmall * 0.5
+
+        anchors.fill: parent
+        anchors.leftMargin: offset
+        anchors.rightMargin: offset
+        anchors.bottomMargin: offset
+        spacing: offset
+
+        Column {
+            id: rangesCol
+
+            width: ranges.count > 0 ? themeData.buttonSizeSmall : row.width
+
+            ListView {
+                id: ranges
+
+                function commit() {
+                    confHndlr.ranges = masterModes.getRanges()
+                    confHndlr.changed()
+                }
+
+                width: themeData.buttonSizeSmall
+                height: count * (themeData.iconSizeSmall + row.offset)
+                spacing: row.offset
+                clip: false
+                boundsBehavior: Flickable.StopAtBounds
+                model: masterModes
+
+                Component.onCompleted: {
+                    usbService.gotConfig.connect(masterModes.setConfig)
+                    masterModes.rangesChanged.connect(commit)
+                }
+
+                delegate: Rectangle {
+                    width: themeData.buttonSizeSmall
+                    height: themeData.iconSizeSmall
+                    color: "transparent"
+
+                    MouseArea {
+                        anchors.fill: parent
+                        enabled: usbService.isUsbActive
+                        onClicked: {
+                            sw.nextPosition()
+                            valueRange = sw.position
+                        }
+
+                        UavThreeSwitch {
+                            id: sw
+
+                            anchors.fill: parent
+                            switchEnabled: usbService.isUsbActive
+                            backgroundColor: themeData.backgroundColor
+                            lineWidth: themeData.fontSizeSmall * 0.1
+                            textSize: themeData.fontSizeSmall
+                            text: stringMode
+                            position: valueRange
+                        }
+                    }
+
+                    // Each commit paints the switch anew.
+                    Connections {
+                        target: confHndlr
+                        function onChanged() {
+                            sw.positionChanged()
+                        }
+                    }
+                }
+            }
+        }
+
+        Column {
+            id: switches
+
+            function getSwitchesH() {
+                return children.length * (themeData.iconSizeSmall + spacing)
+            }
+
+            width: themeData.buttonSizeSmall
+            height: getSwitchesH()
+            spacing: row.offset
+
+            SettingSwitch {
+                id: indSnd
+
+                setting: "indSnd"
+                text: qsTr("Sound")
+            }
+
+            SettingSwitch {
+                id: indVibro
+
+                setting: "indVibro"
+                text: qsTr("Vibro")
+            }
+
+            SettingSwitch {
+                id: wifiDet
+
+                setting: "wifiDet"
+                text: "Wi-Fi"
+            }
+
+            SettingSwitch {
+                id: uavDet
+
+                setting: "uavDet"
+                text: qsTr("Dig")
+            }
+        }
+
+        Column {
+            id: buttons
+
+            function getButtonsH() {
+                return (children.length - (settingsLayout.vesper ? 0 : 1)) * (themeData.iconSizeMedium + spacing)
+            }
+
+            width: settingsLayout.vesper ? themeData.buttonSizeMedium : themeData.buttonSizeSmall
+            height: getButtonsH()
+            spacing: themeData.fontSizeSmall
+
+            Button {
+                id: sens
+
+                readonly property var words: ({ LOW: qsTr("Low"), MID: qsTr("Mid"), HIGH: qsTr("High") })
+
+                width: parent.width
+                height: themeData.iconSizeMedium
+                enabled: usbService.isUsbActive
+                text: qsTr("Sens: ") + (words[confHndlr.sens] || confHndlr.sens)
+                onClicked: {
+                    confHndlr.nextSens()
+                    confHndlr.changed()
+                }
+            }
+
+            Button {
+                id: ai
+
+                readonly property var words: ({ AUTO: qsTr("Auto"), DEFAULT: qsTr("Default"), FIELD: qsTr("Field"),
+                                                CITY: qsTr("City"), NONE: qsTr("None") })
+
+                function setProto() {
+                    aiPriorHndlr.proto = confHndlr.proto
+                }
+
+                width: parent.width
+                height: themeData.iconSizeMedium
+                enabled: usbService.isUsbActive
+                text: qsTr("AI: ") + words[aiPriorHndlr.enumAiPrior]
+                onClicked: {
+                    aiPriorHndlr.nextAiPrior()
+                    aiPriorHndlr.changed()
+                }
+                Component.onCompleted: confHndlr.protoChanged.connect(setProto)
+            }
+
+            ImageTextButton {
+                id: share
+
+                width: parent.width
+                height: themeData.iconSizeMedium
+                visible: settingsLayout.vesper
+                enabled: settingsLayout.vesper
+                iconSource: settingsLayout.icon("share", "share", share)
+                text: qsTr("Share")
+                onClicked: settingsLayout.shareClicked()
+            }
+        }
+
+        Text {
+            width: row.width - x
+            fontSizeMode: Text.HorizontalFit
+            minimumPointSize: 1
+            font.pointSize: themeData.fontSizeLarge
+            color: "red"
+            text: "TEST MODE"
+            visible: usbService.isUsbActive && usbService.inTesting
+        }
+    }
+}
