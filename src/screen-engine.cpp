@@ -31,6 +31,7 @@ ScreenEngine::ScreenEngine(ServiceObjects &objects)
     context.setContextProperty("usbService", &objects.usbService);
     context.setContextProperty("themeData", &objects.themeData);
     context.setContextProperty("masterModes", &objects.masterModes);
+    context.setContextProperty("freqPlotModel", &objects.freqPlotModel);
     context.setContextProperty("confHndlr", &confHndlr);
     context.setContextProperty("aiPriorHndlr", &aiPriorHndlr);
     context.setContextProperty("confK7Hndlr", &confK7Hndlr);

@@ -2,6 +2,7 @@
 
 #include "common/guarded.h"
 #include "usb-service.h"
+#include "visuals/freq-plot-model.h"
 #include "visuals/ranges-list-model.h"
 #include "visuals/theme-data.h"
 
@@ -14,4 +15,5 @@ struct ServiceObjects {
     Guarded<UsbService> usbService;
     Guarded<ThemeData> themeData;
     Guarded<RangesListModel> masterModes;
+    Guarded<FreqPlotModel> freqPlotModel;
 };

@@ -1,0 +1,66 @@
+import QtQuick 2.0
+import "vesper"
+
+// The strongest signals at a glance, while the application is minimised.
+CoverElement {
+    objectName: "defaultCover"
+
+    Component.onCompleted: usbService.gotMaxFreqs.connect(freqPlotModel.setScan)
+
+    ListView {
+        id: list
+
+        readonly property var typeColors: ({
+            " ----": "#93cddd",
+            "WIFI": "#00b050",
+            "DIG": "#ffc000",
+            "FPV": "#ff0000",
+            "BLOCK": "#cccccc",
+            "ALL": "#93cddd"
+        })
+
+        anchors.fill: parent
+        anchors.margins: Theme.paddingSmall
+        spacing: Theme.paddingSmall
+        model: freqPlotModel
+
+        delegate: Column {
+            width: list.width
+            height: list.height / freqPlotModel.rowCount() - list.spacing
+
+            Text {
+                id: freqText
+
+                width: parent.width
+                height: parent.height / 2
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+                fontSizeMode: Text.Fit
+                font.bold: true
+                color: Theme.primaryColor
+                text: freq
+            }
+
+            Rectangle {
+                width: parent.width
+                height: parent.height - freqText.height
+                color: list.typeColors[type]
+
+                Row {
+                    anchors.centerIn: parent
+                    spacing: list.spacing
+
+                    Text {
+                        color: "black"
+                        text: rssi
+                    }
+
+                    Text {
+                        color: "black"
+                        text: type
+                    }
+                }
+            }
+        }
+    }
+}

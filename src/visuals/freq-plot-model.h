@@ -1,0 +1,43 @@
+#pragma once
+
+#include "msg-holder.h"
+#include "sig-type.h"
+
+#include <QAbstractListModel>
+#include <QTimer>
+#include <vector>
+
+/// The strongest frequencies of the newest scan for the cover page: always three rows, blank ones where there
+/// are no more. Ten seconds without a scan clear it. Lives on the UI thread; needs no application object
+/// before the first scan.
+class FreqPlotModel : public QAbstractListModel {
+    Q_OBJECT
+
+public:
+    enum Role {
+        FreqRole = Qt::UserRole, ///< text: MHz, "-----" when blank
+        RssiRole,                ///< text: the level with its unit, "----dB" when blank
+        TypeRole                 ///< text: the class's name on the wire, " ----" when there is none
+    };
+    static constexpr int MAX_FREQS_DISPLAYED = 3;
+    static constexpr int CLEAR_AFTER_MS = 10000;
+
+    explicit FreqPlotModel(QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    /// Shows the first results of a SCAN_RESULT, whose results come strongest first; anything else clears.
+    Q_INVOKABLE void setScan(MsgHolder holder);
+
+private:
+    struct PlotPoint {
+        int freq = 0; ///< MHz
+        int rssi = 0; ///< dB
+        SigTypeEnum type = SigTypeEnum::NONE;
+    };
+
+    std::vector<PlotPoint> maxFreqs{MAX_FREQS_DISPLAYED};
+    QTimer *timer;
+};
