@@ -43,7 +43,7 @@ public:
 private:
     static constexpr std::size_t buffer_size = 512;
     static constexpr int MIN_BYTES = 64;
-    static constexpr std::chrono::milliseconds EMPTY_READ_PAUSE{50};
+    static constexpr std::chrono::milliseconds EMPTY_READ_PAUSE{500};
 
     void read();
     void pauseReading();

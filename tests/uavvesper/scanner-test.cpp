@@ -60,11 +60,11 @@ TEST(ScannerThreads, ScansFollowTheSettingsThatChangeMeanwhile) {
     EXPECT_THAT(first->getMaskedModes(), ElementsAre(MasterFreqModeEnum::R_2400, MasterFreqModeEnum::R_5800));
 
     scanner.setMask();
-    scanner.setByConfig(share(fastConfig().ranges({FreqModeEnum::EXT_1200})));
+    scanner.setByConfig(share(fastConfig().ranges({FreqModeEnum::EXT_1200, FreqModeEnum::STD_2400})));
     const auto second = freshScan(scans);
     ASSERT_TRUE(second);
     EXPECT_TRUE(second->getMask());
-    EXPECT_EQ(second->getFreqs().size(), 91U);
+    EXPECT_EQ(second->getFreqs().size(), 91U + 15U);
     EXPECT_THAT(second->getMaskedModes(), ElementsAre(MasterFreqModeEnum::R_2400, MasterFreqModeEnum::R_5800,
                                                       MasterFreqModeEnum::R_1200));
 
@@ -91,14 +91,14 @@ TEST(ScannerThreads, StopsAndStartsAgain) {
     EXPECT_TRUE(scans.at(count));
 }
 
-/// The expected shares lie many standard deviations inside the bounds.
+/// The bounds are six standard deviations wide or more, and narrower than one percent.
 TEST(ScannerThreads, SignalClassesAndLevelsFollowTheirChances) {
     struct Case {
         AiPriorEnum prior;
         bool detect;
         int wifi, dig, fpv; // chance in percent
     };
-    const std::vector<FreqModeEnum> manyTimes(200, FreqModeEnum::EXT_1200);
+    const std::vector<FreqModeEnum> manyTimes(1000, FreqModeEnum::EXT_1200);
     for (const Case &c :
          {Case{AiPriorEnum::AUTO, true, 10, 5, 10}, Case{AiPriorEnum::DEFAULT, true, 5, 5, 5},
           Case{AiPriorEnum::FIELD, true, 20, 10, 15}, Case{AiPriorEnum::CITY, true, 5, 10, 10},
@@ -129,10 +129,10 @@ TEST(ScannerThreads, SignalClassesAndLevelsFollowTheirChances) {
         const double wifi = c.wifi / 101.0;
         const double fpv = (1 - wifi) * c.fpv / 101.0;
         const double dig = (1 - wifi - fpv) * c.dig / 101.0;
-        EXPECT_NEAR(shares[SigTypeEnum::WIFI], wifi, c.wifi ? 0.02 : 0);
-        EXPECT_NEAR(shares[SigTypeEnum::FPV], fpv, 0.02);
-        EXPECT_NEAR(shares[SigTypeEnum::DIG], dig, c.dig ? 0.02 : 0);
-        EXPECT_NEAR(silent, 0.495 + 0.505 / 19, 0.04);
+        EXPECT_NEAR(shares[SigTypeEnum::WIFI], wifi, c.wifi ? 0.008 : 0);
+        EXPECT_NEAR(shares[SigTypeEnum::FPV], fpv, 0.008);
+        EXPECT_NEAR(shares[SigTypeEnum::DIG], dig, c.dig ? 0.008 : 0);
+        EXPECT_NEAR(silent, 0.495 + 0.505 / 19, 0.01);
         EXPECT_EQ(top, -87.0F);
         EXPECT_EQ(bottom, -105.0F);
     }
