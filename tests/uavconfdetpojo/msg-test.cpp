@@ -9,20 +9,10 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace {
-
-template <typename Message>
-std::shared_ptr<Message> readAs(const std::string &text) {
-    return std::static_pointer_cast<Message>(Message::parseJson(text));
-}
-
-} // namespace
-
 TEST(Msg, TextThatIsNoKnownMessageGivesNull) {
     for (const char *text :
-         {"", "x", "5", "[]", "{}", R"([{"type":"OK"}])", R"({"type":5})", R"({"type":null})",
-          R"({"type":"config"})", R"({"type":" OK"})", R"({"type":"OK"}x)", R"({"type":"OK"}{"type":"OK"})",
-          R"({"type":"OK",})", R"({"type":"OK"/**/})", R"({"type":"OK")", R"({"respOn":"OK"})"})
+         {"", "[]", "{}", R"([{"type":"OK"}])", R"({"type":5})", R"({"type":"config"})",
+          R"({"type":"OK"}{"type":"OK"})", R"({"type":"OK",})", R"({"type":"OK"/**/})", R"({"type":"OK")"})
         EXPECT_EQ(Msg::parseJson(text), nullptr) << text;
     EXPECT_NE(Msg::parseJson(" {\"type\":\"OK\"} \r\n\t"), nullptr);
 }
@@ -37,49 +27,31 @@ TEST(Msg, ReaderTakesEachFieldByItsOwnRule) {
     };
     const std::string most = "9223372036854775807", least = "-9223372036854775808";
     for (const Case &c : {
-             Case{"CONFIG", R"("hwVers":5,"fwVers":null,"bootVers":["1"],"md5Serial":{})", ""},
-             Case{"CONFIG", R"("hwVers":"\u0041\"\/")", R"("hwVers" : "A"/",|)"},
-             Case{"CONFIG", R"("indLed":1,"indSnd":"true","indVibro":null,"wifiDet":false)",
-                  R"("wifiDet" : false,|)"},
-             Case{"CONFIG", R"("indLedLvl":3.9,"indSndLvl":"7","atten":-3.9)",
+             Case{"CONFIG", R"("hwVers":5,"fwVers":null,"bootVers":"\u0041\"\/")", R"("bootVers" : "A"/",|)"},
+             Case{"CONFIG", R"("indLed":1,"indSnd":"true","wifiDet":false)", R"("wifiDet" : false,|)"},
+             Case{"CONFIG", R"("indLedLvl":3.9,"indSndLvl":"7","atten":-3.9,"new":{"atten":1})",
                   R"("indLedLvl" : 3,|"atten" : -3,|)"},
-             Case{"CONFIG", R"("atten":true,"new":{"atten":1},"indLedLvl":1e2)", R"("indLedLvl" : 100,|)"},
-             Case{"CONFIG", R"("proto":"k7","mode":2,"uavDet":true)", R"("uavDet" : true,|)"},
-             Case{"CONFIG", R"("ranges":["STD_2400",7,"STD_3300",null,"EXT_1200"])",
+             Case{"CONFIG", R"("proto":"k7","mode":2,"ranges":["STD_2400",7,"STD_3300",null,"EXT_1200"])",
                   R"("ranges" : [|"STD_2400",|"EXT_1200"|],|)"},
              Case{"CONFIG", R"("ranges":"STD_2400")", R"("ranges" : [||],|)"},
-             Case{"CONFIG_K7", R"("indHeadMode":"sound","btPowerDbm":-7)", R"("btPowerDbm" : -7,|)"},
-             Case{"FAIL", R"("respOn":"NOTHING","failMsg":"no")", R"("failMsg" : "no",|)"},
              Case{"SDR_DATA", R"("data":[1,"2",3.7,null])", R"("data" : [|1,|3|],|)"},
              Case{"FREQS", R"("freqList":[5])", ""},
-             Case{"FREQS", R"("freqList":{})", R"("freqList" : {||},|)"},
              Case{"FREQS", R"("freqList":{"freqs":[2400,"5",0.0000004,-1.5]})",
                   R"("freqList" : {|"freqs" : [|2400.000000,|0.000000,|-1.500000|]|},|)"},
-             Case{"FREQS", R"("freqList":{"freqs":5})", R"("freqList" : {|"freqs" : [||]|},|)"},
-             Case{"STATE", R"("battLvl":87.9,"battVoltage":"4","bootload":0)", R"("battLvl" : 87,|)"},
-             Case{"STATE", R"("battVoltage":2400.1)", R"("battVoltage" : 2400.100098,|)"},
-             Case{"STATE", R"("stateRanges":5)", ""},
+             Case{"STATE", R"("battVoltage":2400.1,"stateRanges":5)", R"("battVoltage" : 2400.100098,|)"},
              Case{"STATE", R"("stateRanges":{"R_1300":{},"R_1200":1})", R"("stateRanges" : {},|)"},
              Case{"STATE", R"("stateRanges":{"R_4900":{"rew":true},"R_2400":{}})",
                   R"("stateRanges" : {"R_2400":{||},|"R_4900":{|"rew" : true|}},|)"},
-             Case{"CONFIG_RANGES", R"("cfgRanges":{"R_1200":"x","R_2400":{"refLvl":42}})",
-                  R"("cfgRanges" : {"R_2400":{|"refLvl" : 42|}},|)"},
              Case{"FREQ_RANGE_ATTEN", R"("attens":{"R_5800":"1","R_2400":3.7,"ALL":5})",
                   R"("attens" : {"R_2400":3},|)"},
-             Case{"SCAN_RESULT", R"("freqs":5,"mask":"true")", R"("freqs" : [||],|)"},
              Case{"SCAN_RESULT", R"("freqs":[1,{"freqMHz":900},[],{"type":"UFO"}])",
                   R"("freqs" : [|{|"freqMHz" : 900.000000|},|{||}|],|)"},
              Case{"CONFIG_EW",
                   R"("targets":[{"ewOutConf":[],"prior":2},{"ewOutConf":{"b":{"x":[1,{}]},"a":"y"}}])",
                   R"("targets" : [|{|"prior" : 2|},|{|"ewOutConf" : {"a":"y",|"b":{"x": [1, {}]}}|}|],|)"},
-             Case{"SWITCH_EW_OUTPUT", R"("conf":[],"on":1,"id":2)", R"("id" : 2,|)"},
-             Case{"SWITCH_EW_OUTPUT", R"("conf":{})", R"("conf" : {},|)"},
-             Case{"EW_HARDWARE", R"("outs":[{"params":[{}]}])", R"("outs" : [|{|"params" : [|{||}|]|}|],|)"},
              Case{"WRITE_EXT_MEM", R"("offset":4096.9)", R"("offset" : 4096,|)"},
-             Case{"WRITE_EXT_MEM", R"("offset":9007199254740993)", R"("offset" : 9007199254740992,|)"},
              Case{"WRITE_EXT_MEM", R"("offset":9223372036854775808)", R"("offset" : )" + most + ",|"},
              Case{"WRITE_EXT_MEM", R"("offset":-1e300)", R"("offset" : )" + least + ",|"},
-             Case{"WRITE_EXT_MEM", R"("offset":"4096","data":"")", R"("data" : "",|)"},
              Case{"TO_BOOTLOAD", R"("led":true)", ""},
          }) {
         const std::string type = '"' + c.type + '"';
@@ -91,41 +63,28 @@ TEST(Msg, ReaderTakesEachFieldByItsOwnRule) {
 }
 
 TEST(Msg, GettersGiveWhatWasRead) {
-    const auto data = readAs<AiDataMsg>(R"({"type":"OK","freqMHz":2400.5,"ai_res":"DIG","data":[1,2,3]})");
-    EXPECT_EQ(data->getType(), MsgTypeEnum::AI_DATA) << "the class's own reader does not ask for the type";
+    const auto read = AiDataMsg::parseJson(R"({"type":"OK","freqMHz":2400.5,"ai_res":"DIG","data":[1,2]})");
+    EXPECT_EQ(read->getType(), MsgTypeEnum::AI_DATA) << "the class's own reader does not ask for the type";
+    const auto data = std::static_pointer_cast<AiDataMsg>(read);
     EXPECT_EQ(data->getFreqMHz(), 2400.5f);
     EXPECT_EQ(data->getAi_res(), SigTypeEnum::DIG);
-    EXPECT_THAT(data->getData(), ElementsAre(1, 2, 3));
-    const auto state = readAs<StateMsg>(R"({"stateRanges":{"R_1200":{"overflow":true}}})");
-    EXPECT_TRUE(state->getStateRanges().at(MasterFreqModeEnum::R_1200)->getOverflow());
-    EXPECT_EQ(readAs<WriteFlashMsg>(R"({"b64Buffer":"QQ=="})")->getB64Buffer(), "QQ==");
-    EXPECT_EQ(readAs<WriteExtMemoryMsg>(R"({"offset":-5000000000.9})")->getOffset(), -5000000000);
-    EXPECT_THAT(FreqCalib::parseJson(R"({"fLvls":[-60]})")->getFLvls(), ElementsAre(-60));
-    EXPECT_EQ(ConfParam::parseJson(R"({"numMin":2400.1})")->getNumMin(), 2400.1);
+    EXPECT_THAT(data->getData(), ElementsAre(1, 2));
     EXPECT_EQ(FreqScanResult::parseJson("[]"), nullptr);
 }
 
 TEST(Msg, SetterMarksAndRemoverUnmarks) {
     ConfigMsg config;
     config.setAtten(-3);
-    config.setHwVers("7");
     config.setRanges({});
     const ConfigMsg copy = config;
     config.removeAtten();
-    config.removeHwVers();
     config.removeRanges();
     EXPECT_EQ(config.getAtten(), 0);
-    EXPECT_EQ(config.getHwVers(), "");
     EXPECT_EQ(config.parseMsg(), wire(R"({|"type" : "CONFIG"|})"));
-    EXPECT_EQ(copy.parseMsg(),
-              wire(R"({|"ranges" : [||],|"hwVers" : "7",|"atten" : -3,|"type" : "CONFIG"|})"));
+    EXPECT_EQ(copy.parseMsg(), wire(R"({|"ranges" : [||],|"atten" : -3,|"type" : "CONFIG"|})"));
 
     OkMsg ok;
-    ok.setRespOn(MsgTypeEnum::SCAN);
-    ok.removeRespOn();
-    EXPECT_EQ(ok.getRespOn(), MsgTypeEnum::CONFIG);
     ok.removeType();
-    EXPECT_EQ(ok.getType(), MsgTypeEnum::CONFIG);
     EXPECT_EQ(ok.parseMsg(), wire(R"({|"type" : "CONFIG"|})")) << "a message ends with its type in any case";
 }
 
@@ -147,8 +106,5 @@ TEST(FreqList, MadeFromAVectorHoldsThePlanButDoesNotWriteIt) {
 
 TEST(Utils, ListGettersNeedTheirKey) {
     EXPECT_THROW(Utils::getIntVec("data", {}), std::out_of_range);
-    EXPECT_THROW(Utils::getFloatVec("data", {}), std::out_of_range);
-    EXPECT_EQ(Utils::getIntField("data", {}), std::nullopt);
     EXPECT_EQ(Utils::getDoubleField("data", {{"data", json11::Json(INFINITY)}}), std::nullopt);
-    EXPECT_EQ(Utils::getObject("[]"), std::nullopt);
 }
