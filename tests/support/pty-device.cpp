@@ -190,9 +190,9 @@ void PtyDevice::clearRecord() {
     types.clear();
 }
 
-Json PtyDevice::setting(const std::string &type, const std::string &key) const {
+Json::object PtyDevice::settingsOf(const std::string &type) const {
     const std::lock_guard lock(mutex);
-    return Json(settings.at(type))[key];
+    return settings.at(type);
 }
 
 bool PtyDevice::isScanning() const {

@@ -72,8 +72,8 @@ public:
     std::vector<std::string> requests() const;
     std::vector<std::string> requestTypes() const;
     void clearRecord();
-    /// A setting as the device has it now, such as ("CONFIG", "atten"); null if there is none.
-    json11::Json setting(const std::string &type, const std::string &key) const;
+    /// The settings of a message type as the device has them now, by key.
+    json11::Json::object settingsOf(const std::string &type) const;
     bool isScanning() const;
 
     /// These are false when the deadline has passed.

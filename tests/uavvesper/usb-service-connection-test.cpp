@@ -135,8 +135,8 @@ TEST_F(UsbServiceConnection, AFactoryResetReachesEverySettingOfTheGeneration) {
     }
     EXPECT_THAT(settings, ElementsAre("CONFIG", "CONFIG_K7", "CONFIG_EW", "AI_PRIOR"));
     EXPECT_EQ(ew.requestTypes().back(), "GET_CONFIG");
-    EXPECT_EQ(ew.setting("CONFIG_EW", "targets")[3]["freqMax"].number_value(), 6100);
-    EXPECT_EQ(ew.setting("CONFIG_K7", "voiceDbLvl").int_value(), -97);
+    EXPECT_EQ(ew.settingsOf("CONFIG_EW")["targets"][3]["freqMax"].number_value(), 6100);
+    EXPECT_EQ(ew.settingsOf("CONFIG_K7")["voiceDbLvl"].int_value(), -97);
 }
 
 TEST_F(UsbServiceConnection, LivesWithNoiseAndRefusal) {
