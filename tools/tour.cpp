@@ -33,6 +33,8 @@ public:
         startSimulator();
         waitForScans(History::DEFAULT_HISTORY_LEN);
         shoot("bars");
+        visitHelp();
+        visitSettings();
         swipeAllBands();
         shoot("course-of-the-strongest-signal");
         swipeAllBands();
@@ -47,7 +49,9 @@ public:
 private:
     /// Twelve clicks on the help button while not connected.
     void startSimulator() {
-        for (int i = 0; i < 12; ++i)
+        driver.click(control("info"));
+        shoot("help-not-connected");
+        for (int i = 1; i < 12; ++i)
             driver.click(control("info"));
         waitFor([this] { return objects.usbService.isUsbActive(); }, "The simulator does not start.");
     }
@@ -88,6 +92,36 @@ private:
             while (const QQuickItem *control = driver.find(isBand))
                 driver.click(*control);
         }
+    }
+
+    void visitHelp() {
+        driver.click(control("info"));
+        shoot("help");
+        shootAt({300, 400}, "help-small-window");
+        visitDialog("Manual");
+        driver.click(control("info"));
+    }
+
+    void visitSettings() {
+        driver.click(control("cfg"));
+        shoot("settings");
+        shootAt({300, 400}, "settings-small-window");
+        for (const char *row : {"Scan mode", "AI mode", "Alarm level"})
+            visitDialog(row);
+        const QQuickItem *drawer =
+            driver.find([](const QQuickItem &item) { return ScreenDriver::isA(item, "DrawerFrame"); });
+        if (!drawer || !driver.scrollDown(*drawer))
+            throw TourError{"The settings do not scroll."};
+        shoot("settings-scrolled");
+        visitDialog("Headphones output");
+        driver.click(control("cfg"));
+    }
+
+    /// The dialog that a control opens, left by a click outside.
+    void visitDialog(const QString &word) {
+        driver.click(control(word));
+        shoot("dialog-" + word.toLower().replace(' ', '-'));
+        driver.clickAt({1, 1});
     }
 
     void waitForScans(int count) {

@@ -36,16 +36,6 @@ protected:
         driver->picture(); // drawn, so everything has its place
     }
 
-    /// Drags the content of the open drawer up, at its left, where no control is, until its end is reached.
-    void scrollDown() {
-        const QQuickItem &frame = *first("DrawerFrame");
-        ASSERT_TRUE(ScreenDriver::waitFor([&] {
-            driver->drag(frame.mapToScene({2, frame.height() * 0.9}).toPoint(),
-                         frame.mapToScene({2, frame.height() * 0.1}).toPoint());
-            return first("QQuickFlickable", &frame)->property("atYEnd").toBool();
-        }));
-    }
-
     /// The entry of the open dialog with this word on it.
     QQuickItem *entry(const QString &word) const {
         const QQuickItem *dialog = first("ListButtonDialog");

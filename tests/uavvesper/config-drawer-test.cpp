@@ -173,6 +173,6 @@ TEST_F(ConfigDrawerTest, FitsALargeWindowAndScrollsInASmallOne) {
     EXPECT_TRUE(isInView("Detection") && isInView("Display timeout"));
     resize(300, 400);
     EXPECT_TRUE(isInView("Detection") && !isInView("Display timeout"));
-    scrollDown();
+    EXPECT_TRUE(driver->scrollDown(*first("DrawerFrame")));
     EXPECT_TRUE(!isInView("Detection") && isInView("Display timeout"));
 }

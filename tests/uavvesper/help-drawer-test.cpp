@@ -40,7 +40,7 @@ TEST_F(HelpDrawerTest, FitsTheUsualWindowAndScrollsInATinyOne) {
     EXPECT_TRUE(isInView("Mode: ") && isInView("Manual"));
     resize(40, 200);
     EXPECT_FALSE(isInView("Manual"));
-    scrollDown();
+    EXPECT_TRUE(driver->scrollDown(*first("DrawerFrame")));
     EXPECT_TRUE(isInView("Manual"));
 }
 

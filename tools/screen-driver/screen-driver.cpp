@@ -55,6 +55,16 @@ void ScreenDriver::drag(QPoint from, QPoint to) {
     QTest::mouseRelease(&window, Qt::LeftButton, {}, to);
 }
 
+bool ScreenDriver::scrollDown(const QQuickItem &item) {
+    const QQuickItem *flickable = find(
+        [&](const QQuickItem &each) { return isA(each, "QQuickFlickable") && item.isAncestorOf(&each); });
+    return flickable && waitFor([&] {
+               drag(item.mapToScene({2, item.height() * 0.9}).toPoint(),
+                    item.mapToScene({2, item.height() * 0.1}).toPoint());
+               return flickable->property("atYEnd").toBool();
+           });
+}
+
 bool ScreenDriver::waitFor(const std::function<bool()> &condition, int timeoutMs) {
     return QTest::qWaitFor(condition, timeoutMs);
 }

@@ -34,6 +34,10 @@ public:
     /// Presses at one point, moves there in steps, and releases at the other.
     void drag(QPoint from, QPoint to);
 
+    /// Drags what scrolls in an item up, at the left edge, where no control is, until its end is in view;
+    /// false if it does not come.
+    bool scrollDown(const QQuickItem &item);
+
     /// Runs the event loop until the condition holds; false if it does not within the time.
     static bool waitFor(const std::function<bool()> &condition, int timeoutMs = 20000);
 
