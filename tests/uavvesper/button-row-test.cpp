@@ -7,11 +7,10 @@ namespace {
 
 class ButtonRow : public ScreenFixture {
 protected:
-    std::string chargeIcon() {
-        const QQuickItem *button = driver->find([](const QQuickItem &item) {
+    const QQuickItem *chargeButton() {
+        return driver->find([](const QQuickItem &item) {
             return item.property("text").toString().endsWith('%') && item.property("iconSource").isValid();
         });
-        return button ? button->property("iconSource").toUrl().fileName().toStdString() : "none";
     }
 };
 
@@ -29,14 +28,10 @@ TEST_F(ButtonRow, TellsTheBatteryByNumberAndPicture) {
                                         {94, "b75"},
                                         {95, "b100"}}) {
         device->setBattery(percent);
-        click(
-            driver
-                ->find([](const QQuickItem &item) { return item.property("text").toString().endsWith('%'); })
-                ->property("text")
-                .toString());
+        click(chargeButton()->property("text").toString());
         const QString text = QString::number(percent) + '%';
         EXPECT_TRUE(ScreenDriver::waitFor([&] { return driver->control(text) != nullptr; })) << percent;
-        EXPECT_EQ(chargeIcon(), icon) << percent;
+        EXPECT_EQ(chargeButton()->property("iconSource").toUrl().fileName(), icon) << percent;
     }
 }
 

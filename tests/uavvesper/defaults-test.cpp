@@ -41,15 +41,9 @@ TEST(Defaults, AreTheFactorySettings) {
 
 TEST(LevelTables, FollowTheAttenuationAndMindWhatTheyDoNotHold) {
     using Level = SensLevelEnum;
-    for (const auto &[atten, level, next] : {std::tuple(6, Level::LOW, Level::MIDDLE),
-                                             {3, Level::MIDDLE, Level::HIGH},
-                                             {0, Level::HIGH, Level::LOW},
-                                             {5, Level::UNKNOWN, Level::LOW}}) {
-        EXPECT_EQ(SensLevel::byAtten(atten), level) << atten;
-        EXPECT_EQ(SensLevel(level).next(), next) << atten;
-    }
-    EXPECT_EQ(SensLevel(Level::HIGH).getViewName(), "Высок");
-    EXPECT_EQ(SigTypeColors::getColor(SigTypeEnum::FPV), QColor(255, 0, 0));
+    for (const auto &[atten, next] :
+         {std::pair(6, Level::MIDDLE), {3, Level::HIGH}, {0, Level::LOW}, {5, Level::LOW}})
+        EXPECT_EQ(SensLevel(SensLevel::byAtten(atten)).next(), next) << atten;
     EXPECT_EQ(SensLevel(static_cast<Level>(-1)).getEnumName(), "???");
     EXPECT_THROW(SensLevel(static_cast<Level>(4)).getAtten(), std::out_of_range);
     EXPECT_EQ(SigTypeColors::getColor(static_cast<SigTypeEnum>(6)).alpha(), 0);

@@ -2,13 +2,10 @@
 #include "usb-service.h"
 
 #include <QTest>
-#include <fstream>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 using std::chrono::milliseconds;
-using testing::ElementsAre;
 using Manner = PtyDevice::Manner;
 
 namespace {
@@ -20,7 +17,6 @@ public:
         : usb(nullptr, directory.path()) {
         QObject::connect(&usb, &UsbService::usbStateChanged, &receiver, [this] { ++states; });
         QObject::connect(&usb, &UsbService::gotScanResult, &receiver, [this] { ++scans; });
-        QObject::connect(&usb, &UsbService::gotConfig, &receiver, [this] { ++configs; });
     }
 
     /// What the USB button does while not connected; false if no device was found.
@@ -45,7 +41,7 @@ public:
         return QTest::qWaitFor([&] { return scans > before; }, 20000);
     }
 
-    int states = 0, scans = 0, configs = 0;
+    int states = 0, scans = 0;
     QObject receiver; // takes what is on its way to this object with it
     UsbService usb;
 };
@@ -77,30 +73,6 @@ TEST_F(UsbServiceConnection, PutsTheseBytesOnTheLine) {
     EXPECT_FALSE(device.isScanning());
 }
 
-TEST_F(UsbServiceConnection, FindsTheDeviceBesideOthers) {
-    PtyDevice silent(directory, ProtoEnum::K7, "usb-a-silent"),
-        other(directory, ProtoEnum::K7, "usb-z-silent");
-    silent.setManner(Manner::SILENT);
-    other.setManner(Manner::SILENT);
-    std::filesystem::create_symlink("nowhere", directory.path() / "usb-dead");
-    std::filesystem::create_symlink(directory.path(), directory.path() / "usb-no-terminal");
-    std::ofstream(directory.path() / "no-link") << "text";
-    ASSERT_TRUE(service.connectTo(device));
-    EXPECT_TRUE(service.getsScan());
-    EXPECT_EQ(device.requestTypes().size(), 6U);
-}
-
-TEST_F(UsbServiceConnection, PassesOverADeviceThatDoesNotAnswerInTime) {
-    device.setManner(Manner::SILENT);
-    EXPECT_FALSE(service.press());
-    device.setManner(Manner::OBLIGING);
-    device.setAnswerDelay(milliseconds(300));
-    EXPECT_FALSE(service.press());
-    device.setAnswerDelay(milliseconds(0));
-    ASSERT_TRUE(service.connectTo(device));
-    EXPECT_EQ(service.configs, 1);
-}
-
 // A message cut in half swallows what follows, also on the port opened anew, until five seconds have passed.
 TEST_F(UsbServiceConnection, RecoversFromACutMessage) {
     device.setManner(Manner::CUT);
@@ -109,48 +81,6 @@ TEST_F(UsbServiceConnection, RecoversFromACutMessage) {
     QTest::qWait(5100);
     EXPECT_FALSE(service.press());
     ASSERT_TRUE(service.connectTo(device));
-    EXPECT_TRUE(service.getsScan());
-}
-
-TEST_F(UsbServiceConnection, TakesADeviceThatStreamsAfterAnotherPress) {
-    device.setScanPeriod(milliseconds(10));
-    device.startStreaming();
-    service.press(); // a scan comes before the answer more often than not
-    service.usb.disconnect();
-    device.setScanPeriod(milliseconds(0));
-    ASSERT_TRUE(service.connectTo(device));
-}
-
-TEST_F(UsbServiceConnection, AFactoryResetReachesEverySettingOfTheGeneration) {
-    PtyDevice ew(directory, ProtoEnum::K7EW, "usb-ew");
-    device.unplug();
-    ew.setScanPeriod(milliseconds(0));
-    ASSERT_TRUE(service.connectTo(ew));
-    ew.clearRecord();
-    service.usb.resetToDefaults(static_cast<int>(ProtoEnum::K7EW));
-    std::vector<std::string> settings; // which of them are read back depends on how fast they are answered
-    for (const std::string &type : ew.requestTypes()) {
-        if (type.rfind("GET_", 0) != 0)
-            settings.push_back(type);
-    }
-    EXPECT_THAT(settings, ElementsAre("CONFIG", "CONFIG_K7", "CONFIG_EW", "AI_PRIOR"));
-    EXPECT_EQ(ew.requestTypes().back(), "GET_CONFIG");
-    EXPECT_EQ(ew.settingsOf("CONFIG_EW")["targets"][3]["freqMax"].number_value(), 6100);
-    EXPECT_EQ(ew.settingsOf("CONFIG_K7")["voiceDbLvl"].int_value(), -97);
-}
-
-TEST_F(UsbServiceConnection, LivesWithNoiseAndRefusal) {
-    device.setManner(Manner::NOISY);
-    ASSERT_TRUE(service.connectTo(device));
-    EXPECT_TRUE(service.getsScan());
-    device.setManner(Manner::REFUSING);
-    EXPECT_FALSE(service.usb.setMask());
-    service.usb.resetToDefaults(static_cast<int>(ProtoEnum::K7));
-    device.setManner(Manner::OBLIGING);
-    for (const char *text : {"[1, 2]\n", "{\"type\" : \"UNKNOWN\"}\n", "{\"type\" : 5}\n", "{}\n",
-                             "{\"type\" : \"STATE\", \"battLvl\" : \"full\"}\n",
-                             "{\"type\" : \"SCAN_RESULT\", \"freqs\" : 5}\n"})
-        device.sendText(text);
     EXPECT_TRUE(service.getsScan());
 }
 
@@ -177,17 +107,6 @@ TEST_F(UsbServiceConnection, SurvivesUnplugging) {
     device.plugIn();
     ASSERT_TRUE(service.connectTo(device));
     EXPECT_TRUE(service.getsScan());
-}
-
-TEST_F(UsbServiceConnection, FindsNothingWhereNothingIs) {
-    device.unplug();
-    EXPECT_FALSE(service.press()); // an empty directory
-    for (const char *missing : {"/nonexistent", "/dev/null"}) {
-        UsbService other(nullptr, missing);
-        other.startUsb();
-        other.shutDown();
-        EXPECT_FALSE(other.isUsbActive());
-    }
 }
 
 // The object ends in every state, and leaves no device scanning.

@@ -1,20 +1,13 @@
 #include "usb-tty.h"
 
 #include "inbox.h"
-#include "msg/scan-result-msg.h"
 #include "pty-device.h"
 
-#include <filesystem>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 using namespace std::chrono_literals;
 
 namespace {
-
-std::size_t openDescriptors() {
-    const std::filesystem::directory_iterator descriptors("/proc/self/fd");
-    return static_cast<std::size_t>(std::distance(begin(descriptors), end(descriptors)));
-}
 
 class UsbTtyThreads : public testing::Test {
 protected:
@@ -50,47 +43,6 @@ TEST_F(UsbTtyThreads, SetsTheLineUpAndLeavesTheRest) {
     EXPECT_EQ(now.c_cc[VTIME], 10);
     EXPECT_EQ(now.c_cc[VMIN], 0);
     EXPECT_EQ(cfgetospeed(&now), speed_t(B57600));
-}
-
-TEST_F(UsbTtyThreads, CarriesMessagesBothWays) {
-    ASSERT_TRUE(tty.openPort());
-    EXPECT_FALSE(tty.isClosed());
-    tty.sendBytes("{\n\"type\" : \"GET_STATE\"\n}", 100ms);
-    ASSERT_TRUE(inbox.at(0));
-    EXPECT_EQ(device.received(), "{\r\n\"type\" : \"GET_STATE\"\r\n}");
-
-    // Longer than one read.
-    device.sendScan({200, std::make_shared<FreqScanResult>(FreqScanResultBuilder().freqMHz(5800).build())});
-    const auto scan = inbox.at<ScanResultMsg>(1);
-    ASSERT_TRUE(scan);
-    EXPECT_EQ(scan->getFreqs().size(), 200U);
-}
-
-TEST_F(UsbTtyThreads, ReportsWhatCannotBeOpened) {
-    const auto descriptors = openDescriptors();
-    for (const char *name : {"", "/nowhere/at/all", "/dev/null"}) {
-        tty.setPortName(name);
-        EXPECT_FALSE(tty.openPort()) << name;
-        EXPECT_TRUE(tty.isClosed()) << name;
-        tty.serialClose();
-    }
-    EXPECT_EQ(openDescriptors(), descriptors);
-}
-
-TEST_F(UsbTtyThreads, OpensAgainAfterAnUnplug) {
-    for (int round = 0; round < 2; ++round) {
-        tty.setPortName(device.terminal());
-        ASSERT_TRUE(tty.openPort());
-        device.sendText("{\"type\":\"OK\"}\n");
-        ASSERT_TRUE(inbox.at(static_cast<std::size_t>(round)));
-        device.unplug();
-        tty.sendBytes("lost", 100ms);
-        EXPECT_FALSE(tty.isClosed());
-        tty.serialClose();
-        tty.serialClose();
-        EXPECT_TRUE(tty.isClosed());
-        device.plugIn();
-    }
 }
 
 TEST_F(UsbTtyThreads, ASecondPortTakesThePlaceOfTheFirst) {
