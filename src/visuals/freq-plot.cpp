@@ -100,7 +100,7 @@ void FreqPlot::paintTimeAxis(QPainter &painter, std::int64_t spanMs) const {
         const int labelX = static_cast<int>(x - 0.5 * labelW);
         painter.setPen(linePen(textColor));
         if (labelX > 0)
-            painter.drawText(QRectF(labelX, grid.height(), 2 * labelW, labelsHeight()), QString::number(t));
+            drawNumber(painter, labelX, grid.height(), t);
     }
 }
 

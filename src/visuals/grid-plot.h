@@ -39,6 +39,9 @@ protected:
 
     void drawRow(QPainter &painter, int y) const { painter.drawLine(0, y, grid.width(), y); }
     void drawColumn(QPainter &painter, int x) const { painter.drawLine(x, 0, x, grid.height()); }
+    /// Draws a label with its top left corner at this place. Unlike a text in a rectangle it is neither
+    /// wrapped nor cut where a font is wider than its average character.
+    void drawNumber(QPainter &painter, int x, int top, std::int64_t number) const;
 
     /// The first of the steps 1, 5, 10, 50, 100 and so on with which the labels fit.
     template <typename Fits>
@@ -50,7 +53,8 @@ protected:
     }
 
     QSize grid;
-    int charW = 0; ///< average width of a label's character, in pixels
+    int charW = 0;  ///< average width of a label's character, in pixels
+    int ascent = 0; ///< of the labels' font, in pixels
     QColor textColor;
     QColor borderColor;
 };

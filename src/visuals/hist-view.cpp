@@ -89,15 +89,13 @@ void HistView::paintLegend(QPainter &painter) {
         return;
     painter.setPen(linePen(textColor));
     for (int level = MIN_LABEL_DB; level <= PLOT_MAX_Y; level += LEVEL_STEP_DB)
-        painter.drawText(QRectF(charW, levelY(level) - textSize, 3 * charW, 2 * textSize),
-                         QString::number(level));
+        drawNumber(painter, charW, levelY(level) - textSize, level);
     const int left = 4 * charW;
     eachLabelledFreq([&](float freq, int x) {
         const int labelW = charW * (freq >= 1000 ? 4 : 3);
         const int labelX = left + x - labelW / 2;
         if (labelX + labelW <= left + grid.width())
-            painter.drawText(QRectF(labelX, grid.height(), charW + labelW, labelsHeight()),
-                             QString::number(static_cast<int>(bounded(freq))));
+            drawNumber(painter, labelX, grid.height(), static_cast<int>(bounded(freq)));
     });
 }
 

@@ -32,21 +32,24 @@ History LayeredPlot::getHistory() const {
 }
 
 void LayeredPlot::paint(QPainter *painter) {
-    painter->drawPixmap(0, 0, background);
+    // The background only where it shows: copying it under the data would be a good part of a scan's cost.
+    const QRect covered = image.isNull() ? QRect() : imageArea;
+    for (const QRect &strip : QRegion(background.rect()) - covered)
+        painter->drawPixmap(strip, background, strip);
     painter->drawPixmap(imageArea, image);
 }
 
 void LayeredPlot::paintBackground() {
     const QSize size(static_cast<int>(boundingRect().width()), static_cast<int>(boundingRect().height()));
     imageArea = layOut(size);
-    background = makeLayer(size, [this](QPainter &painter) {
+    paintLayer(background, size, [this](QPainter &painter) {
         if (!imageArea.isEmpty())
             paintLegend(painter);
     });
 }
 
 void LayeredPlot::paintOnImage() {
-    image = makeLayer(imageArea.size(), [this](QPainter &painter) { paintData(painter); });
+    paintLayer(image, imageArea.size(), [this](QPainter &painter) { paintData(painter); });
     emit imageReady();
 }
 
@@ -84,14 +87,14 @@ void LayeredPlot::showData() {
 }
 
 template <typename PaintContent>
-QPixmap LayeredPlot::makeLayer(const QSize &size, PaintContent paintContent) const {
-    if (size.isEmpty())
-        return QPixmap();
-    QPixmap layer(size);
+void LayeredPlot::paintLayer(QPixmap &layer, const QSize &size, PaintContent paintContent) const {
+    if (layer.size() != size)
+        layer = size.isEmpty() ? QPixmap() : QPixmap(size);
+    if (layer.isNull())
+        return;
     layer.fill(backgroundColor);
     QPainter painter(&layer);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(labelFont());
     paintContent(painter);
-    return layer;
 }

@@ -77,7 +77,7 @@ private:
     void rebuild();
     void showData();
     template <typename PaintContent>
-    QPixmap makeLayer(const QSize &size, PaintContent paintContent) const;
+    void paintLayer(QPixmap &layer, const QSize &size, PaintContent paintContent) const;
 
     QRect imageArea;
     QPixmap image;
