@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -15,8 +16,10 @@ constexpr std::array endingSignals = {SIGINT, SIGTERM, SIGHUP};
 std::array<int, 2> wakeUp = {-1, -1};
 
 void wake(int) {
+    const int interrupted = errno; // another thread may be about to look at it
     const char byte = 0;
     [[maybe_unused]] const auto written = ::write(wakeUp[0], &byte, sizeof byte);
+    errno = interrupted;
 }
 
 /// A session leader without a terminal gets the first one that it opens, here the device: unplugging it would
@@ -42,7 +45,9 @@ ProcessSignals::ProcessSignals()
     QObject::connect(&notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
     for (const int number : endingSignals) {
         const bool ignored = number == SIGHUP && wouldTakeDeviceForTerminal();
-        std::signal(number, ignored ? SIG_IGN : wake);
+        // What the process was started to ignore (nohup, a script's background job) stays ignored.
+        if (std::signal(number, ignored ? SIG_IGN : wake) == SIG_IGN)
+            std::signal(number, SIG_IGN);
     }
 }
 

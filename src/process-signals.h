@@ -3,7 +3,8 @@
 #include <QSocketNotifier>
 
 /// Ends the event loop in good order when the process is told to end (SIGINT, SIGTERM, a closed terminal), so
-/// that the device does not go on scanning. At most one object at a time, made after the application object.
+/// that the device does not go on scanning. A process without a terminal ignores a hang-up, as the device
+/// would be its terminal. At most one object at a time, made after the application object.
 class ProcessSignals {
 public:
     ProcessSignals();

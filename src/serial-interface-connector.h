@@ -35,9 +35,12 @@ public:
         std::unique_lock lock(busyMutex);
         if (busyCV.wait_for(lock, BUSY_TIMEOUT, [this] { return !busy; })) {
             busy = true;
+            // Also when the transaction raises: the connector must not stay busy.
+            const std::shared_ptr<void> release(nullptr, [this](void *) {
+                busy = false;
+                busyCV.notify_one();
+            });
             result = simpleTransaction(msg, timeout);
-            busy = false;
-            busyCV.notify_one();
         }
         return result;
     }

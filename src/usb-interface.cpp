@@ -93,8 +93,11 @@ bool UsbInterface::claimInterfaces() {
 }
 
 void UsbInterface::startReading() {
-    if (!closed)
-        readingThread = std::make_unique<std::thread>([this] { listenUsb(); });
+    if (closed)
+        return;
+    if (readingThread && readingThread->joinable())
+        return;
+    readingThread = std::make_unique<std::thread>([this] { listenUsb(); });
 }
 
 void UsbInterface::stopReading() {

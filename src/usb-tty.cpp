@@ -79,7 +79,7 @@ bool UsbTty::openPort() {
 
 void UsbTty::startReading() {
     const std::lock_guard lock(lifecycle);
-    if (!readingThread)
+    if (!readingThread && !closed)
         readingThread = std::make_shared<std::thread>([this] { read(); });
 }
 
@@ -90,7 +90,7 @@ void UsbTty::read() {
         const ssize_t count = ::read(port, bytes.data(), bytes.size());
         if (errno == EINTR || count == 0 || static_cast<std::size_t>(count) > buffer_size) {
             // A device that was pulled out answers every read at once.
-            if (std::chrono::steady_clock::now() - start < EMPTY_READ_PAUSE)
+            if (count <= 0 && std::chrono::steady_clock::now() - start < EMPTY_READ_PAUSE)
                 pauseReading();
             continue;
         }

@@ -31,7 +31,7 @@ public:
     /// Opens the port, sets the line up for the device and starts reading. The speed stays as it is. An open
     /// port is replaced.
     bool openPort();
-    /// Starts the reading thread where none is; it ends at once on a closed link.
+    /// Starts the reading thread of an open link where none is.
     void startReading();
     /// Returns when the reading thread has ended, within about a second.
     void serialClose() override;

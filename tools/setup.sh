@@ -6,13 +6,13 @@ set -euo pipefail
 BUILD_PACKAGES=(
     build-essential cmake ninja-build pkg-config
     qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
-    libusb-1.0-0-dev rapidjson-dev
+    libusb-1.0-0-dev rapidjson-dev libgtest-dev libgmock-dev
 )
 SCREEN_PACKAGES=(
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
-    qml-module-qtquick-templates2 qtwayland5 fonts-dejavu-core
+    qml-module-qtquick-templates2 qtwayland5 fonts-dejavu-core xdg-utils
 )
-TEST_PACKAGES=(libgtest-dev libgmock-dev locales xvfb xauth)
+TEST_PACKAGES=(locales xvfb xauth)
 
 fail() {
     echo "$1" >&2
@@ -47,7 +47,7 @@ build() {
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"$log" 2>&1 ||
         fail "Configuring failed; $log tells why."
     cmake --build "build/$preset" --target "$@" >"$log" 2>&1 || {
-        grep -m 1 -E 'error|Error' "$log" >&2 || true
+        grep -m 1 -E '(^|[: ])error:|CMake Error|undefined reference' "$log" >&2 || true
         fail "Building failed; $log tells why."
     }
 }

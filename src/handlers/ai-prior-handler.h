@@ -11,7 +11,7 @@
 /// Holds the user's choice among the AI modes of the device's generation and sends it. It does not follow the
 /// device: what the device says of its mode does not move the choice. Lives on the UI thread.
 ///
-/// A generation without AI modes reads as `NONE` and is sent nothing.
+/// An empty list of modes, which only K1 has, reads as `NONE`, and nothing is sent for it.
 class AiPriorHandler : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString shortName READ shortName NOTIFY aiChanged)

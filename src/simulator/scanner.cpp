@@ -13,7 +13,8 @@ namespace {
 constexpr int RSSI_FLOOR = -105; // dB, the level of silence
 constexpr int RSSI_TOP = -75;    // dB
 constexpr int RSSI_PER_ATTEN = 3;
-constexpr int BASE_CHANCE = 5; // percent
+constexpr int MAX_ATTEN = 1000; // far more than reaches the floor, and no overflow
+constexpr int BASE_CHANCE = 5;  // percent
 
 milliseconds scanPeriod(DetModeEnum mode) {
     switch (mode) {
@@ -67,7 +68,8 @@ void Scanner::setByConfig(const std::shared_ptr<ConfigMsg> &config) {
         plans.push_back(FreqMode(range).getFreqList()->getFreqs());
     changeSettings([&] {
         delay = scanPeriod(config->getMode());
-        rssiMax = std::max(RSSI_TOP - RSSI_PER_ATTEN * config->getAtten(), RSSI_FLOOR);
+        rssiMax = std::max(RSSI_TOP - RSSI_PER_ATTEN * std::clamp(config->getAtten(), -MAX_ATTEN, MAX_ATTEN),
+                           RSSI_FLOOR);
         freqs = plans;
         wifi = config->getWifiDet() ? BASE_CHANCE : 0;
         dig = config->getUavDet() ? BASE_CHANCE : 0;

@@ -24,7 +24,7 @@ protected:
     void paintSwitch(QPainter *painter, const QSizeF &item);
 
     void drawBorder(QPainter *painter, int w, int h) const;
-    /// Draws the text as large as told, or smaller where the label would cut it.
+    /// Draws the text as large as asked for, or smaller where the label would cut it.
     void drawText(QPainter *painter, int w, int h) const;
     /// Draws what the disc shows of the switch's state.
     virtual void drawChecked(QPainter *painter, int w, int h) = 0;

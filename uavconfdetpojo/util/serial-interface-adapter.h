@@ -62,8 +62,8 @@ private:
     ListenerList<OnErrorListener> onErrorListeners;
     std::atomic<int> trIdHolder{0};
 
-    std::mutex
-        bufferMutex; // guards `buffer` and `jbc`: the reading thread's, but any thread may ask for the bytes
+    // Guards `buffer` and `jbc`: the reading thread's, but any thread may ask for the bytes.
+    std::mutex bufferMutex;
     CharBuffer buffer;
     JsonBraceCounter jbc; // over the bytes of `buffer`
     long long lastParsed; // ms; the reading thread's alone
