@@ -15,12 +15,12 @@
 #include <QTranslator>
 
 void registerTypes() {
-    qmlRegisterType<BarScanResultPlot>("barScanResultPlot", 1, 0, "BarScanResultPlot");
-    qmlRegisterType<PlotListModel>("plotListModel", 1, 0, "PlotListModel");
-    qmlRegisterType<UavSwitch>("uavSwitch", 1, 0, "UavSwitch");
-    qmlRegisterType<UavThreeSwitch>("uavThreeSwitch", 1, 0, "UavThreeSwitch");
-    qmlRegisterType<HistView>("histView", 1, 0, "HistView");
-    qmlRegisterType<FreqPlot>("freqPlot", 1, 0, "FreqPlot");
+    qmlRegisterType<Guarded<BarScanResultPlot>>("barScanResultPlot", 1, 0, "BarScanResultPlot");
+    qmlRegisterType<Guarded<PlotListModel>>("plotListModel", 1, 0, "PlotListModel");
+    qmlRegisterType<Guarded<UavSwitch>>("uavSwitch", 1, 0, "UavSwitch");
+    qmlRegisterType<Guarded<UavThreeSwitch>>("uavThreeSwitch", 1, 0, "UavThreeSwitch");
+    qmlRegisterType<Guarded<HistView>>("histView", 1, 0, "HistView");
+    qmlRegisterType<Guarded<FreqPlot>>("freqPlot", 1, 0, "FreqPlot");
     qRegisterMetaType<History>("History");
     qRegisterMetaType<MsgHolder>("MsgHolder");
 }

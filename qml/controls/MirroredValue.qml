@@ -13,6 +13,9 @@ QtObject {
     property var absent
 
     function show() {
+        // A message must not pull a slider out of the user's hand; the commit on release shows the value again.
+        if (control.pressed === true)
+            return
         control[shownAs] = Qt.binding(function () {
             return absent === undefined || usbService.isUsbActive ? handler[setting] : absent
         })

@@ -7,6 +7,7 @@ Item {
     property real minimumValue: 0
     property real value: 75
     property real stepSize: 1
+    property alias pressed: mouseArea.pressed
 
     // The only point at which a value is to be sent: on release, not while the runner is dragged.
     signal changed

@@ -37,6 +37,8 @@ Item {
         // A text too long for the line is set smaller, not cut.
         fontSizeMode: Text.HorizontalFit
         minimumPointSize: 1
+        // What the device calls its versions is shown as it is.
+        textFormat: Text.PlainText
         color: themeData.lightTextColor
         font.pointSize: themeData.fontSizeTiny
     }

@@ -36,7 +36,7 @@ Item {
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
                 // A word too long for its field is set smaller, not cut.
-                fontSizeMode: Text.Fit
+                fontSizeMode: Text.HorizontalFit
                 minimumPointSize: 1
                 font.pointSize: themeData.iconSizeSmall
                 font.bold: true

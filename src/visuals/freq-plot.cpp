@@ -60,8 +60,14 @@ void FreqPlot::paintLegend(QPainter &painter) {
     for (int level = PLOT_MIN_Y; level <= PLOT_MAX_Y; level += LEVEL_STEP_DB) {
         const int x = level < -99 ? 0 : charW;
         const int above = grid.height() * (level - PLOT_MIN_Y) / (PLOT_MAX_Y - PLOT_MIN_Y);
-        painter.drawText(x, itemHeight - static_cast<int>(0.5 * textSize + above) - textSize,
-                         QString::number(level));
+        const QString label = QString::number(level);
+        // In fonts with wide digits the longest labels would run under the picture.
+        const qreal room = 4 * charW - x, wanted = painter.fontMetrics().horizontalAdvance(label);
+        painter.save();
+        painter.translate(x, itemHeight - static_cast<int>(0.5 * textSize + above) - textSize);
+        painter.scale(wanted > room ? room / wanted : 1, 1);
+        painter.drawText(0, 0, label);
+        painter.restore();
     }
 }
 
