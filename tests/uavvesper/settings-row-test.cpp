@@ -1,11 +1,7 @@
 #include "screen-fixture.h"
 #include "wire-text.h"
 
-using testing::Each;
-using testing::ElementsAre;
-using testing::EndsWith;
-using testing::IsEmpty;
-using testing::Not;
+using namespace testing;
 
 static const std::string CONFIG =
     wire(R"({|"proto" : "K7",|"indLed" : true,|"indSnd" : true,|"indVibro" : false,|"indLedLvl" : 50,|)"
@@ -30,24 +26,23 @@ protected:
         connectByButton();
     }
 
+    static bool isControl(const QQuickItem &item) {
+        return ScreenDriver::isA(item, "UavThreeSwitch") || ScreenDriver::isA(item, "UavSwitch") ||
+               ScreenDriver::isA(item, "Button");
+    }
+
     /// The switch or button whose word begins so: bands and buttons change the rest of it.
     const QQuickItem &control(const QString &word) const {
         const QQuickItem *found = driver->find([&](const QQuickItem &item) {
-            const bool isControl = ScreenDriver::isA(item, "UavThreeSwitch") ||
-                                   ScreenDriver::isA(item, "UavSwitch") || ScreenDriver::isA(item, "Button");
-            return isControl && item.property("text").toString().startsWith(word);
+            return isControl(item) && item.property("text").toString().startsWith(word);
         });
-        if (!found)
-            throw std::runtime_error("no control shows " + word.toStdString());
-        return *found;
+        return found ? *found : throw std::runtime_error("no control shows " + word.toStdString());
     }
 
     void press(const QString &word) { driver->click(control(word)); }
 
     /// What a person sees of a control: its word, and the disc of a switch.
-    std::string look(const QString &word) const {
-        const QImage picture = driver->picture();
-        const QQuickItem &item = control(word);
+    static std::string look(const QQuickItem &item, const QImage &picture) {
         const std::string text = item.property("text").toString().toStdString();
         if (ScreenDriver::isA(item, "Button"))
             return item.isEnabled() ? text : text + " dead";
@@ -64,14 +59,17 @@ protected:
         return text + (upper ? lower ? " full" : " upper half" : lower ? " half" : " off");
     }
 
+    std::string look(const QString &word) const {
+        const QImage picture = driver->picture(); // before the search: it brings the window up to date
+        return look(control(word), picture);
+    }
+
     std::vector<std::string> bands() const {
         std::vector<std::string> looks;
-        for (const char *band : {"1.2", "2.4", "4.9", "5.8"}) {
-            try {
-                looks.push_back(look(band));
-            } catch (const std::runtime_error &) { // the generation lacks it
-            }
-        }
+        const QImage picture = driver->picture();
+        for (const QQuickItem *band : driver->findAll(
+                 [](const QQuickItem &item) { return ScreenDriver::isA(item, "UavThreeSwitch"); }))
+            looks.push_back(look(*band, picture));
         return looks;
     }
 };
@@ -117,30 +115,27 @@ TEST_F(SettingsRowTest, KeepsTheChosenAiModeWhateverTheDeviceSays) {
     }
 }
 
-TEST_F(SettingsRowTest, KeepsTheLastBandOn) {
-    connectTo(ProtoEnum::K7);
-    deviceSays(configWithRanges(R"("EXT_2400")"));
-    for (const auto &[range, shown] :
-         {std::pair(R"("STD_2400")", "2.4 half"), {R"("EXT_2400")", "2.4+ full"}}) {
-        const std::string edited = configWithRanges(range);
-        EXPECT_THAT(sentBy([&] { press("2.4"); }), ElementsAre(edited, edited));
-        EXPECT_EQ(look("2.4"), shown);
-    }
-}
-
-TEST_F(SettingsRowTest, OutlivesAConfigWithRangesOfNoBand) {
+TEST_F(SettingsRowTest, OutlivesAConfigWithRangesOfNoBandAndKeepsTheLastBandOn) {
     connectTo(ProtoEnum::K6);
+    const auto k6 = [](const std::string &ranges) {
+        const std::string config = configWithRanges(ranges);
+        return "{\n\"proto\" : \"K6" + config.substr(config.find("K7") + 2);
+    };
     for (const auto &[ranges, logged] :
          {std::pair(R"("EXT_2400",|"CUSTOM")", "[ERROR] [RangesListModel] no band has the range CUSTOM\n"),
           {R"("STD_1200",|"EXT_2400")", "[ERROR] [RangesListModel] no band has the range STD_1200\n"},
           {"", ""}}) {
-        std::string config = configWithRanges(ranges);
-        config.replace(config.find("K7"), 2, "K6");
-        testing::internal::CaptureStdout();
-        EXPECT_THAT(sentBy([&] { deviceSays(config); }), IsEmpty());
-        EXPECT_EQ(testing::internal::GetCapturedStdout(), logged);
+        internal::CaptureStdout();
+        EXPECT_THAT(sentBy([&] { deviceSays(k6(ranges)); }), IsEmpty());
+        EXPECT_EQ(internal::GetCapturedStdout(), logged);
     }
     EXPECT_THAT(bands(), ElementsAre("2.4 off", "4.9 off", "5.8 off"));
+    for (const auto &[range, shown] : {std::pair(R"("STD_2400")", "2.4 half"),
+                                       {R"("EXT_2400")", "2.4+ full"},
+                                       {R"("STD_2400")", "2.4 half"}}) {
+        EXPECT_THAT(sentBy([&] { press("2.4"); }), ElementsAre(k6(range), k6(range)));
+        EXPECT_THAT(bands(), ElementsAre(shown, "4.9 off", "5.8 off"));
+    }
     deviceSays(CONFIG);
     EXPECT_THAT(bands(), ElementsAre("1.2 half", "2.4+ full", "4.9 off", "5.8+ full"));
 }
@@ -158,7 +153,7 @@ TEST_F(SettingsRowTest, FollowsTheGeneration) {
                                                       {ProtoEnum::K1, 3u, "AI: None"}}) {
         disconnectByButton();
         connectTo(generation);
-        EXPECT_THAT(bands(), testing::SizeIs(bandCount));
+        EXPECT_THAT(bands(), SizeIs(bandCount));
         EXPECT_EQ(look("AI"), mode);
     }
     EXPECT_THAT(sentBy([&] { press("AI"); }), IsEmpty())
@@ -167,62 +162,48 @@ TEST_F(SettingsRowTest, FollowsTheGeneration) {
 }
 
 TEST_F(SettingsRowTest, IsDeadWithoutAConnection) {
-    const std::vector<const char *> words = {"Sound", "Vibro", "Wi-Fi", "Dig", "Sens", "AI"};
-    const auto looks = [&] {
+    const auto looks = [this] {
         auto all = bands();
-        for (const char *word : words)
+        for (const char *word : {"Sound", "Vibro", "Wi-Fi", "Dig", "Sens", "AI"})
             all.push_back(look(word));
         return all;
     };
-    EXPECT_THAT(bands(), IsEmpty());
-    EXPECT_THAT(looks(), Each(EndsWith(" dead")));
+    EXPECT_THAT(looks(), AllOf(SizeIs(6), Each(EndsWith(" dead"))));
     connectTo(ProtoEnum::K7);
     deviceSays(CONFIG);
-    EXPECT_THAT(looks(), Each(Not(EndsWith(" dead"))));
+    EXPECT_THAT(looks(), AllOf(SizeIs(10), Each(Not(EndsWith(" dead")))));
+    EXPECT_EQ(driver->control("TEST MODE"), nullptr);
     disconnectByButton();
     const auto dead = looks();
-    EXPECT_THAT(dead, Each(EndsWith(" dead")));
-    for (const char *word : {"1.2", "2.4", "4.9", "5.8"})
-        press(word);
-    for (const char *word : words)
-        press(word);
+    EXPECT_THAT(dead, AllOf(SizeIs(10), Each(EndsWith(" dead"))));
+    for (const std::string &shown : dead)
+        press(QString::fromStdString(shown.substr(0, shown.rfind(' '))));
     EXPECT_EQ(looks(), dead);
     EXPECT_TRUE(control("Sound").property("checked").toBool());
 }
 
-TEST_F(SettingsRowTest, PaintsASwitchAnewForTextOfAnotherSize) {
-    connectTo(ProtoEnum::K7);
-    const auto paintedBand = [&] {
-        const QImage picture = driver->picture();
-        const QQuickItem &band = control("1.2");
-        return picture.copy(band.mapRectToScene(band.boundingRect()).toRect());
-    };
-    const QImage painted = paintedBand();
-    window->resize(800, 1400);
-    const QImage paintedInAHigherWindow = paintedBand();
-    EXPECT_EQ(paintedInAHigherWindow.size(), painted.size());
-    EXPECT_NE(paintedInAHigherWindow, painted);
-}
-
-TEST_F(SettingsRowTest, TellsTestModeInEverySize) {
-    const auto testMode = [this] { return driver->control("TEST MODE"); };
-    connectTo(ProtoEnum::K7);
-    EXPECT_EQ(testMode(), nullptr);
-    disconnectByButton();
+TEST_F(SettingsRowTest, FitsEveryWindowAndTellsTestMode) {
     for (int i = 0; i < 12; ++i)
         click("info");
-    ASSERT_NE(testMode(), nullptr);
+    const auto paintedBand = [this](int windowHeight) {
+        window->resize(800, windowHeight);
+        const QImage picture = driver->picture();
+        const QQuickItem &band = control("2.4");
+        return picture.copy(band.mapRectToScene(band.boundingRect()).toRect());
+    };
+    const QImage painted = paintedBand(1000), withLargerText = paintedBand(1400);
+    EXPECT_EQ(withLargerText.size(), painted.size());
+    EXPECT_FALSE(withLargerText == painted);
+    const auto isInside = [this](const QQuickItem &item) {
+        return QRectF(QPointF(), window->size()).contains(item.mapRectToScene(item.boundingRect()));
+    };
     for (const QSize size : {QSize(300, 400), QSize(2560, 1440), QSize(300, 1440), QSize(1440, 400)}) {
         window->resize(size);
         driver->picture();
-        const QRectF whole(QPointF(), size);
-        EXPECT_TRUE(whole.contains(testMode()->mapRectToScene(testMode()->boundingRect())));
-        for (const char *word : {"1.2", "5.8", "Sound", "Dig", "Sens", "AI"}) {
-            const QQuickItem &item = control(word);
-            EXPECT_TRUE(whole.contains(item.mapRectToScene(item.boundingRect())))
-                << word << " " << size.width();
-        }
+        for (const char *word : {"1.2", "5.8", "Sound", "Dig", "Sens", "AI"})
+            EXPECT_TRUE(isInside(control(word))) << word << " " << size.width();
+        EXPECT_TRUE(isInside(*driver->control("TEST MODE"))) << size.width();
     }
     click("usb");
-    EXPECT_EQ(testMode(), nullptr);
+    EXPECT_EQ(driver->control("TEST MODE"), nullptr);
 }
