@@ -54,7 +54,7 @@ void ScreenEngine::load(const QUrl &document) {
         Qt::QueuedConnection);
     // The translation lies in the working directory of a user who reads Russian and nowhere else; without it
     // the screens keep their source texts. A null suffix stands for Qt's own, an empty one would be none.
-    auto *translator = new QTranslator;
+    static auto *const translator = new QTranslator; // in use until the process ends
     translator->load("UavVesper-ru", ".", QString(), QString());
     QCoreApplication::installTranslator(translator);
     engine.load(document);

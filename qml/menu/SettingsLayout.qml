@@ -29,6 +29,7 @@ Item {
         Column {
             id: rangesCol
 
+            // While there are no bands it has no height either, and the row leaves it out.
             width: ranges.count > 0 ? themeData.buttonSizeSmall : row.width
 
             ListView {

@@ -63,6 +63,7 @@ protected:
     void TearDown() override {
         objects.usbService.shutDown();
         screens.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the icons' textures
         EXPECT_THAT(QtWarnings::take(), testing::IsEmpty());
     }
 
