@@ -1,14 +1,18 @@
 // Walks through the screens with the built-in simulator and writes a picture of each state worth seeing.
 
+#include "field-scene.h"
+#include "pty-device.h"
 #include "screen-driver.h"
 #include "screen-engine.h"
 #include "service-objects.h"
 #include "visuals/layered-plot.h"
+#include "visuals/uav-switch.h"
 #include "visuals/uav-three-switch.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QGuiApplication>
+#include <QTest>
 #include <cstdio>
 
 namespace {
@@ -20,8 +24,10 @@ struct TourError {
 
 class Tour {
 public:
-    Tour(ServiceObjects &serviceObjects, QQuickWindow &shownWindow, const QDir &directory)
-        : objects(serviceObjects)
+    Tour(const SerialDirectory &serialDirectory, ServiceObjects &serviceObjects, QQuickWindow &shownWindow,
+         const QDir &directory)
+        : serial(serialDirectory)
+        , objects(serviceObjects)
         , window(shownWindow)
         , driver(shownWindow)
         , pictures(directory) {
@@ -42,25 +48,33 @@ public:
         switchBands();
         shootAt({300, 400}, "small-window");
         shootAt({2560, 1440}, "large-window");
-        driver.click(control("usb"));
+        press("usb");
         shoot("disconnected");
+        visitDevice(ProtoEnum::K6, "k6-");
+        visitDevice(ProtoEnum::K7, "k7-");
     }
 
 private:
     /// Twelve clicks on the help button while not connected.
     void startSimulator() {
-        driver.click(control("info"));
+        press("info");
         shoot("help-not-connected");
         for (int i = 1; i < 12; ++i)
-            driver.click(control("info"));
+            press("info");
         waitFor([this] { return objects.usbService.isUsbActive(); }, "The simulator does not start.");
+    }
+
+    void press(const QString &wordOrPicture) { driver.click(control(wordOrPicture)); }
+
+    /// The view that each band shows.
+    QVector<QQuickItem *> views() const {
+        return driver.findAll(
+            [](const QQuickItem &item) { return qobject_cast<const LayeredPlot *>(&item); });
     }
 
     /// One swipe to the left on each band.
     void swipeAllBands() {
-        const auto views =
-            driver.findAll([](const QQuickItem &item) { return qobject_cast<const LayeredPlot *>(&item); });
-        for (const QQuickItem *view : views) {
+        for (const QQuickItem *view : views()) {
             const QPoint middle = ScreenDriver::middleOf(*view);
             driver.drag(middle + QPoint(100, 0), middle - QPoint(100, 0));
             waitFor([&] { return !view->isVisible(); }, "A band does not follow the swipe.");
@@ -95,33 +109,76 @@ private:
     }
 
     void visitHelp() {
-        driver.click(control("info"));
+        press("info");
         shoot("help");
         shootAt({300, 400}, "help-small-window");
         visitDialog("Manual");
-        driver.click(control("info"));
+        press("info");
     }
 
     void visitSettings() {
-        driver.click(control("cfg"));
+        press("cfg");
         shoot("settings");
         shootAt({300, 400}, "settings-small-window");
         for (const char *row : {"Scan mode", "AI mode", "Alarm level"})
             visitDialog(row);
-        const QQuickItem *drawer =
-            driver.find([](const QQuickItem &item) { return ScreenDriver::isA(item, "DrawerFrame"); });
-        if (!drawer || !driver.scrollDown(*drawer))
-            throw TourError{"The settings do not scroll."};
+        scrollSettings();
         shoot("settings-scrolled");
         visitDialog("Headphones output");
-        driver.click(control("cfg"));
+        press("cfg");
+    }
+
+    void scrollSettings() {
+        if (!driver.scrollDown(element("DrawerFrame")))
+            throw TourError{"The settings do not scroll."};
     }
 
     /// The dialog that a control opens, left by a click outside.
     void visitDialog(const QString &word) {
-        driver.click(control(word));
+        press(word);
         shoot("dialog-" + word.toLower().replace(' ', '-'));
         driver.clickAt({1, 1});
+    }
+
+    /// A detector in the field; these are the pictures of its manual.
+    void visitDevice(ProtoEnum generation, const QString &name) {
+        constexpr int scanPeriodMs = 500;
+        PtyDevice device(serial, generation);
+        device.setScanPeriod(std::chrono::milliseconds(0));
+        const auto connect = [this] {
+            press("usb");
+            return ScreenDriver::waitFor([this] { return !views().isEmpty(); }, 2000);
+        };
+        waitFor(connect, "The detector on the serial line is not found.");
+        driver.click(*driver.find([](const QQuickItem &item) {
+            return qobject_cast<const UavSwitch *>(&item) && item.property("text") == "Wi-Fi";
+        }));
+        for (const auto &results : fieldScene(generation)) {
+            device.sendScan(results);
+            waitForScans(1);
+            QTest::qWait(scanPeriodMs);
+        }
+        shoot(name + "bars");
+        shoot(name + "commands", &element("ButtonLayout"));
+        shoot(name + "settings-row", &element("SettingsLayout"));
+        press("cfg");
+        shoot(name + "settings", &element("MainPage"));
+        press("Scan mode");
+        shoot(name + "list", &element("MainPage"));
+        driver.clickAt({1, 1});
+        if (generation >= ProtoEnum::K7) {
+            scrollSettings();
+            shoot(name + "settings-scrolled", &element("MainPage"));
+        }
+        press("info");
+        shoot(name + "information", &element("MainPage"));
+        press("info");
+        shoot(name + "bars-5800", views().last());
+        swipeAllBands();
+        shoot(name + "course-5800", views().last());
+        swipeAllBands();
+        shoot(name + "persistence-5800", views().last());
+        press("usb");
     }
 
     void waitForScans(int count) {
@@ -138,6 +195,14 @@ private:
         const QQuickItem *found = driver.control(shown(wordOrPicture));
         if (!found)
             throw TourError{"No control on the screen shows: " + wordOrPicture};
+        return *found;
+    }
+
+    const QQuickItem &element(const QString &name) const {
+        const QQuickItem *found =
+            driver.find([&](const QQuickItem &item) { return ScreenDriver::isA(item, name); });
+        if (!found)
+            throw TourError{"Not on the screen: " + name};
         return *found;
     }
 
@@ -161,14 +226,18 @@ private:
         window.resize(usual);
     }
 
-    void shoot(const QString &state) {
+    /// The whole window, or a part of it.
+    void shoot(const QString &state, const QQuickItem *part = nullptr) {
         const QString file =
             pictures.filePath(QString("%1-%2.png").arg(++shots, 2, 10, QChar('0')).arg(state));
-        if (!driver.picture().save(file))
+        const QImage picture = driver.picture();
+        const QRect area = part ? part->mapRectToScene(part->boundingRect()).toRect() : picture.rect();
+        if (!picture.copy(area).save(file))
             throw TourError{"Can't write " + file};
         std::printf("%s\n", qPrintable(file));
     }
 
+    const SerialDirectory &serial;
     ServiceObjects &objects;
     QQuickWindow &window;
     ScreenDriver driver;
@@ -188,8 +257,9 @@ int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
-    // No serial directory: the tour leaves a device that is plugged in alone.
-    ServiceObjects objects{std::filesystem::path()};
+    // A serial directory of its own: the tour leaves a device that is plugged in alone.
+    const SerialDirectory serial;
+    ServiceObjects objects{serial.path()};
     registerTypes();
     QGuiApplication app(argc, argv);
     if (argc != 2)
@@ -204,7 +274,7 @@ int main(int argc, char **argv) {
     if (!window)
         return fail("The window can't be shown.");
     try {
-        Tour(objects, *window, directory).run();
+        Tour(serial, objects, *window, directory).run();
     } catch (const TourError &error) {
         return fail(error.text);
     }

@@ -48,3 +48,24 @@ TEST_F(Translation, HoldsEveryWordOfTheScreens) {
     for (const Word &word : words)
         EXPECT_FALSE(inRussian(word).isEmpty()) << word.document.data() << ": " << word.source.data();
 }
+
+TEST_F(Translation, AndTheManualsExplainEveryWord) {
+    const QString english = contentOf(MANUALS_SOURCE_DIR "/manual.en.md");
+    const QString inRussianManual = contentOf(MANUALS_SOURCE_DIR "/manual.ru.md");
+    // No word to see, and a word of the mobile platform alone.
+    const QByteArrayList exempt{"language", "Share"};
+    for (const Word &word : wordsOfTheScreens()) {
+        if (exempt.contains(word.source))
+            continue;
+        EXPECT_TRUE(english.contains(word.source.trimmed())) << word.source.data();
+        EXPECT_TRUE(inRussianManual.contains(inRussian(word).trimmed())) << qPrintable(inRussian(word));
+    }
+}
+
+TEST(Manuals, AreInTheProgram) {
+    for (const char *file : {":/manuals/help_K6.pdf", ":/manuals/help_K7.pdf"}) {
+        QFile manual(file);
+        ASSERT_TRUE(manual.open(QIODevice::ReadOnly)) << file;
+        EXPECT_TRUE(manual.readAll().startsWith("%PDF-")) << file;
+    }
+}
