@@ -6,6 +6,12 @@
 
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
+
+// Qt's software scene graph keeps the pictures of windows that are gone: its own code, nothing of ours to
+// free.
+extern "C" const char *__lsan_default_suppressions() {
+    return "leak:libQt5Gui\nleak:libQt5Quick\n";
+}
 #endif
 
 /// The application object. Qt's offscreen platform never frees the screen that it makes in here, so the leak
