@@ -7,10 +7,10 @@
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
 
-// Qt's software scene graph keeps the pictures of windows that are gone: its own code, nothing of ours to
-// free.
+// Qt's software scene graph keeps the pictures of windows that are gone, and the font library that it loads
+// keeps its settings: their own code, nothing of ours to free.
 extern "C" const char *__lsan_default_suppressions() {
-    return "leak:libQt5Gui\nleak:libQt5Quick\n";
+    return "leak:libQt5Gui\nleak:libQt5Quick\nleak:libfontconfig\n";
 }
 #endif
 
