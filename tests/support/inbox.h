@@ -19,7 +19,7 @@ public:
     template <typename Message = Msg>
     std::shared_ptr<Message> at(std::size_t number) {
         std::unique_lock lock(mutex);
-        arrived.wait_for(lock, std::chrono::seconds(20), [&] { return messages.size() > number; });
+        arrived.wait_for(lock, std::chrono::seconds(60), [&] { return messages.size() > number; });
         return messages.size() > number ? std::static_pointer_cast<Message>(messages[number]) : nullptr;
     }
 
