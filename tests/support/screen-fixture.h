@@ -41,7 +41,6 @@ private:
 class ScreenFixture : public testing::Test {
 protected:
     ScreenFixture() {
-        [[maybe_unused]] static const bool once = (registerTypes(), true);
         screens = std::make_unique<ScreenEngine>(objects);
         screens->load();
         window = qobject_cast<QQuickWindow *>(screens->qmlEngine().rootObjects().value(0));
@@ -63,7 +62,6 @@ protected:
     void TearDown() override {
         objects.usbService.shutDown();
         screens.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the icons' textures
         EXPECT_THAT(QtWarnings::take(), testing::IsEmpty());
     }
 
