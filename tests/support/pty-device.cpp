@@ -123,6 +123,7 @@ void PtyDevice::unplug() {
     thread.join();
     close(master);
     const std::lock_guard lock(mutex);
+    scanning = false;
     setOpen(false);
 }
 

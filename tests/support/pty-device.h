@@ -49,7 +49,8 @@ public:
     PtyDevice(const PtyDevice &) = delete;
     PtyDevice &operator=(const PtyDevice &) = delete;
 
-    /// The terminal and its link go; whoever has it open reads nothing any more. Settings stay.
+    /// The terminal and its link go; whoever has it open reads nothing any more. It stops scanning and keeps
+    /// its settings.
     void unplug();
     void plugIn();
 
