@@ -2,8 +2,6 @@
 
 #include "msg/get-state-msg.h"
 
-#include <QDebug>
-
 namespace fs = std::filesystem;
 
 namespace {
@@ -12,8 +10,9 @@ constexpr std::chrono::milliseconds PROBE_TIMEOUT{100};
 
 } // namespace
 
-LinuxConnector::LinuxConnector(fs::path serialDirectory)
+LinuxConnector::LinuxConnector(fs::path serialDirectory, Report reportError)
     : directory(std::move(serialDirectory))
+    , report(std::move(reportError))
     , testListener(std::make_shared<MsgListener>([this](std::shared_ptr<Msg> msg) { fireMsg(msg); })) {}
 
 LinuxConnector::~LinuxConnector() {
@@ -31,7 +30,7 @@ bool LinuxConnector::connectInterface() {
                 return true;
         }
     } catch (const fs::filesystem_error &error) {
-        qDebug() << error.what();
+        report(error.what());
     }
     return false;
 }

@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 /// Finds the device among the serial terminals of the system, and stands for the simulator in test mode. It
@@ -14,8 +15,12 @@ class LinuxConnector : public SerialInterfaceConnector, public UsbTty {
 public:
     static constexpr const char *SERIAL_DIRECTORY = "/dev/serial/by-id";
 
-    /// `serialDirectory` holds a symbolic link to the terminal of each serial device.
-    explicit LinuxConnector(std::filesystem::path serialDirectory = SERIAL_DIRECTORY);
+    using Report = std::function<void(const char *)>;
+
+    /// `serialDirectory` holds a symbolic link to the terminal of each serial device. `reportError` gets the
+    /// text of a file system error that ended a search, on the searching thread.
+    explicit LinuxConnector(std::filesystem::path serialDirectory = SERIAL_DIRECTORY,
+                            Report reportError = [](const char *) {});
     ~LinuxConnector() override;
 
     /// Opens one device after the other and asks for its state. The first that answers with a STATE as its
@@ -37,6 +42,7 @@ private:
     bool probe(const std::string &devicePath);
 
     const std::filesystem::path directory;
+    const Report report;
     std::atomic<bool> test{false};
     TestService testService;
     /// Makes what the simulator fires reach the listeners of the link.

@@ -1,6 +1,6 @@
 #include "screen-engine.h"
 
-#include "common/history.h"
+#include "common/history-metatype.h"
 #include "msg-holder.h"
 #include "version.h"
 #include "visuals/bar-scan-result-plot.h"

@@ -9,7 +9,10 @@
 /// What the screens see of the device and of the window, in order of construction. None of it needs the
 /// application object, which it outlives.
 struct ServiceObjects {
-    explicit ServiceObjects(const std::filesystem::path &serialDirectory = LinuxConnector::SERIAL_DIRECTORY)
+    /// On the serial devices of this system.
+    ServiceObjects() = default;
+    /// On the serial devices that have a link in this directory.
+    explicit ServiceObjects(const std::filesystem::path &serialDirectory)
         : usbService(nullptr, serialDirectory) {}
 
     Guarded<UsbService> usbService;

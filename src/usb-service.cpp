@@ -1,6 +1,7 @@
 #include "usb-service.h"
 
 #include "common/defaults.h"
+#include "linux-connector.h"
 #include "log.h"
 #include "msg/ai-prior-msg.h"
 #include "msg/config-k7-msg.h"
@@ -16,6 +17,7 @@
 #include "msg/set-mask-msg.h"
 #include "msg/state-msg.h"
 
+#include <QDebug>
 #include <algorithm>
 
 using std::chrono::milliseconds;
@@ -33,8 +35,12 @@ bool isOfType(const std::shared_ptr<Msg> &msg, MsgTypeEnum type) {
 
 } // namespace
 
+UsbService::UsbService(QObject *parent)
+    : UsbService(parent, LinuxConnector::SERIAL_DIRECTORY) {}
+
 UsbService::UsbService(QObject *parent, const std::filesystem::path &serialDirectory)
-    : UsbService(std::make_unique<LinuxConnector>(serialDirectory), parent) {}
+    : UsbService(std::make_unique<LinuxConnector>(serialDirectory, [](const char *error) { qDebug() << error; }),
+                 parent) {}
 
 UsbService::UsbService(std::unique_ptr<SerialInterfaceConnector> deviceConnector, QObject *parent)
     : QObject(parent)

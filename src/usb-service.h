@@ -1,7 +1,7 @@
 #pragma once
 
-#include "linux-connector.h"
 #include "msg-holder.h"
+#include "serial-interface-connector.h"
 
 #include <QObject>
 #include <QString>
@@ -36,9 +36,10 @@ public:
     /// In dB; a signal must exceed it to be named.
     static constexpr int MIN_FREQ_DISPLAYED = -105;
 
-    explicit UsbService(QObject *parent = nullptr,
-                        const std::filesystem::path &serialDirectory = LinuxConnector::SERIAL_DIRECTORY);
-    /// On another connector than that for the serial devices of this system.
+    /// On the serial devices of this system.
+    explicit UsbService(QObject *parent = nullptr);
+    /// On the serial devices that have a link in this directory.
+    UsbService(QObject *parent, const std::filesystem::path &serialDirectory);
     explicit UsbService(std::unique_ptr<SerialInterfaceConnector> connector, QObject *parent = nullptr);
     ~UsbService() override;
 

@@ -1,5 +1,5 @@
 #include "version.h"
 
 std::string version::getVersion() {
-    return "1.1";
+    return UAV_VERSION;
 }

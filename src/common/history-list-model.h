@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/history.h"
+#include "common/history-metatype.h"
 #include "msg-holder.h"
 
 #include <QAbstractListModel>

@@ -4,7 +4,6 @@
 #include "master-freq-mode.h"
 #include "sig-type.h"
 
-#include <QMetaType>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -62,5 +61,3 @@ private:
     std::vector<float> historyFreqs;
     Scan freqScanResults;
 };
-
-Q_DECLARE_METATYPE(History)

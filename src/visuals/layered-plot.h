@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/history.h"
+#include "common/history-metatype.h"
 
 #include <QColor>
 #include <QFont>

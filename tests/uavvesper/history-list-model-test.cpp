@@ -2,6 +2,7 @@
 
 #include "messages.h"
 #include "msg/scan-result-msg.h"
+#include "scans.h"
 #include "signal-recorder.h"
 
 #include <QSignalSpy>

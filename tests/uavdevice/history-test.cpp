@@ -1,6 +1,6 @@
 #include "common/history.h"
 
-#include "messages.h"
+#include "scans.h"
 
 #include <gmock/gmock.h>
 

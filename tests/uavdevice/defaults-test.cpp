@@ -1,6 +1,5 @@
 #include "common/defaults.h"
 #include "common/sens-level.h"
-#include "common/sig-type-colors.h"
 
 #include <gmock/gmock.h>
 
@@ -46,5 +45,4 @@ TEST(LevelTables, FollowTheAttenuationAndMindWhatTheyDoNotHold) {
         EXPECT_EQ(SensLevel(SensLevel::byAtten(atten)).next(), next) << atten;
     EXPECT_EQ(SensLevel(static_cast<Level>(-1)).getEnumName(), "???");
     EXPECT_THROW(SensLevel(static_cast<Level>(4)).getAtten(), std::out_of_range);
-    EXPECT_EQ(SigTypeColors::getColor(static_cast<SigTypeEnum>(6)).alpha(), 0);
 }
