@@ -19,8 +19,8 @@ public:
 
     /// `serialDirectory` holds a symbolic link to the terminal of each serial device. `reportError` gets the
     /// text of a file system error that ended a search, on the searching thread.
-    explicit LinuxConnector(std::filesystem::path serialDirectory = SERIAL_DIRECTORY,
-                            Report reportError = [](const char *) {});
+    explicit LinuxConnector(
+        std::filesystem::path serialDirectory = SERIAL_DIRECTORY, Report reportError = [](const char *) {});
     ~LinuxConnector() override;
 
     /// Opens one device after the other and asks for its state. The first that answers with a STATE as its

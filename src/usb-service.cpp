@@ -39,8 +39,9 @@ UsbService::UsbService(QObject *parent)
     : UsbService(parent, LinuxConnector::SERIAL_DIRECTORY) {}
 
 UsbService::UsbService(QObject *parent, const std::filesystem::path &serialDirectory)
-    : UsbService(std::make_unique<LinuxConnector>(serialDirectory, [](const char *error) { qDebug() << error; }),
-                 parent) {}
+    : UsbService(
+          std::make_unique<LinuxConnector>(serialDirectory, [](const char *error) { qDebug() << error; }),
+          parent) {}
 
 UsbService::UsbService(std::unique_ptr<SerialInterfaceConnector> deviceConnector, QObject *parent)
     : QObject(parent)

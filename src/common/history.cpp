@@ -1,7 +1,6 @@
 #include "history.h"
 
 #include "log.h"
-#include "uptime.h"
 
 #include <string>
 #include <utility>
@@ -18,10 +17,10 @@ void History::setHistoryLen(int newLen) {
     trimToHistoryLen();
 }
 
-void History::acceptScan(Scan mmResult) {
+void History::acceptScan(Scan mmResult, std::int64_t nowMs) {
     freqScanResults = std::move(mmResult);
     correctionHistoryFreqs(freqScanResults);
-    addToHistoryLevels(freqScanResults);
+    addToHistoryLevels(freqScanResults, nowMs);
 }
 
 void History::correctionHistoryFreqs(const Scan &mmResult) {
@@ -34,8 +33,7 @@ void History::correctionHistoryFreqs(const Scan &mmResult) {
     historyLevels.clear();
 }
 
-void History::addToHistoryLevels(const Scan &mmResult) {
-    const std::int64_t now = Uptime::getMs();
+void History::addToHistoryLevels(const Scan &mmResult, std::int64_t nowMs) {
     if (historyFreqs.size() != mmResult.size()) {
         Log::info("History", "Skip add to history! mmResult.size():" + std::to_string(mmResult.size()) +
                                  " historyFreqs.length:" + std::to_string(historyFreqs.size()));
@@ -44,7 +42,7 @@ void History::addToHistoryLevels(const Scan &mmResult) {
     auto &row = historyLevels.emplace_back();
     row.reserve(mmResult.size());
     for (const auto &result : mmResult)
-        row.push_back({now, result->getRssi(), result->getType()});
+        row.push_back({nowMs, result->getRssi(), result->getType()});
     trimToHistoryLen();
 }
 

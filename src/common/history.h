@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/uptime.h"
 #include "freq-scan-result.h"
 #include "master-freq-mode.h"
 #include "sig-type.h"
@@ -16,7 +17,7 @@ public:
     using Scan = std::vector<std::shared_ptr<FreqScanResult>>;
 
     struct _HistoryPoint {
-        std::int64_t timeMsg; ///< `Uptime::getMs()` when the row was added; one time for the whole row
+        std::int64_t timeMsg; ///< when the row was added, in ms; one time for the whole row
         float rssi;           ///< dB
         SigTypeEnum sigType;
     };
@@ -47,12 +48,12 @@ public:
 
     /// Adds a row and drops the oldest beyond the length. Columns are told apart by their count alone: a scan
     /// of another length starts new columns with this one row, a scan of the same length over other
-    /// frequencies is filed under the old ones.
-    void acceptScan(Scan mmResult);
+    /// frequencies is filed under the old ones. `nowMs` is the time of the scan.
+    void acceptScan(Scan mmResult, std::int64_t nowMs = Uptime::getMs());
 
 private:
     void correctionHistoryFreqs(const Scan &mmResult);
-    void addToHistoryLevels(const Scan &mmResult);
+    void addToHistoryLevels(const Scan &mmResult, std::int64_t nowMs);
     void trimToHistoryLen();
 
     int historyLen;

@@ -8,7 +8,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-#include <optional>
 
 /// What a point of a scan is; the first column is at 2400 MHz, each further one 10 MHz above.
 struct Signal {
@@ -17,13 +16,10 @@ struct Signal {
 };
 using Scan = std::vector<Signal>;
 
-/// The time at which a scan comes, instead of the one since the program's start.
-inline std::optional<std::int64_t> uptimeMs;
-
 /// A history of these scans, oldest first, so many milliseconds apart.
 inline History historyOf(const std::vector<Scan> &scans, std::int64_t apartMs = 100, float firstMHz = 2400) {
     History history(MasterFreqModeEnum::R_2400, History::DEFAULT_HISTORY_LEN);
-    uptimeMs = 5000;
+    std::int64_t nowMs = 5000;
     for (const Scan &scan : scans) {
         History::Scan results;
         for (const Signal &signal : scan) {
@@ -31,10 +27,9 @@ inline History historyOf(const std::vector<Scan> &scans, std::int64_t apartMs = 
             results.push_back(std::make_shared<FreqScanResult>(
                 FreqScanResultBuilder().freqMHz(freq).rssi(signal.rssi).type(signal.type).build()));
         }
-        history.acceptScan(results);
-        *uptimeMs += apartMs;
+        history.acceptScan(results, nowMs);
+        nowMs += apartMs;
     }
-    uptimeMs.reset();
     return history;
 }
 

@@ -1,15 +1,26 @@
 #pragma once
 
 #include "freq-scan-result.h"
+#include "msg/scan-result-msg.h"
 
 #include <memory>
 #include <vector>
 
-/// Results at these frequencies (MHz), all of one level (dB).
-inline std::vector<std::shared_ptr<FreqScanResult>> resultsAt(const std::vector<float> &freqs, float rssi) {
+/// What a scan finds at one frequency: MHz, dB, class.
+struct Found {
+    float freqMHz;
+    float rssi = -90;
+    SigTypeEnum type = SigTypeEnum::DIG;
+};
+
+inline std::vector<std::shared_ptr<FreqScanResult>> resultsOf(const std::vector<Found> &all) {
     std::vector<std::shared_ptr<FreqScanResult>> results;
-    for (const float freq : freqs)
+    for (const Found &found : all)
         results.push_back(std::make_shared<FreqScanResult>(
-            FreqScanResultBuilder().freqMHz(freq).rssi(rssi).type(SigTypeEnum::DIG).build()));
+            FreqScanResultBuilder().freqMHz(found.freqMHz).rssi(found.rssi).type(found.type).build()));
     return results;
+}
+
+inline std::shared_ptr<ScanResultMsg> scanOf(const std::vector<Found> &all, bool mask = false) {
+    return std::make_shared<ScanResultMsg>(ScanResultMsgBuilder().freqs(resultsOf(all)).mask(mask).build());
 }

@@ -17,7 +17,7 @@ static std::vector<float> levelsOf(const History &history) {
 TEST(History, KeepsTheNewestScansOldestFirst) {
     History history(MasterFreqModeEnum::R_4900, 3);
     for (const float rssi : {-101.0f, -102.0f, -103.0f, -104.0f})
-        history.acceptScan(resultsAt({4900, 4910}, rssi));
+        history.acceptScan(resultsOf({{4900, rssi}, {4910, rssi}}));
     EXPECT_THAT(levelsOf(history), ElementsAre(-102, -103, -104));
     EXPECT_EQ(history.getFreqScanResults().at(1)->getRssi(), -104);
     const auto rows = history.getHistoryLevels();
@@ -26,17 +26,17 @@ TEST(History, KeepsTheNewestScansOldestFirst) {
     history.setHistoryLen(1);
     EXPECT_THAT(levelsOf(history), ElementsAre(-104));
     history.setHistoryLen(-1);
-    history.acceptScan(resultsAt({4900, 4910}, -90));
+    history.acceptScan(resultsOf({{4900, -90}, {4910, -90}}));
     EXPECT_EQ(history.getSize(), 2) << "a negative length keeps all";
 }
 
 TEST(History, TellsColumnsApartByTheirCountAlone) {
     History history;
-    history.acceptScan(resultsAt({1000, 1010}, -90));
-    history.acceptScan(resultsAt({5000, 5010}, -91));
+    history.acceptScan(resultsOf({{1000, -90}, {1010, -90}}));
+    history.acceptScan(resultsOf({{5000, -91}, {5010, -91}}));
     EXPECT_EQ(history.getSize(), 2);
     EXPECT_THAT(history.getHistoryFreqs(), ElementsAre(1000, 1010));
-    history.acceptScan(resultsAt({5000, 5010, 5020}, -92));
+    history.acceptScan(resultsOf({{5000, -92}, {5010, -92}, {5020, -92}}));
     EXPECT_THAT(levelsOf(history), ElementsAre(-92));
     EXPECT_THAT(history.getHistoryFreqs(), ElementsAre(5000, 5010, 5020));
     history.acceptScan({});

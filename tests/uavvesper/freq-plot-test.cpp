@@ -1,6 +1,5 @@
 #include "visuals/freq-plot.h"
 
-#include "common/uptime.h"
 #include "plots.h"
 
 #include <gmock/gmock.h>
@@ -8,12 +7,6 @@
 using testing::Contains;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
-
-/// In place of the library's clock, for all tests of this program.
-std::int64_t Uptime::getMs() {
-    using namespace std::chrono;
-    return uptimeMs ? *uptimeMs : duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
-}
 
 static constexpr SigTypeEnum NONE = SigTypeEnum::NONE;
 static constexpr SigTypeEnum WIFI = SigTypeEnum::WIFI;

@@ -1,7 +1,6 @@
 #include "common/history-list-model.h"
 
 #include "messages.h"
-#include "msg/scan-result-msg.h"
 #include "scans.h"
 #include "signal-recorder.h"
 
@@ -15,21 +14,20 @@ static MsgHolder k6Config() {
     return held(R"({"type":"CONFIG","proto":"K6"})");
 }
 
-static MsgHolder scanAt(const std::vector<float> &freqs) {
-    const auto scan = ScanResultMsgBuilder().freqs(resultsAt(freqs, -90)).build();
-    return MsgHolder(std::make_shared<ScanResultMsg>(scan));
+static MsgHolder scanAt(const std::vector<Found> &freqs) {
+    return MsgHolder(scanOf(freqs));
 }
 
 TEST(HistoryListModel, LaysOutTheBandsAnewWithEachConfig) {
     HistoryListModel model;
     SignalRecorder recorder(&model);
     QSignalSpy resets(&model, &HistoryListModel::modelReset);
-    model.acceptScanResult(scanAt({2400}));
+    model.acceptScanResult(scanAt({{2400}}));
     model.setConfig(k6Config());
-    model.acceptScanResult(scanAt({2400}));
+    model.acceptScanResult(scanAt({{2400}}));
     model.setConfig(k6Config());
     EXPECT_EQ(recorder.take(), "gotHistory gotHistory gotHistory gotHistory");
-    model.setConfig(scanAt({2400}));
+    model.setConfig(scanAt({{2400}}));
     model.setConfig(MsgHolder());
     EXPECT_EQ(recorder.take(), "");
     EXPECT_EQ(resets.count(), 2);
@@ -47,7 +45,7 @@ TEST(HistoryListModel, DividesAScanByBand) {
     HistoryListModel model;
     model.setConfig(k6Config());
     SignalRecorder recorder(&model);
-    model.acceptScanResult(scanAt({2349, 2350, 2550, 2551, 5465, 5470, 6100}));
+    model.acceptScanResult(scanAt({{2349}, {2350}, {2550}, {2551}, {5465}, {5470}, {6100}}));
     EXPECT_EQ(recorder.take(), "gotHistory");
     EXPECT_THAT(model.getHistory(0).getHistoryFreqs(), ElementsAre(2350, 2550));
     EXPECT_THAT(model.getHistory(1).getHistoryLevels(), ElementsAre(IsEmpty())) << "a band without results";
