@@ -1,13 +1,13 @@
 // What a byte costs on its way through the channel, against its yardsticks in the same run.
 
+#include "json11.hpp"
+#include "serial-interface-adapter.h"
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <iostream>
 #include <streambuf>
-
-#include "json11.hpp"
-#include "serial-interface-adapter.h"
 
 namespace {
 
@@ -51,11 +51,9 @@ double speed(int runs, std::size_t bytes, Run run) {
 }
 
 void feed(Link &link, const std::string &scan) {
-    for (int i = 0; i < SCANS; ++i) {
-        for (std::size_t at = 0; at < scan.size(); at += CHUNK) {
+    for (int i = 0; i < SCANS; ++i)
+        for (std::size_t at = 0; at < scan.size(); at += CHUNK)
             link.processNewData(scan.substr(at, CHUNK));
-        }
-    }
 }
 
 } // namespace
@@ -74,9 +72,8 @@ int main() {
     int messages = 0;
     link.addListener(std::make_shared<MsgListener>([&](const std::shared_ptr<Msg> &) { ++messages; }));
     const double emptied = speed(3, bytes, [&] { feed(link, scan); });
-    if (messages != 3 * SCANS) {
+    if (messages != 3 * SCANS)
         return 1;
-    }
 
     // The chunk that ends an object starts the next one: the buffer grows to all of the stream, and what the
     // channel logs of the objects, which are lost so, goes nowhere.

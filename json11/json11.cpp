@@ -4,12 +4,11 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
-#include <string_view>
-#include <tuple>
-
 #include <locale.h>
 #include <rapidjson/error/en.h>
 #include <rapidjson/reader.h>
+#include <string_view>
+#include <tuple>
 
 namespace json11 {
 namespace {
@@ -111,13 +110,12 @@ private:
         return add(std::move(content));
     }
     bool add(Json value) {
-        if (open.empty()) {
+        if (open.empty())
             root = std::move(value);
-        } else if (open.back().isObject) {
+        else if (open.back().isObject)
             open.back().members.insert_or_assign(std::move(open.back().key), std::move(value));
-        } else {
+        else
             open.back().items.push_back(std::move(value));
-        }
         return open.size() <= MAX_DEPTH;
     }
 };
@@ -152,13 +150,11 @@ double Json::number_value() const {
 
 int Json::int_value() const {
     using Limits = std::numeric_limits<int>;
-    if (const int *whole = std::get_if<int>(&content)) {
+    if (const int *whole = std::get_if<int>(&content))
         return *whole;
-    }
     const double value = number_value();
-    if (std::isnan(value)) {
+    if (std::isnan(value))
         return 0;
-    }
     return value >= Limits::max()   ? Limits::max()
            : value <= Limits::min() ? Limits::min()
                                     : static_cast<int>(value);

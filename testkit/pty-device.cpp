@@ -61,14 +61,13 @@ std::map<std::string, Json::object> factorySettings(ProtoEnum proto) {
 std::size_t objectEnd(const std::string &text, std::size_t start) {
     int depth = 0;
     bool quoted = false;
-    for (std::size_t i = start; i < text.size(); ++i) {
+    for (std::size_t i = start; i < text.size(); ++i)
         if (text[i] == '"')
             quoted = !quoted;
         else if (text[i] == '{' && !quoted)
             ++depth;
         else if (text[i] == '}' && !quoted && --depth == 0)
             return i + 1;
-    }
     return std::string::npos;
 }
 

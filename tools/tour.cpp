@@ -31,7 +31,8 @@ public:
         , window(shownWindow)
         , driver(shownWindow)
         , pictures(directory) {
-        QObject::connect(&objects.usbService, &UsbService::gotScanResult, &window, [this] { ++scans; });
+        QObject::connect(
+            &objects.usbService, &UsbService::gotScanResult, &window, [this] { ++scans; });
     }
 
     void run() {

@@ -7,7 +7,6 @@
 
 #include <QPainter>
 #include <QPen>
-
 #include <algorithm>
 
 namespace {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "visuals/layered-plot.h"
-
 #include "freq-scan-result.h"
+#include "visuals/layered-plot.h"
 
 #include <array>
 #include <memory>

@@ -6,7 +6,8 @@
 FreqPlotModel::FreqPlotModel(QObject *parent)
     : QAbstractListModel(parent)
     , timer(new QTimer(this)) {
-    connect(timer, &QTimer::timeout, this, [this] { setScan(MsgHolder()); });
+    connect(
+        timer, &QTimer::timeout, this, [this] { setScan(MsgHolder()); });
 }
 
 int FreqPlotModel::rowCount(const QModelIndex &parent) const {

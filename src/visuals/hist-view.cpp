@@ -9,12 +9,14 @@
 
 HistView::HistView(QQuickItem *parent)
     : GridPlot(parent) {
-    connect(this, &HistView::freqsChanged, this, [this] {
-        paintBackground();
-        // A band without a scan yet gets nothing but its labels.
-        if (isVisible())
-            update();
-    });
+    connect(
+        this, &HistView::freqsChanged, this,
+        [this] {
+            paintBackground();
+            // A band without a scan yet gets nothing but its labels.
+            if (isVisible())
+                update();
+        });
 }
 
 void HistView::setHistory(History history) {

@@ -5,10 +5,12 @@
 
 LayeredPlot::LayeredPlot(QQuickItem *parent)
     : QQuickPaintedItem(parent) {
-    connect(this, &LayeredPlot::historyChanged, this, [this] {
-        if (isVisible())
-            paintOnImage();
-    });
+    connect(
+        this, &LayeredPlot::historyChanged, this,
+        [this] {
+            if (isVisible())
+                paintOnImage();
+        });
     connect(this, &LayeredPlot::imageReady, this, [this] {
         if (isVisible())
             update();

@@ -127,14 +127,13 @@ void RangesListModel::layOutBands(std::vector<MasterFreqModeEnum> bands) {
 
 QList<int> RangesListModel::getRanges() const {
     QList<int> ranges;
-    for (const Mode &row : m_data) {
+    for (const Mode &row : m_data)
         if (row.isActive())
             ranges.append(static_cast<int>(row.ranges.at(static_cast<std::size_t>(row.active))));
-    }
     return ranges;
 }
 
 int RangesListModel::getNumRanges() const {
-    return static_cast<int>(
-        std::count_if(m_data.begin(), m_data.end(), [](const Mode &row) { return row.isActive(); }));
+    return static_cast<int>(std::count_if(
+        m_data.begin(), m_data.end(), [](const Mode &row) { return row.isActive(); }));
 }

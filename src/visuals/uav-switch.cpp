@@ -4,7 +4,8 @@
 
 UavSwitch::UavSwitch(QQuickItem *parent)
     : QQuickPaintedItem(parent) {
-    connect(this, &UavSwitch::switchEnabledChanged, this, [this] { update(); });
+    connect(
+        this, &UavSwitch::switchEnabledChanged, this, [this] { update(); });
     connect(this, &UavSwitch::checkedChanged, this, [this] { update(); });
 }
 

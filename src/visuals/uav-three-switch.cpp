@@ -4,8 +4,10 @@
 
 UavThreeSwitch::UavThreeSwitch(QQuickItem *parent)
     : QQuickPaintedItem(parent) {
-    connect(this, &UavThreeSwitch::positionChanged, this, [this] { update(); });
-    connect(this, &UavThreeSwitch::switchEnabledChanged, this, [this] { update(); });
+    connect(
+        this, &UavThreeSwitch::positionChanged, this, [this] { update(); });
+    connect(
+        this, &UavThreeSwitch::switchEnabledChanged, this, [this] { update(); });
     connect(this, &UavThreeSwitch::textChanged, this, [this] { update(); });
 }
 

@@ -2,7 +2,6 @@
 
 #include <clocale>
 #include <cstdlib>
-
 #include <gtest/gtest.h>
 
 /// Runs the process under a locale that writes a decimal comma, as long as it lives. There are two:

@@ -16,8 +16,8 @@ inline MsgHolder held(const std::string &text) {
 struct SentTexts : std::vector<std::string> {
     template <typename Handler>
     explicit SentTexts(Handler &handler) {
-        QObject::connect(&handler, &Handler::gotMsg, [this](const MsgHolder &holder) {
-            push_back(MsgToJsonParser::toJson(holder.getMsg()));
-        });
+        QObject::connect(
+            &handler, &Handler::gotMsg,
+            [this](const MsgHolder &holder) { push_back(MsgToJsonParser::toJson(holder.getMsg())); });
     }
 };

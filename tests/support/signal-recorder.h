@@ -10,10 +10,9 @@ class SignalRecorder : public QObject {
 public:
     explicit SignalRecorder(QObject *sender)
         : meta(sender->metaObject()) {
-        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i) {
+        for (int i = meta->methodOffset(); i < meta->methodCount(); ++i)
             if (meta->method(i).methodType() == QMetaMethod::Signal)
                 QMetaObject::connect(sender, i, this, QObject::staticMetaObject.methodCount() + i);
-        }
     }
 
     /// What was noted since the last call, separated by blanks.

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "json-brace-counter.h"
+
+#include <gtest/gtest.h>
 
 using Frames = std::vector<std::pair<int, int>>;
 

@@ -1,13 +1,13 @@
+#include "json11.hpp"
+
+#include "comma-locale.h"
+
 #include <cmath>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <limits>
 #include <set>
 #include <sstream>
-
-#include <gtest/gtest.h>
-
-#include "comma-locale.h"
-#include "json11.hpp"
 
 using json11::Json;
 
@@ -15,9 +15,8 @@ namespace {
 
 std::string fromHex(const std::string &hex) {
     std::string bytes;
-    for (std::size_t i = 0; i + 1 < hex.size(); i += 2) {
+    for (std::size_t i = 0; i + 1 < hex.size(); i += 2)
         bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
-    }
     return bytes;
 }
 
@@ -27,9 +26,8 @@ void expectTable() {
     std::ifstream file(TEST_DATA_DIR "/json11-behaviour.tsv");
     int rows = 0;
     for (std::string line, name, text, accepted; std::getline(file, line);) {
-        if (line[0] == '#') {
+        if (line[0] == '#')
             continue;
-        }
         std::string dump, err;
         std::istringstream(line) >> name >> text >> accepted >> dump;
         const Json json = Json::parse(text == "-" ? "" : fromHex(text), err);
@@ -56,9 +54,8 @@ TEST(Json11, Limits) {
     EXPECT_EQ(Json(std::numeric_limits<double>::infinity()).dump(), "null");
     EXPECT_EQ(Json(std::nan("")).int_value(), 0);
     const std::pair<double, int> ints[] = {{-3.9, -3}, {2147483648, 2147483647}, {-1e300, -2147483647 - 1}};
-    for (const auto &[number, value] : ints) {
+    for (const auto &[number, value] : ints)
         EXPECT_EQ(Json(number).int_value(), value) << number;
-    }
 }
 
 TEST(Json11, WrongTypesReadAsEmptyValues) {

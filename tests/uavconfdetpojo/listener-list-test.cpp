@@ -1,10 +1,9 @@
+#include "listener-list.h"
+
 #include <atomic>
 #include <functional>
-#include <string>
-
 #include <gtest/gtest.h>
-
-#include "listener-list.h"
+#include <string>
 
 using Listener = std::function<void()>;
 
@@ -17,11 +16,11 @@ TEST(ListenerList, ListenersChangeTheListWhileTheyAreCalled) {
     };
     const auto fire = [&] { list.fire([](const Listener &listener) { listener(); }); };
     const auto a = make('a'), d = make('d'), e = make('e');
-    std::shared_ptr<Listener> b = make('b', [&] { list.remove(b), b.reset(); });
+    std::shared_ptr<Listener> b = make(
+        'b', [&] { list.remove(b), b.reset(); });
     const auto c = make('c', [&] { list.remove(a), list.remove(d), list.add(e), list.add(e); });
-    for (const auto &listener : {a, b, c, d}) {
+    for (const auto &listener : {a, b, c, d})
         list.add(listener);
-    }
     fire();
     list.remove(c);
     list.remove(e); // of two in a row, one stays
@@ -36,9 +35,8 @@ TEST(ListenerListThreads, ARemovedListenerHasEnded) {
     ListenerList<Listener> list;
     std::atomic<bool> done{false};
     const auto fire = [&] {
-        while (!done) {
+        while (!done)
             list.fire([](const Listener &listener) { listener(); });
-        }
     };
     std::thread first(fire), second(fire);
     for (int i = 0; i < 300; ++i) {
@@ -46,9 +44,8 @@ TEST(ListenerListThreads, ARemovedListenerHasEnded) {
         const auto listener =
             std::make_shared<Listener>([&steps] { ++steps, std::this_thread::yield(), ++steps; });
         list.add(listener);
-        while (steps == 0) {
+        while (steps == 0)
             std::this_thread::yield();
-        }
         list.remove(listener);
         EXPECT_EQ(steps % 2, 0);
     }
@@ -63,9 +60,8 @@ TEST(ListenerListThreads, RunningListenersMayRemoveEachOther) {
     std::atomic<int> running{0};
     for (const int self : {0, 1}) {
         pair[self] = std::make_shared<Listener>([&, self] {
-            for (++running; running < 2;) {
+            for (++running; running < 2;)
                 std::this_thread::yield();
-            }
             list.remove(pair[1 - self]);
         });
         list.add(pair[self]);

@@ -13,7 +13,7 @@ std::vector<std::string> examples() {
     std::vector<std::string> objects;
     std::ifstream page(DOCS_DIR "/protocol.md");
     bool inside = false;
-    for (std::string line; std::getline(page, line);) {
+    for (std::string line; std::getline(page, line);)
         if (line.rfind("```", 0) == 0)
             inside = line == "```json";
         else if (inside && line == "{" &&
@@ -21,7 +21,6 @@ std::vector<std::string> examples() {
             objects.push_back(line);
         else if (inside)
             objects.back() += '\n' + line;
-    }
     return objects;
 }
 

@@ -1,9 +1,8 @@
-#include <stdexcept>
-#include <thread>
+#include "serial-interface-adapter.h"
 
 #include <gtest/gtest.h>
-
-#include "serial-interface-adapter.h"
+#include <stdexcept>
+#include <thread>
 
 using namespace std::chrono_literals;
 

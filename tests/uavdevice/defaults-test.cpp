@@ -1,4 +1,5 @@
 #include "common/defaults.h"
+
 #include "common/sens-level.h"
 
 #include <gmock/gmock.h>

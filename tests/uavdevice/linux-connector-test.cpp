@@ -24,10 +24,9 @@ protected:
 
     /// More than one attempt, since a busy machine may miss the 100 ms of a probe.
     bool connects() {
-        for (int attempt = 0; attempt < 20; ++attempt) {
+        for (int attempt = 0; attempt < 20; ++attempt)
             if (connector.connectInterface())
                 return true;
-        }
         return false;
     }
 

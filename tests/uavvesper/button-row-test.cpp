@@ -78,10 +78,9 @@ TEST_F(ButtonRow, OnlyHelpAndUsbWorkWithoutADevice) {
     plugIn(ProtoEnum::K6);
     connectByButton();
     std::vector<std::string> settings; // read back or not, as fast as they are answered
-    for (const auto &text : sentBy([this] { click("Fabric settings"); })) {
+    for (const auto &text : sentBy([this] { click("Fabric settings"); }))
         if (text.find("\"GET_") == std::string::npos)
             settings.push_back(text);
-    }
     ASSERT_EQ(settings.size(), 2U);
     EXPECT_THAT(settings[0], StartsWith("{\n\"proto\" : \"K6\""));
     EXPECT_THAT(settings[1], StartsWith("{\n\"aiPrior\" : \"DEFAULT\""));

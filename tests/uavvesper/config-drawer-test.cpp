@@ -53,10 +53,9 @@ protected:
         if (const QQuickItem *toggle = first("Switch", &row(title)))
             return toggle->property("checked").toBool();
         const QQuickItem &slider = *first("Slider", &row(title));
-        for (const QQuickItem *child : slider.childItems()) {
+        for (const QQuickItem *child : slider.childItems())
             if (child->width() == slider.height() / 2)
                 return qRound(child->x() / unitOf(slider));
-        }
         return -1;
     }
 

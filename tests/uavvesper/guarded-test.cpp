@@ -1,4 +1,5 @@
 #include "common/guarded.h"
+
 #include "common/history-list-model.h"
 #include "handlers/config-msg-handler.h"
 #include "messages.h"

@@ -1,4 +1,5 @@
 #include "visuals/uav-switch.h"
+
 #include "visuals/uav-three-switch.h"
 
 #include <QImage>

@@ -15,7 +15,8 @@ class ConnectedService {
 public:
     explicit ConnectedService(const SerialDirectory &directory)
         : usb(nullptr, directory.path()) {
-        QObject::connect(&usb, &UsbService::usbStateChanged, &receiver, [this] { ++states; });
+        QObject::connect(
+            &usb, &UsbService::usbStateChanged, &receiver, [this] { ++states; });
         QObject::connect(&usb, &UsbService::gotScanResult, &receiver, [this] { ++scans; });
     }
 

@@ -1,6 +1,7 @@
+#include "usb-service.h"
+
 #include "msg/all-messages.h"
 #include "signal-recorder.h"
-#include "usb-service.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -108,7 +109,8 @@ TEST_F(UsbServiceSignals, EachTypeHasItsSignals) {
 TEST_F(UsbServiceRequests, AConnectionBeginsAndEndsInOrder) {
     const QObject receiver;
     int states = 0, configs = 0; // counted on this thread, wherever the signal is emitted
-    QObject::connect(&service, &UsbService::usbStateChanged, &receiver, [&] { ++states; });
+    QObject::connect(
+        &service, &UsbService::usbStateChanged, &receiver, [&] { ++states; });
     QObject::connect(&service, &UsbService::gotConfig, &receiver, [&] { ++configs; });
     connector.replies[MsgTypeEnum::GET_CONFIG] = std::make_shared<ConfigMsg>();
     service.startUsb();

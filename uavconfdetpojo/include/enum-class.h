@@ -41,10 +41,9 @@ public:
 
     /// The enumerator with exactly this wire name (case matters), or nothing.
     static std::optional<Enum> getEnumValue(const std::string &text) {
-        for (int i = 0; i < length; ++i) {
+        for (int i = 0; i < length; ++i)
             if (Table[static_cast<std::size_t>(i)].strValue == text)
                 return static_cast<Enum>(i);
-        }
         return std::nullopt;
     }
 

@@ -127,10 +127,9 @@ struct ListElements {
     template <typename Value>
     static void read(std::vector<std::shared_ptr<Value>> &list, const std::string &key,
                      const JsonItems &items) {
-        for (const json11::Json &element : items.at(key).array_items()) {
+        for (const json11::Json &element : items.at(key).array_items())
             if (element.is_object())
                 list.push_back(Value::fromJson(element));
-        }
     }
 };
 
@@ -203,11 +202,13 @@ struct FieldIo<std::map<std::string, std::any>> {
         return Map(json.object_items().begin(), json.object_items().end());
     }
     static void write(std::string &out, const Map &map) {
-        writeMap(out, map, FieldIo<std::string>::write, [](std::string &text, const std::any &value) {
-            if (const auto *json = std::any_cast<json11::Json>(&value))
-                text += json->dump();
-            else
-                std::cout << "bad any cast" << std::endl;
-        });
+        writeMap(
+            out, map, FieldIo<std::string>::write,
+            [](std::string &text, const std::any &value) {
+                if (const auto *json = std::any_cast<json11::Json>(&value))
+                    text += json->dump();
+                else
+                    std::cout << "bad any cast" << std::endl;
+            });
     }
 };

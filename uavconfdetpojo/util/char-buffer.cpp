@@ -17,12 +17,10 @@ void CharBuffer::reset() {
 
 const std::string &CharBuffer::toString() {
     const auto needed = static_cast<std::size_t>(m_size);
-    if (needed > joined.capacity()) { // at least doubled, or each call would move everything anew
+    if (needed > joined.capacity()) // at least doubled, or each call would move everything anew
         joined.reserve(std::max(needed, 2 * joined.capacity()));
-    }
-    for (const std::string &chunk : buffer) {
+    for (const std::string &chunk : buffer)
         joined += chunk;
-    }
     buffer.clear();
     return joined;
 }

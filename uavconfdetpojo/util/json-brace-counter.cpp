@@ -6,9 +6,8 @@ std::vector<std::pair<int, int>> JsonBraceCounter::write(const buffer_t &bytes) 
         if (c == '"') {
             currentQuote = !currentQuote;
         } else if (c == '{' && !currentQuote) {
-            if (currentBraceCount == 0) {
+            if (currentBraceCount == 0)
                 start = count;
-            }
             ++currentBraceCount;
         } else if (c == '}' && !currentQuote && currentBraceCount != 0) {
             --currentBraceCount;
@@ -23,16 +22,14 @@ std::vector<std::pair<int, int>> JsonBraceCounter::write(const buffer_t &bytes) 
 }
 
 void JsonBraceCounter::removeStartBytes(int n) {
-    if (start != -1) {
+    if (start != -1)
         start -= n;
-    }
     count -= n;
 }
 
 void JsonBraceCounter::removeByResult(const std::vector<std::pair<int, int>> &result) {
-    if (!result.empty()) {
+    if (!result.empty())
         removeStartBytes(result.back().second + 1);
-    }
 }
 
 void JsonBraceCounter::reset() {

@@ -29,9 +29,8 @@ public:
         for (std::size_t i = 0; i < listeners.size(); ++i) {
             if (listeners[i] == listener) {
                 listeners.erase(listeners.begin() + static_cast<std::ptrdiff_t>(i));
-                for (Round *round : rounds) {
+                for (Round *round : rounds)
                     round->next -= i < round->next ? 1 : 0;
-                }
             }
         }
         const auto self = std::this_thread::get_id();
@@ -56,16 +55,14 @@ public:
             const std::lock_guard lock(mutex);
             round.running = nullptr;
             changed.notify_all();
-            if (round.next == listeners.size()) {
+            if (round.next == listeners.size())
                 return false;
-            }
             listener = listeners[round.next++];
             round.running = listener.get();
             return true;
         };
-        while (step()) {
+        while (step())
             call(*listener);
-        }
     }
 
 private:

@@ -22,9 +22,8 @@ std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> ms
     std::mutex mutex;
     const auto hasResult = [&result] { return std::atomic_load(&result) != nullptr; };
     const auto listener = std::make_shared<MsgListener>([&](std::shared_ptr<Msg> reply) {
-        if (std::find(expected.begin(), expected.end(), reply->getType()) == expected.end()) {
+        if (std::find(expected.begin(), expected.end(), reply->getType()) == expected.end())
             return;
-        }
         const std::lock_guard lock(mutex); // between the other thread's look at the result and its wait
         std::atomic_store(&result, std::move(reply));
         arrived.notify_one();
@@ -125,23 +124,19 @@ void SerialInterfaceAdapter::processNewData(buffer_t bytes) {
             objectStarted = all.find('{', static_cast<std::size_t>(ends.back().second) + 1) != all.npos;
         }
     }
-    if (wasEmpty || !frames.empty()) {
+    if (wasEmpty || !frames.empty())
         lastParsed = getCurrentTimeMs();
-    }
     (*getIoLogger())(bytes);
     if (frames.empty()) {
-        if (!wasEmpty && getCurrentTimeMs() - lastParsed > LAST_PARSED_TIMEOUT) {
+        if (!wasEmpty && getCurrentTimeMs() - lastParsed > LAST_PARSED_TIMEOUT)
             recover();
-        }
         return;
     }
-    for (const std::string &frame : frames) {
+    for (const std::string &frame : frames)
         dispatch(frame);
-    }
     // A started object stays with everything before it, since the counter's positions refer to all of it.
-    if (!objectStarted) {
+    if (!objectStarted)
         resetBuffer();
-    }
 }
 
 void SerialInterfaceAdapter::dispatch(const std::string &frame) {
@@ -151,11 +146,10 @@ void SerialInterfaceAdapter::dispatch(const std::string &frame) {
     } catch (const std::invalid_argument *) {
         return;
     }
-    if (msg) {
+    if (msg)
         fireMsg(std::move(msg));
-    } else {
+    else
         Log::write(TAG, "received unknown msg: " + frame);
-    }
 }
 
 /// Gives up bytes in which no object ended for too long; keeps the newest object that began on a line of its
@@ -188,9 +182,8 @@ void SerialInterfaceAdapter::resetBuffer() {
 
 void SerialInterfaceAdapter::logBuffer(const std::string &title, const std::string &all) {
     Log::write(TAG, title);
-    for (const std::string &piece : split(all, "\n")) {
+    for (const std::string &piece : split(all, "\n"))
         Log::debug(TAG, "|" + piece);
-    }
 }
 
 void SerialInterfaceAdapter::waitEmptyBuffer() {
@@ -198,9 +191,8 @@ void SerialInterfaceAdapter::waitEmptyBuffer() {
         const std::lock_guard lock(bufferMutex);
         return buffer.size() >= 1;
     };
-    while (holdsBytes()) {
+    while (holdsBytes())
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
 }
 
 long long SerialInterfaceAdapter::getCurrentTimeMs() {
@@ -210,9 +202,8 @@ long long SerialInterfaceAdapter::getCurrentTimeMs() {
 
 std::vector<std::string> SerialInterfaceAdapter::split(const std::string &text,
                                                        const std::string &delimiter) {
-    if (delimiter.empty() || text.find(delimiter) == text.npos) {
+    if (delimiter.empty() || text.find(delimiter) == text.npos)
         return {text};
-    }
     std::vector<std::string> pieces;
     std::size_t pos = 0;
     for (std::size_t i = 0; pos < text.size() && (i = text.find(delimiter, pos)) != text.npos;) {

@@ -21,10 +21,9 @@ const Json *find(const std::string &key, const Json::object &items, bool (Json::
 template <typename Number, typename Convert>
 std::vector<Number> numbers(const Json &json, Convert convert) {
     std::vector<Number> list;
-    for (const Json &element : json.array_items()) {
+    for (const Json &element : json.array_items())
         if (element.is_number() && isUsable(element))
             list.push_back(convert(element));
-    }
     return list;
 }
 
@@ -57,10 +56,11 @@ std::optional<bool> Utils::getBoolField(const std::string &key, const Json::obje
 }
 
 std::vector<int> Utils::getIntVec(const std::string &key, const Json::object &items) {
-    return numbers<int>(items.at(key), [](const Json &json) { return json.int_value(); });
+    return numbers<int>(
+        items.at(key), [](const Json &json) { return json.int_value(); });
 }
 
 std::vector<float> Utils::getFloatVec(const std::string &key, const Json::object &items) {
-    return numbers<float>(items.at(key),
-                          [](const Json &json) { return static_cast<float>(json.number_value()); });
+    return numbers<float>(
+        items.at(key), [](const Json &json) { return static_cast<float>(json.number_value()); });
 }
