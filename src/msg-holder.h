@@ -16,12 +16,14 @@ public:
     void setMsg(std::shared_ptr<Msg> message) { msg = std::move(message); }
     std::shared_ptr<Msg> getMsg() const { return msg; }
 
-    /// The held message as `Message`, the class of `type`; null if nothing or another type is held.
+    /// The held message as its own class; null if nothing or another type is held.
     template <typename Message>
-    std::shared_ptr<Message> getAs(MsgTypeEnum type) const {
-        if (!msg || msg->getType() != type)
-            return nullptr;
-        return std::static_pointer_cast<Message>(msg);
+    std::shared_ptr<Message> getAs() const {
+        return messageCast<Message>(msg);
+    }
+    template <typename Message>
+    std::shared_ptr<Message> getAs(MsgTypeEnum) const {
+        return getAs<Message>();
     }
 
 private:

@@ -52,7 +52,7 @@ void AiPriorHandler::setAiPrior(QString aiPrior) {
 }
 
 void AiPriorHandler::accept(MsgHolder holder) {
-    if (holder.getAs<Msg>(MsgTypeEnum::AI_PRIOR))
+    if (holder.getAs<AiPriorMsg>())
         emit aiChanged();
 }
 

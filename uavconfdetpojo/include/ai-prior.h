@@ -5,9 +5,7 @@
 #include <array>
 #include <string>
 
-/// Surroundings for which the device's AI weighs its findings.
-enum class _AiPriorEnum : int { AUTO, DEFAULT, FIELD, CITY, NONE };
-using AiPriorEnum = _AiPriorEnum;
+#include "macros-on.h"
 
 struct _AiPriorEnumBase {
     std::string strValue;
@@ -15,7 +13,14 @@ struct _AiPriorEnumBase {
     std::string shortName;
 };
 
-extern const std::array<_AiPriorEnumBase, 5> AiPriorEnum_values;
+/// Surroundings for which the device's AI weighs its findings.
+#define ENUMERATORS(ENUMERATOR)                  \
+    ENUMERATOR(AUTO, "Автоматический", "Авто")   \
+    ENUMERATOR(DEFAULT, "По умолчанию", "Оптим") \
+    ENUMERATOR(FIELD, "Поле", "Поле")            \
+    ENUMERATOR(CITY, "Город", "Город")           \
+    ENUMERATOR(NONE, "Нет", "Нет")
+ENUMERATION(AiPrior)
 
 class AiPrior : public EnumClass<AiPriorEnum, AiPriorEnum_values> {
 public:
@@ -26,7 +31,4 @@ public:
     std::string getShortName() const { return record().shortName; }
 };
 
-template <>
-struct EnumClassOf<AiPriorEnum> {
-    using type = AiPrior;
-};
+#include "macros-off.h"

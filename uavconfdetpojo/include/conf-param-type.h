@@ -5,22 +5,13 @@
 #include <array>
 #include <string>
 
+#include "macros-on.h"
+
 /// Type of a configuration parameter.
-enum class _ConfParamTypeEnum : int { STRING, NUMBER, BOOLEAN };
-using ConfParamTypeEnum = _ConfParamTypeEnum;
+#define ENUMERATORS(ENUMERATOR) \
+    ENUMERATOR(STRING)          \
+    ENUMERATOR(NUMBER)          \
+    ENUMERATOR(BOOLEAN)
+NAMES_ENUMERATION(ConfParamType)
 
-struct _ConfParamTypeEnumBase {
-    std::string strValue;
-};
-
-extern const std::array<_ConfParamTypeEnumBase, 3> ConfParamTypeEnum_values;
-
-class ConfParamType : public EnumClass<ConfParamTypeEnum, ConfParamTypeEnum_values> {
-public:
-    using EnumClass::EnumClass;
-};
-
-template <>
-struct EnumClassOf<ConfParamTypeEnum> {
-    using type = ConfParamType;
-};
+#include "macros-off.h"

@@ -5,8 +5,10 @@
 
 #include <string>
 
+#include "macros-on.h"
+
 /// A parameter of an EW output. The limits are data for whoever edits a value; nothing here applies them.
-#define CONF_PARAM_FIELDS(FIELD)         \
+#define FIELDS(FIELD)                    \
     FIELD(std::string, name, Name)       \
     FIELD(std::string, descRu, DescRu)   \
     FIELD(ConfParamTypeEnum, type, Type) \
@@ -14,4 +16,6 @@
     FIELD(double, numMax, NumMax)        \
     FIELD(std::string, strRegex, StrRegex)
 
-NESTED_VALUE(ConfParam, m_confParam, CONF_PARAM_FIELDS)
+NESTED_VALUE(ConfParam, m_confParam)
+
+#include "macros-off.h"

@@ -5,9 +5,7 @@
 #include <array>
 #include <string>
 
-/// Detection mode: how often the device sweeps.
-enum class _DetModeEnum : int { ECO, BASE, AUTO, CONT };
-using DetModeEnum = _DetModeEnum;
+#include "macros-on.h"
 
 struct _DetModeEnumBase {
     std::string strValue;
@@ -15,7 +13,13 @@ struct _DetModeEnumBase {
     std::string shortName;
 };
 
-extern const std::array<_DetModeEnumBase, 4> DetModeEnum_values;
+/// Detection mode: how often the device sweeps.
+#define ENUMERATORS(ENUMERATOR)            \
+    ENUMERATOR(ECO, "Экономичный", "Экон") \
+    ENUMERATOR(BASE, "Базовый", "Станд")   \
+    ENUMERATOR(AUTO, "Авто", "Авто")       \
+    ENUMERATOR(CONT, "Непрерывный", "Непр")
+ENUMERATION(DetMode)
 
 class DetMode : public EnumClass<DetModeEnum, DetModeEnum_values> {
 public:
@@ -26,7 +30,4 @@ public:
     std::string getShortName() const { return record().shortName; }
 };
 
-template <>
-struct EnumClassOf<DetModeEnum> {
-    using type = DetMode;
-};
+#include "macros-off.h"

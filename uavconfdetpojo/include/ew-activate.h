@@ -5,22 +5,12 @@
 #include <array>
 #include <string>
 
+#include "macros-on.h"
+
 /// How an EW target acts.
-enum class _EwActivateEnum : int { ALWAYS, TIMEOUT };
-using EwActivateEnum = _EwActivateEnum;
+#define ENUMERATORS(ENUMERATOR) \
+    ENUMERATOR(ALWAYS)          \
+    ENUMERATOR(TIMEOUT)
+NAMES_ENUMERATION(EwActivate)
 
-struct _EwActivateEnumBase {
-    std::string strValue;
-};
-
-extern const std::array<_EwActivateEnumBase, 2> EwActivateEnum_values;
-
-class EwActivate : public EnumClass<EwActivateEnum, EwActivateEnum_values> {
-public:
-    using EnumClass::EnumClass;
-};
-
-template <>
-struct EnumClassOf<EwActivateEnum> {
-    using type = EwActivate;
-};
+#include "macros-off.h"

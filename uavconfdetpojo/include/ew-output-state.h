@@ -5,12 +5,16 @@
 
 #include <string>
 
+#include "macros-on.h"
+
 /// The state of one EW output.
 ///
 /// - `stateMsg`: text that goes with the state
-#define EW_OUTPUT_STATE_FIELDS(FIELD) \
-    FIELD(int, id, Id)                \
-    FIELD(EwStateEnum, state, State)  \
+#define FIELDS(FIELD)                \
+    FIELD(int, id, Id)               \
+    FIELD(EwStateEnum, state, State) \
     FIELD(std::string, stateMsg, StateMsg)
 
-NESTED_VALUE(EwOutputState, m_ewOutputState, EW_OUTPUT_STATE_FIELDS)
+NESTED_VALUE(EwOutputState, m_ewOutputState)
+
+#include "macros-off.h"

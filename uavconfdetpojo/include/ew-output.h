@@ -7,13 +7,17 @@
 #include <string>
 #include <vector>
 
+#include "macros-on.h"
+
 /// An EW output and the parameters that it takes.
 ///
 /// - `id`: the number by which rules, states and switching name it
-#define EW_OUTPUT_FIELDS(FIELD)        \
+#define FIELDS(FIELD)                  \
     FIELD(int, id, Id)                 \
     FIELD(std::string, desc, Desc)     \
     FIELD(std::string, descRu, DescRu) \
     FIELD(std::vector<std::shared_ptr<ConfParam>>, params, Params)
 
-NESTED_VALUE(EwOutput, m_ewOutput, EW_OUTPUT_FIELDS)
+NESTED_VALUE(EwOutput, m_ewOutput)
+
+#include "macros-off.h"

@@ -5,22 +5,14 @@
 #include <array>
 #include <string>
 
+#include "macros-on.h"
+
 /// State of an EW output.
-enum class _EwStateEnum : int { ON, OFF, DISABLE, ERROR };
-using EwStateEnum = _EwStateEnum;
+#define ENUMERATORS(ENUMERATOR) \
+    ENUMERATOR(ON)              \
+    ENUMERATOR(OFF)             \
+    ENUMERATOR(DISABLE)         \
+    ENUMERATOR(ERROR)
+NAMES_ENUMERATION(EwState)
 
-struct _EwStateEnumBase {
-    std::string strValue;
-};
-
-extern const std::array<_EwStateEnumBase, 4> EwStateEnum_values;
-
-class EwState : public EnumClass<EwStateEnum, EwStateEnum_values> {
-public:
-    using EnumClass::EnumClass;
-};
-
-template <>
-struct EnumClassOf<EwStateEnum> {
-    using type = EwState;
-};
+#include "macros-off.h"

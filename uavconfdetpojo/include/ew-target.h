@@ -5,6 +5,8 @@
 #include "param-values.h"
 #include "sig-type.h"
 
+#include "macros-on.h"
+
 /// A rule: what must be detected, and the output that it drives.
 ///
 /// - `freqMin`: in MHz
@@ -12,7 +14,7 @@
 /// - `timeSecOfDetect`: seconds of detection
 /// - `lvlOver`: level in dB to exceed
 /// - `ewOutId`: id of the output
-#define EW_TARGET_FIELDS(FIELD)                  \
+#define FIELDS(FIELD)                            \
     FIELD(float, freqMin, FreqMin)               \
     FIELD(float, freqMax, FreqMax)               \
     FIELD(SigTypeEnum, sigType, SigType)         \
@@ -24,4 +26,6 @@
     FIELD(int, ewOutId, EwOutId)                 \
     FIELD(ParamValues, ewOutConf, EwOutConf)
 
-NESTED_VALUE(EwTarget, m_ewTarget, EW_TARGET_FIELDS)
+NESTED_VALUE(EwTarget, m_ewTarget)
+
+#include "macros-off.h"

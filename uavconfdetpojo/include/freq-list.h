@@ -4,12 +4,14 @@
 
 #include <vector>
 
-#define FREQ_LIST_FIELDS(FIELD) FIELD(std::vector<float>, freqs, Freqs)
+#include "macros-on.h"
 
-/// A frequency plan in MHz. Made from a vector it holds the plan but does not count it as present, so that it
-/// writes itself with no keys: such plans are only looked at, never sent.
-class FreqList {
-    NESTED_VALUE_BODY(FreqList, FREQ_LIST_FIELDS)
+#define FIELDS(FIELD) FIELD(std::vector<float>, freqs, Freqs)
+
+/// A frequency plan in MHz. On purpose: made from a vector it holds the plan but does not count it as
+/// present, so that it writes itself with no keys. Such plans are only looked at, never sent.
+class FreqList : public NestedValue<FreqList> {
+    FIELDS_BODY
 public:
     FreqList() = default;
     explicit FreqList(std::vector<float> plan)
@@ -17,9 +19,11 @@ public:
 };
 
 class FreqListBuilder {
-    BUILDER_BODY(FreqList, m_freqList, FREQ_LIST_FIELDS)
+    BUILDER_BODY(FreqList, m_freqList)
 public:
     FreqListBuilder() = default;
     explicit FreqListBuilder(std::vector<float> plan)
         : m_freqList(std::move(plan)) {}
 };
+
+#include "macros-off.h"

@@ -2,9 +2,13 @@
 
 #include "fields.h"
 
+#include "macros-on.h"
+
 /// The settings of one band.
 ///
 /// - `refLvl`: reference level
-#define FREQ_MODE_SETTING_FIELDS(FIELD) FIELD(int, refLvl, RefLvl)
+#define FIELDS(FIELD) FIELD(int, refLvl, RefLvl)
 
-NESTED_VALUE(FreqModeSetting, m_freqModeSetting, FREQ_MODE_SETTING_FIELDS)
+NESTED_VALUE(FreqModeSetting, m_freqModeSetting)
+
+#include "macros-off.h"

@@ -7,21 +7,12 @@
 #include <memory>
 #include <string>
 
-/// A sweep range inside a band: the standard or the extended one, or a range that only the device knows.
-enum class _FreqModeEnum : int {
-    STD_1200,
-    EXT_1200,
-    STD_2400,
-    EXT_2400,
-    STD_4900,
-    EXT_4900,
-    STD_5800,
-    EXT_5800,
-    CUSTOM
-};
-using FreqModeEnum = _FreqModeEnum;
+#include "macros-on.h"
 
 struct _FreqModeEnumBase {
+    /// A step of 0 gives an empty plan.
+    _FreqModeEnumBase(std::string wireName, int index, int minMHz, int maxMHz, int stepMHz, std::string name);
+
     std::string strValue;
     std::shared_ptr<FreqList> freqList;
     int visibleIndex;
@@ -30,15 +21,31 @@ struct _FreqModeEnumBase {
     std::string viewName;
 };
 
-extern const std::array<_FreqModeEnumBase, 9> FreqModeEnum_values;
+/// A sweep range inside a band: place in a list for the user (-1: in none), lowest and highest frequency and
+/// step of its plan in MHz, name.
+///
+/// On purpose: the standard range at 4.9 GHz lies at 5150 to 5354 MHz, and the standard ranges at 2.4, 4.9
+/// and 5.8 GHz follow the 6 MHz raster of the product where all others step by 10 MHz. A device may report
+/// CUSTOM, which no generation lists and which has no plan.
+#define ENUMERATORS(ENUMERATOR)                     \
+    ENUMERATOR(STD_1200, 0, 1000, 1680, 10, "1.2")  \
+    ENUMERATOR(EXT_1200, 1, 830, 1730, 10, "1.2+")  \
+    ENUMERATOR(STD_2400, 2, 2400, 2484, 6, "2.4")   \
+    ENUMERATOR(EXT_2400, 3, 2350, 2550, 10, "2.4+") \
+    ENUMERATOR(STD_4900, 4, 5150, 5354, 6, "4.9")   \
+    ENUMERATOR(EXT_4900, 5, 4800, 5460, 10, "4.9+") \
+    ENUMERATOR(STD_5800, 6, 5725, 5851, 6, "5.8")   \
+    ENUMERATOR(EXT_5800, 7, 5470, 6100, 10, "5.8+") \
+    ENUMERATOR(CUSTOM, -1, 0, 0, 0, "Заданный")
+ENUMERATION(FreqMode)
 
 class FreqMode : public EnumClass<FreqModeEnum, FreqModeEnum_values> {
 public:
     using EnumClass::EnumClass;
 
-    /// The frequency plan, shared by all who ask for it and not to be changed.
+    /// The frequency plan, shared by all: never modified.
     std::shared_ptr<FreqList> getFreqList() const { return record().freqList; }
-    /// Place among the ranges that a screen offers, -1 for a range that none offers.
+    /// Place in a list for the user; -1 for a range that is shown in none.
     int getVisibleIndex() const { return record().visibleIndex; }
     /// Limits of the range in MHz, both inclusive.
     float getMaxFreq() const { return record().maxFreq; }
@@ -46,7 +53,4 @@ public:
     std::string getViewName() const { return record().viewName; }
 };
 
-template <>
-struct EnumClassOf<FreqModeEnum> {
-    using type = FreqMode;
-};
+#include "macros-off.h"

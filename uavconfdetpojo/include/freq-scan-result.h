@@ -3,16 +3,20 @@
 #include "fields.h"
 #include "sig-type.h"
 
+#include "macros-on.h"
+
 /// What a scan found at one frequency.
 ///
 /// - `freqMHz`: centre frequency in MHz
 /// - `rssi`: level in dB on a scale of -105 (silence) to -75; other values are carried as they come
 /// - `visible`: carried, without a use here
 /// - `type`: NONE where nothing was found
-#define FREQ_SCAN_RESULT_FIELDS(FIELD) \
-    FIELD(float, freqMHz, FreqMHz)     \
-    FIELD(float, rssi, Rssi)           \
-    FIELD(bool, visible, Visible)      \
+#define FIELDS(FIELD)              \
+    FIELD(float, freqMHz, FreqMHz) \
+    FIELD(float, rssi, Rssi)       \
+    FIELD(bool, visible, Visible)  \
     FIELD(SigTypeEnum, type, Type)
 
-NESTED_VALUE(FreqScanResult, m_freqScanResult, FREQ_SCAN_RESULT_FIELDS)
+NESTED_VALUE(FreqScanResult, m_freqScanResult)
+
+#include "macros-off.h"

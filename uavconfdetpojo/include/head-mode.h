@@ -5,22 +5,13 @@
 #include <array>
 #include <string>
 
+#include "macros-on.h"
+
 /// What the headset jack does.
-enum class _HeadModeEnum : int { OFF, SOUND, EW_CONTROL };
-using HeadModeEnum = _HeadModeEnum;
+#define ENUMERATORS(ENUMERATOR) \
+    ENUMERATOR(OFF)             \
+    ENUMERATOR(SOUND)           \
+    ENUMERATOR(EW_CONTROL)
+NAMES_ENUMERATION(HeadMode)
 
-struct _HeadModeEnumBase {
-    std::string strValue;
-};
-
-extern const std::array<_HeadModeEnumBase, 3> HeadModeEnum_values;
-
-class HeadMode : public EnumClass<HeadModeEnum, HeadModeEnum_values> {
-public:
-    using EnumClass::EnumClass;
-};
-
-template <>
-struct EnumClassOf<HeadModeEnum> {
-    using type = HeadMode;
-};
+#include "macros-off.h"

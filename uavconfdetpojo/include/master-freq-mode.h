@@ -7,9 +7,7 @@
 #include <string>
 #include <vector>
 
-/// A frequency band of the device.
-enum class _MasterFreqModeEnum : int { R_1200, R_2400, R_4900, R_5800 };
-using MasterFreqModeEnum = _MasterFreqModeEnum;
+#include "macros-on.h"
 
 struct _MasterFreqModeEnumBase {
     std::string strValue;
@@ -18,7 +16,13 @@ struct _MasterFreqModeEnumBase {
     std::vector<FreqModeEnum> modes;
 };
 
-extern const std::array<_MasterFreqModeEnumBase, 4> MasterFreqModeEnum_values;
+/// A frequency band of the device: its name, its widest range and all its ranges, standard first.
+#define ENUMERATORS(ENUMERATOR)                                                                            \
+    ENUMERATOR(R_1200, "1.2ГГц", FreqModeEnum::EXT_1200, {FreqModeEnum::STD_1200, FreqModeEnum::EXT_1200}) \
+    ENUMERATOR(R_2400, "2.4ГГц", FreqModeEnum::EXT_2400, {FreqModeEnum::STD_2400, FreqModeEnum::EXT_2400}) \
+    ENUMERATOR(R_4900, "4.9ГГц", FreqModeEnum::EXT_4900, {FreqModeEnum::STD_4900, FreqModeEnum::EXT_4900}) \
+    ENUMERATOR(R_5800, "5.8ГГц", FreqModeEnum::EXT_5800, {FreqModeEnum::STD_5800, FreqModeEnum::EXT_5800})
+ENUMERATION(MasterFreqMode)
 
 class MasterFreqMode : public EnumClass<MasterFreqModeEnum, MasterFreqModeEnum_values> {
 public:
@@ -31,7 +35,4 @@ public:
     std::vector<FreqModeEnum> getModes() const { return record().modes; }
 };
 
-template <>
-struct EnumClassOf<MasterFreqModeEnum> {
-    using type = MasterFreqMode;
-};
+#include "macros-off.h"

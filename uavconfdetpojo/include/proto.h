@@ -9,11 +9,12 @@
 #include <string>
 #include <vector>
 
-/// Protocol generation of a device. The generations are ordered: what one has, all later ones have.
-enum class _ProtoEnum : int { K1, K6, K7, K7EW };
-using ProtoEnum = _ProtoEnum;
+#include "macros-on.h"
 
 struct _ProtoEnumBase {
+    _ProtoEnumBase(std::string wireName, std::string description, MasterFreqModeEnum lowestBand,
+                   bool hasAiPriors);
+
     std::string strValue;
     std::string desc;
     std::vector<FreqModeEnum> freqModes;
@@ -21,13 +22,24 @@ struct _ProtoEnumBase {
     std::vector<AiPriorEnum> aiPriors;
 };
 
-extern const std::array<_ProtoEnumBase, 4> ProtoEnum_values;
+/// Protocol generation of a device: description, lowest band, whether the user may choose an AI mode. The
+/// generations are ordered: what one has, all later ones have.
+#define ENUMERATORS(ENUMERATOR)                                                                         \
+    ENUMERATOR(K1, "Kelvane v1-5 (2.4 4.9 5.8)", MasterFreqModeEnum::R_2400, false)                     \
+    ENUMERATOR(K6, "Kelvane v6 (2.4 4.9 5.8) + AI_priors + SDR_MODE", MasterFreqModeEnum::R_2400, true) \
+    ENUMERATOR(K7, "Kelvane v7-... (1.2 2.4 4.9 5.8) + AI_priors + SDR_MODE + ...",                     \
+               MasterFreqModeEnum::R_1200, true)                                                        \
+    ENUMERATOR(K7EW, "Kelvane v7-... (1.2 2.4 4.9 5.8) + AI_priors + SDR_MODE + EW + ...",              \
+               MasterFreqModeEnum::R_1200, true)
+ENUMERATION(Proto)
 
 class Proto : public EnumClass<ProtoEnum, ProtoEnum_values> {
 public:
     using EnumClass::EnumClass;
 
+    /// No caller today.
     std::string getDesc() const { return record().desc; }
+    /// No caller today.
     std::vector<FreqModeEnum> getFreqModes() const { return record().freqModes; }
     /// The bands of the generation, in screen order.
     std::vector<MasterFreqModeEnum> getMasterModes() const { return record().masterModes; }
@@ -35,7 +47,4 @@ public:
     std::vector<AiPriorEnum> getAiPriors() const { return record().aiPriors; }
 };
 
-template <>
-struct EnumClassOf<ProtoEnum> {
-    using type = Proto;
-};
+#include "macros-off.h"

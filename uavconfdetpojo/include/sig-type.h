@@ -5,22 +5,16 @@
 #include <array>
 #include <string>
 
+#include "macros-on.h"
+
 /// Class of a signal, as the detector judges it.
-enum class _SigTypeEnum : int { NONE, WIFI, DIG, FPV, BLOCK, ALL };
-using SigTypeEnum = _SigTypeEnum;
+#define ENUMERATORS(ENUMERATOR) \
+    ENUMERATOR(NONE)            \
+    ENUMERATOR(WIFI)            \
+    ENUMERATOR(DIG)             \
+    ENUMERATOR(FPV)             \
+    ENUMERATOR(BLOCK)           \
+    ENUMERATOR(ALL)
+NAMES_ENUMERATION(SigType)
 
-struct _SigTypeEnumBase {
-    std::string strValue;
-};
-
-extern const std::array<_SigTypeEnumBase, 6> SigTypeEnum_values;
-
-class SigType : public EnumClass<SigTypeEnum, SigTypeEnum_values> {
-public:
-    using EnumClass::EnumClass;
-};
-
-template <>
-struct EnumClassOf<SigTypeEnum> {
-    using type = SigType;
-};
+#include "macros-off.h"

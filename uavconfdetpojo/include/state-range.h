@@ -2,9 +2,13 @@
 
 #include "fields.h"
 
+#include "macros-on.h"
+
 /// Flags of one band, carried without a use here.
-#define STATE_RANGE_FIELDS(FIELD)   \
+#define FIELDS(FIELD)               \
     FIELD(bool, overflow, Overflow) \
     FIELD(bool, rew, Rew)
 
-NESTED_VALUE(StateRange, m_stateRange, STATE_RANGE_FIELDS)
+NESTED_VALUE(StateRange, m_stateRange)
+
+#include "macros-off.h"

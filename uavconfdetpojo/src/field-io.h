@@ -1,10 +1,11 @@
 #pragma once
 
 #include "enum-class.h"
-#include "utils.h"
 
+#include <algorithm>
 #include <any>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <iostream>
 #include <json11.hpp>
@@ -16,62 +17,37 @@
 #include <type_traits>
 #include <vector>
 
-/// How a field of type T is read and written; the rule of each type stands here and nowhere else.
+/// How a value of type T is read and written; the rule of each type stands here and nowhere else.
 ///
-/// `read` is called for a key that is there and returns nothing where the field is to stay absent. `write`
-/// appends the value's text.
+/// `read` gives nothing where the JSON value is no T: a field then stays absent, an element is left out.
+/// `write` appends the value's text.
 template <typename T, typename = void>
 struct FieldIo;
 
-using JsonItems = json11::Json::object;
-
 template <>
 struct FieldIo<std::string> {
-    static std::optional<std::string> read(const std::string &key, const JsonItems &items) {
-        return Utils::getStringField(key, items);
+    static std::optional<std::string> read(const json11::Json &json) {
+        return json.is_string() ? std::optional(json.string_value()) : std::nullopt;
     }
-    // The bytes go out as they are: the device knows no escapes.
+    // On purpose: the bytes go out as they are, since the device knows no escapes.
     static void write(std::string &out, const std::string &value) { out += '"' + value + '"'; }
 };
 
 template <>
 struct FieldIo<bool> {
-    static std::optional<bool> read(const std::string &key, const JsonItems &items) {
-        return Utils::getBoolField(key, items);
+    static std::optional<bool> read(const json11::Json &json) {
+        return json.is_bool() ? std::optional(json.bool_value()) : std::nullopt;
     }
     static void write(std::string &out, bool value) { out += value ? "true" : "false"; }
 };
 
-template <>
-struct FieldIo<int> {
-    static std::optional<int> read(const std::string &key, const JsonItems &items) {
-        return Utils::getIntField(key, items);
-    }
-    static void write(std::string &out, int value) { out += std::to_string(value); }
-};
-
-// Read as a double so that it is not squeezed through an int: beyond 2^53 the low digits are lost.
-template <>
-struct FieldIo<std::int64_t> {
-    static std::optional<std::int64_t> read(const std::string &key, const JsonItems &items) {
-        const auto number = Utils::getDoubleField(key, items);
-        if (!number)
-            return std::nullopt;
-        constexpr double limit = 9223372036854775808.0; // 2^63, the first double above the range
-        if (*number >= limit)
-            return std::numeric_limits<std::int64_t>::max();
-        if (*number < -limit)
-            return std::numeric_limits<std::int64_t>::min();
-        return static_cast<std::int64_t>(*number);
-    }
-    static void write(std::string &out, std::int64_t value) { out += std::to_string(value); }
-};
-
 template <typename T>
 struct FieldIo<T, std::enable_if_t<std::is_floating_point_v<T>>> {
-    static std::optional<T> read(const std::string &key, const JsonItems &items) {
-        const auto number = Utils::getDoubleField(key, items);
-        return number ? std::optional<T>(static_cast<T>(*number)) : std::nullopt;
+    // Some builds of the JSON library read a number beyond a double's range as infinite; no field has a use
+    // for it.
+    static std::optional<T> read(const json11::Json &json) {
+        const bool usable = json.is_number() && std::isfinite(json.number_value());
+        return usable ? std::optional(static_cast<T>(json.number_value())) : std::nullopt;
     }
     // Six decimals and never an exponent, with a point whatever the user's locale says.
     static void write(std::string &out, T value) {
@@ -83,22 +59,40 @@ struct FieldIo<T, std::enable_if_t<std::is_floating_point_v<T>>> {
     }
 };
 
+/// Cut towards zero; a number beyond the type's range gives the nearest end of it. On purpose 64 bits are
+/// read through a double too: they are not squeezed through an int, but beyond 2^53 the low digits are lost.
+template <typename T>
+struct FieldIo<T, std::enable_if_t<std::is_same_v<T, int> || std::is_same_v<T, std::int64_t>>> {
+    static std::optional<T> read(const json11::Json &json) {
+        const auto number = FieldIo<double>::read(json);
+        return number ? std::optional(cut(*number)) : std::nullopt;
+    }
+    static void write(std::string &out, T value) { out += std::to_string(value); }
+
+private:
+    static T cut(double number) {
+        constexpr double beyond =
+            -static_cast<double>(std::numeric_limits<T>::min()); // a power of two: exact
+        if (number >= beyond)
+            return std::numeric_limits<T>::max();
+        return number < -beyond ? std::numeric_limits<T>::min() : static_cast<T>(number);
+    }
+};
+
 template <typename Enum>
 struct FieldIo<Enum, std::enable_if_t<std::is_enum_v<Enum>>> {
     using Class = typename EnumClassOf<Enum>::type;
 
-    static std::optional<Enum> read(const std::string &key, const JsonItems &items) {
-        const auto name = Utils::getStringField(key, items);
-        return name ? Class::getEnumValue(*name) : std::nullopt;
+    static std::optional<Enum> read(const json11::Json &json) {
+        return json.is_string() ? Class::getEnumValue(json.string_value()) : std::nullopt;
     }
     static void write(std::string &out, Enum value) { out += '"' + Class(value).name() + '"'; }
 };
 
-/// A nested value. A null pointer writes nothing at all.
+/// A nested value. On purpose a null pointer writes nothing at all, neither as an element nor behind its key.
 template <typename Value>
 struct FieldIo<std::shared_ptr<Value>> {
-    static std::optional<std::shared_ptr<Value>> read(const std::string &key, const JsonItems &items) {
-        const json11::Json &json = items.at(key);
+    static std::optional<std::shared_ptr<Value>> read(const json11::Json &json) {
         return json.is_object() ? std::optional(Value::fromJson(json)) : std::nullopt;
     }
     static void write(std::string &out, const std::shared_ptr<Value> &value) {
@@ -107,38 +101,15 @@ struct FieldIo<std::shared_ptr<Value>> {
     }
 };
 
-/// Reads the elements of a list; each overload drops what is no element of its kind.
-struct ListElements {
-    static void read(std::vector<int> &list, const std::string &key, const JsonItems &items) {
-        list = Utils::getIntVec(key, items);
-    }
-    static void read(std::vector<float> &list, const std::string &key, const JsonItems &items) {
-        list = Utils::getFloatVec(key, items);
-    }
-    template <typename Enum>
-    static void read(std::vector<Enum> &list, const std::string &key, const JsonItems &items) {
-        for (const json11::Json &element : items.at(key).array_items()) {
-            if (!element.is_string())
-                continue;
-            if (const auto known = EnumClassOf<Enum>::type::getEnumValue(element.string_value()))
-                list.push_back(*known);
-        }
-    }
-    template <typename Value>
-    static void read(std::vector<std::shared_ptr<Value>> &list, const std::string &key,
-                     const JsonItems &items) {
-        for (const json11::Json &element : items.at(key).array_items())
-            if (element.is_object())
-                list.push_back(Value::fromJson(element));
-    }
-};
-
-/// A list that is there but is no array is present and empty.
+/// On purpose a list that is there but is no array is present and empty, where a map would be absent.
 template <typename Element>
 struct FieldIo<std::vector<Element>> {
-    static std::optional<std::vector<Element>> read(const std::string &key, const JsonItems &items) {
+    static std::optional<std::vector<Element>> read(const json11::Json &json) {
         std::vector<Element> list;
-        ListElements::read(list, key, items);
+        list.reserve(json.array_items().size());
+        for (const json11::Json &item : json.array_items())
+            if (auto element = FieldIo<Element>::read(item))
+                list.push_back(std::move(*element));
         return list;
     }
     static void write(std::string &out, const std::vector<Element> &list) {
@@ -153,8 +124,8 @@ struct FieldIo<std::vector<Element>> {
     }
 };
 
-/// Appends the entries of a map in the order of its keys, in the style of maps: no line breaks but between
-/// the entries, no blanks around the colon.
+/// Appends the entries of a map in the order of its keys. On purpose the style of a map is not that of an
+/// object: no line breaks but between the entries, no blanks around the colon.
 template <typename Map, typename WriteKey, typename WriteValue>
 void writeMap(std::string &out, const Map &map, WriteKey writeKey, WriteValue writeValue) {
     out += "{";
@@ -169,19 +140,17 @@ void writeMap(std::string &out, const Map &map, WriteKey writeKey, WriteValue wr
     out += "}";
 }
 
-/// Unlike a list, a map that is there but is no object stays absent.
 template <typename Enum, typename Value>
 struct FieldIo<std::map<Enum, Value>> {
-    static std::optional<std::map<Enum, Value>> read(const std::string &key, const JsonItems &items) {
-        const json11::Json &json = items.at(key);
+    static std::optional<std::map<Enum, Value>> read(const json11::Json &json) {
         if (!json.is_object())
             return std::nullopt;
         std::map<Enum, Value> map;
         for (const auto &[name, entry] : json.object_items()) {
-            const auto known = EnumClassOf<Enum>::type::getEnumValue(name);
-            const auto value = known ? FieldIo<Value>::read(name, json.object_items()) : std::nullopt;
+            const auto key = EnumClassOf<Enum>::type::getEnumValue(name);
+            const auto value = key ? FieldIo<Value>::read(entry) : std::nullopt;
             if (value)
-                map.emplace(*known, *value);
+                map.emplace(*key, *value);
         }
         return map;
     }
@@ -195,8 +164,7 @@ template <>
 struct FieldIo<std::map<std::string, std::any>> {
     using Map = std::map<std::string, std::any>;
 
-    static std::optional<Map> read(const std::string &key, const JsonItems &items) {
-        const json11::Json &json = items.at(key);
+    static std::optional<Map> read(const json11::Json &json) {
         if (!json.is_object())
             return std::nullopt;
         return Map(json.object_items().begin(), json.object_items().end());

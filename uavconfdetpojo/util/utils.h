@@ -21,7 +21,7 @@ public:
     static std::optional<bool> getBoolField(const std::string &key, const json11::Json::object &items);
 
     /// The numbers of an array, other elements left out; empty for a value that is no array. A missing key
-    /// raises std::out_of_range.
+    /// throws std::out_of_range.
     static std::vector<int> getIntVec(const std::string &key, const json11::Json::object &items);
     static std::vector<float> getFloatVec(const std::string &key, const json11::Json::object &items);
 };

@@ -5,14 +5,18 @@
 
 #include <vector>
 
+#include "macros-on.h"
+
 /// What the AI made of the data at one frequency.
 ///
 /// - `freqMHz`: in MHz
 /// - `cnt`: a count of the device; need not be the length of `data`
-#define AI_DATA_MSG_FIELDS(FIELD)      \
+#define FIELDS(FIELD)                  \
     FIELD(float, freqMHz, FreqMHz)     \
     FIELD(SigTypeEnum, ai_res, Ai_res) \
     FIELD(int, cnt, Cnt)               \
     FIELD(std::vector<int>, data, Data)
 
-MESSAGE(AiDataMsg, m_aiDataMsg, AI_DATA, AI_DATA_MSG_FIELDS)
+MESSAGE(AiDataMsg, m_aiDataMsg, AI_DATA)
+
+#include "macros-off.h"

@@ -2,13 +2,17 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Turns the AI on or off for a frequency range.
 ///
 /// - `freqMin`: in MHz
 /// - `freqMax`: in MHz
-#define AI_MODE_MSG_FIELDS(FIELD)  \
+#define FIELDS(FIELD)              \
     FIELD(bool, ai_mode, Ai_mode)  \
     FIELD(float, freqMin, FreqMin) \
     FIELD(float, freqMax, FreqMax)
 
-MESSAGE(AiModeMsg, m_aiModeMsg, AI_MODE, AI_MODE_MSG_FIELDS)
+MESSAGE(AiModeMsg, m_aiModeMsg, AI_MODE)
+
+#include "macros-off.h"

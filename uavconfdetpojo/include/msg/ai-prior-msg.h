@@ -3,7 +3,11 @@
 #include "ai-prior.h"
 #include "msg/msg.h"
 
-/// The AI mode.
-#define AI_PRIOR_MSG_FIELDS(FIELD) FIELD(AiPriorEnum, aiPrior, AiPrior)
+#include "macros-on.h"
 
-MESSAGE(AiPriorMsg, m_aiPriorMsg, AI_PRIOR, AI_PRIOR_MSG_FIELDS)
+/// The AI mode.
+#define FIELDS(FIELD) FIELD(AiPriorEnum, aiPrior, AiPrior)
+
+MESSAGE(AiPriorMsg, m_aiPriorMsg, AI_PRIOR)
+
+#include "macros-off.h"

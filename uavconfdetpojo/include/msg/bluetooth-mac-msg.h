@@ -4,9 +4,13 @@
 
 #include <string>
 
+#include "macros-on.h"
+
 /// The Bluetooth address alone.
 ///
 /// - `mac`: address in the text form of the device
-#define BLUETOOTH_MAC_MSG_FIELDS(FIELD) FIELD(std::string, mac, Mac)
+#define FIELDS(FIELD) FIELD(std::string, mac, Mac)
 
-MESSAGE(BluetoothMacMsg, m_bluetoothMacMsg, BLUETOOTH_MAC, BLUETOOTH_MAC_MSG_FIELDS)
+MESSAGE(BluetoothMacMsg, m_bluetoothMacMsg, BLUETOOTH_MAC)
+
+#include "macros-off.h"

@@ -6,7 +6,11 @@
 #include <memory>
 #include <vector>
 
-/// The rules that drive the EW outputs.
-#define CONFIG_EW_MSG_FIELDS(FIELD) FIELD(std::vector<std::shared_ptr<EwTarget>>, targets, Targets)
+#include "macros-on.h"
 
-MESSAGE(ConfigEwMsg, m_configEwMsg, CONFIG_EW, CONFIG_EW_MSG_FIELDS)
+/// The rules that drive the EW outputs.
+#define FIELDS(FIELD) FIELD(std::vector<std::shared_ptr<EwTarget>>, targets, Targets)
+
+MESSAGE(ConfigEwMsg, m_configEwMsg, CONFIG_EW)
+
+#include "macros-off.h"

@@ -7,9 +7,13 @@
 #include <map>
 #include <memory>
 
+#include "macros-on.h"
+
 using BandCalibrations = std::map<MasterFreqModeEnum, std::shared_ptr<FreqCalib>>;
 
 /// The frequency calibration of each band.
-#define CONFIG_FREQ_CALIB_MSG_FIELDS(FIELD) FIELD(BandCalibrations, freqModesCalib, FreqModesCalib)
+#define FIELDS(FIELD) FIELD(BandCalibrations, freqModesCalib, FreqModesCalib)
 
-MESSAGE(ConfigFreqCalibMsg, m_configFreqCalibMsg, CONFIG_FREQ_CALIB, CONFIG_FREQ_CALIB_MSG_FIELDS)
+MESSAGE(ConfigFreqCalibMsg, m_configFreqCalibMsg, CONFIG_FREQ_CALIB)
+
+#include "macros-off.h"

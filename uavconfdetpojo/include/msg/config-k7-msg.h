@@ -3,6 +3,8 @@
 #include "head-mode.h"
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// The settings that generation K7 added: display, voice, headset jack, Bluetooth.
 ///
 /// - `voiceEn`: voice alert on
@@ -12,7 +14,7 @@
 /// - `btEn`: Bluetooth on
 /// - `btPowerDbm`: Bluetooth transmit power in dBm
 /// - `voiceDbLvl`: level in dB from which the voice alert speaks
-#define CONFIG_K7_MSG_FIELDS(FIELD)               \
+#define FIELDS(FIELD)                             \
     FIELD(bool, voiceEn, VoiceEn)                 \
     FIELD(int, dispLvl, DispLvl)                  \
     FIELD(int, dispOffTime, DispOffTime)          \
@@ -22,4 +24,6 @@
     FIELD(int, btPowerDbm, BtPowerDbm)            \
     FIELD(int, voiceDbLvl, VoiceDbLvl)
 
-MESSAGE(ConfigK7Msg, m_configK7Msg, CONFIG_K7, CONFIG_K7_MSG_FIELDS)
+MESSAGE(ConfigK7Msg, m_configK7Msg, CONFIG_K7)
+
+#include "macros-off.h"

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "macros-on.h"
+
 /// The main settings of the device, which also tell its protocol generation.
 ///
 /// - `indLedLvl`: brightness, 0 to 100
@@ -15,7 +17,7 @@
 /// - `ranges`: active sweep ranges, in the order of the device
 /// - `md5Serial`: serial hash, as shown to the user
 /// - `atten`: attenuation in steps
-#define CONFIG_MSG_FIELDS(FIELD)                     \
+#define FIELDS(FIELD)                                \
     FIELD(ProtoEnum, proto, Proto)                   \
     FIELD(bool, indLed, IndLed)                      \
     FIELD(bool, indSnd, IndSnd)                      \
@@ -32,4 +34,6 @@
     FIELD(std::string, md5Serial, Md5Serial)         \
     FIELD(int, atten, Atten)
 
-MESSAGE(ConfigMsg, m_configMsg, CONFIG, CONFIG_MSG_FIELDS)
+MESSAGE(ConfigMsg, m_configMsg, CONFIG)
+
+#include "macros-off.h"

@@ -7,9 +7,13 @@
 #include <map>
 #include <memory>
 
+#include "macros-on.h"
+
 using BandSettings = std::map<MasterFreqModeEnum, std::shared_ptr<FreqModeSetting>>;
 
 /// The settings of each band.
-#define CONFIG_RANGES_MSG_FIELDS(FIELD) FIELD(BandSettings, cfgRanges, CfgRanges)
+#define FIELDS(FIELD) FIELD(BandSettings, cfgRanges, CfgRanges)
 
-MESSAGE(ConfigRangesMsg, m_configRangesMsg, CONFIG_RANGES, CONFIG_RANGES_MSG_FIELDS)
+MESSAGE(ConfigRangesMsg, m_configRangesMsg, CONFIG_RANGES)
+
+#include "macros-off.h"

@@ -6,7 +6,11 @@
 #include <memory>
 #include <vector>
 
-/// The EW outputs that the device has.
-#define EW_HARDWARE_MSG_FIELDS(FIELD) FIELD(std::vector<std::shared_ptr<EwOutput>>, outs, Outs)
+#include "macros-on.h"
 
-MESSAGE(EwHardwareMsg, m_ewHardwareMsg, EW_HARDWARE, EW_HARDWARE_MSG_FIELDS)
+/// The EW outputs that the device has.
+#define FIELDS(FIELD) FIELD(std::vector<std::shared_ptr<EwOutput>>, outs, Outs)
+
+MESSAGE(EwHardwareMsg, m_ewHardwareMsg, EW_HARDWARE)
+
+#include "macros-off.h"

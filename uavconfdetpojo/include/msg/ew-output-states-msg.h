@@ -6,8 +6,11 @@
 #include <memory>
 #include <vector>
 
-/// The states of all EW outputs.
-#define EW_OUTPUT_STATES_MSG_FIELDS(FIELD) \
-    FIELD(std::vector<std::shared_ptr<EwOutputState>>, outStates, OutStates)
+#include "macros-on.h"
 
-MESSAGE(EwOutputStatesMsg, m_ewOutputStatesMsg, EW_OUTPUT_STATES, EW_OUTPUT_STATES_MSG_FIELDS)
+/// The states of all EW outputs.
+#define FIELDS(FIELD) FIELD(std::vector<std::shared_ptr<EwOutputState>>, outStates, OutStates)
+
+MESSAGE(EwOutputStatesMsg, m_ewOutputStatesMsg, EW_OUTPUT_STATES)
+
+#include "macros-off.h"

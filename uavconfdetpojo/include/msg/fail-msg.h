@@ -4,12 +4,16 @@
 
 #include <string>
 
+#include "macros-on.h"
+
 /// The device refused a message.
 ///
 /// - `respOn`: type of the refused message
 /// - `failMsg`: text for the user
-#define FAIL_MSG_FIELDS(FIELD)         \
+#define FIELDS(FIELD)                  \
     FIELD(MsgTypeEnum, respOn, RespOn) \
     FIELD(std::string, failMsg, FailMsg)
 
-MESSAGE(FailMsg, m_failMsg, FAIL, FAIL_MSG_FIELDS)
+MESSAGE(FailMsg, m_failMsg, FAIL)
+
+#include "macros-off.h"

@@ -5,9 +5,13 @@
 
 #include <map>
 
+#include "macros-on.h"
+
 using BandAttenuations = std::map<MasterFreqModeEnum, int>;
 
 /// The attenuation of each band.
-#define FREQ_RANGE_ATTEN_MSG_FIELDS(FIELD) FIELD(BandAttenuations, attens, Attens)
+#define FIELDS(FIELD) FIELD(BandAttenuations, attens, Attens)
 
-MESSAGE(FreqRangeAttenMsg, m_freqRangeAttenMsg, FREQ_RANGE_ATTEN, FREQ_RANGE_ATTEN_MSG_FIELDS)
+MESSAGE(FreqRangeAttenMsg, m_freqRangeAttenMsg, FREQ_RANGE_ATTEN)
+
+#include "macros-off.h"

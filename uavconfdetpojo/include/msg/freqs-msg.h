@@ -5,7 +5,11 @@
 
 #include <memory>
 
-/// A frequency plan.
-#define FREQS_MSG_FIELDS(FIELD) FIELD(std::shared_ptr<FreqList>, freqList, FreqList)
+#include "macros-on.h"
 
-MESSAGE(FreqsMsg, m_freqsMsg, FREQS, FREQS_MSG_FIELDS)
+/// A frequency plan.
+#define FIELDS(FIELD) FIELD(std::shared_ptr<FreqList>, freqList, FreqList)
+
+MESSAGE(FreqsMsg, m_freqsMsg, FREQS)
+
+#include "macros-off.h"

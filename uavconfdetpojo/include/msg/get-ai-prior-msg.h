@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for AI_PRIOR.
-MESSAGE(GetAiPriorMsg, m_getAiPriorMsg, GET_AI_PRIOR, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetAiPriorMsg, m_getAiPriorMsg, GET_AI_PRIOR)
+
+#include "macros-off.h"

@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for BLUETOOTH_MAC.
-MESSAGE(GetBluetoothMacMsg, m_getBluetoothMacMsg, GET_BLUETOOTH_MAC, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetBluetoothMacMsg, m_getBluetoothMacMsg, GET_BLUETOOTH_MAC)
+
+#include "macros-off.h"

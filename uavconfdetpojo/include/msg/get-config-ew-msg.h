@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for CONFIG_EW.
-MESSAGE(GetConfigEwMsg, m_getConfigEwMsg, GET_CONFIG_EW, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetConfigEwMsg, m_getConfigEwMsg, GET_CONFIG_EW)
+
+#include "macros-off.h"

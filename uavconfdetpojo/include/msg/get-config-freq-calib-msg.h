@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for CONFIG_FREQ_CALIB.
-MESSAGE(GetConfigFreqCalibMsg, m_getConfigFreqCalibMsg, GET_CONFIG_FREQ_CALIB, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetConfigFreqCalibMsg, m_getConfigFreqCalibMsg, GET_CONFIG_FREQ_CALIB)
+
+#include "macros-off.h"

@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for CONFIG.
-MESSAGE(GetConfigMsg, m_getConfigMsg, GET_CONFIG, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetConfigMsg, m_getConfigMsg, GET_CONFIG)
+
+#include "macros-off.h"

@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for CONFIG_RANGES.
-MESSAGE(GetConfigRangesMsg, m_getConfigRangesMsg, GET_CONFIG_RANGES, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetConfigRangesMsg, m_getConfigRangesMsg, GET_CONFIG_RANGES)
+
+#include "macros-off.h"

@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for EW_HARDWARE.
-MESSAGE(GetEwHardwareMsg, m_getEwHardwareMsg, GET_EW_HARDWARE, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetEwHardwareMsg, m_getEwHardwareMsg, GET_EW_HARDWARE)
+
+#include "macros-off.h"

@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for EW_OUTPUT_STATES.
-MESSAGE(GetEwOutputStatesMsg, m_getEwOutputStatesMsg, GET_EW_OUTPUT_STATES, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetEwOutputStatesMsg, m_getEwOutputStatesMsg, GET_EW_OUTPUT_STATES)
+
+#include "macros-off.h"

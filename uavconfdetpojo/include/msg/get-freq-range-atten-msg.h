@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for FREQ_RANGE_ATTEN.
-MESSAGE(GetFreqRangeAttenMsg, m_getFreqRangeAttenMsg, GET_FREQ_RANGE_ATTEN, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetFreqRangeAttenMsg, m_getFreqRangeAttenMsg, GET_FREQ_RANGE_ATTEN)
+
+#include "macros-off.h"

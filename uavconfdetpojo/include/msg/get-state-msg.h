@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for STATE.
-MESSAGE(GetStateMsg, m_getStateMsg, GET_STATE, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetStateMsg, m_getStateMsg, GET_STATE)
+
+#include "macros-off.h"

@@ -2,7 +2,11 @@
 
 #include "msg/msg.h"
 
-/// The answer to SET_MASK.
-#define MASK_RESULT_MSG_FIELDS(FIELD) FIELD(bool, mask, Mask)
+#include "macros-on.h"
 
-MESSAGE(MaskResultMsg, m_maskResultMsg, MASK_RESULT, MASK_RESULT_MSG_FIELDS)
+/// The answer to SET_MASK.
+#define FIELDS(FIELD) FIELD(bool, mask, Mask)
+
+MESSAGE(MaskResultMsg, m_maskResultMsg, MASK_RESULT)
+
+#include "macros-off.h"

@@ -8,71 +8,14 @@
 #include <memory>
 #include <string>
 
+#include "macros-on.h"
+
 namespace json11 {
 class Json;
 }
 class Msg;
-
-/// The message types in the order of their numbers: name (also the value of the key "type"), first protocol
-/// generation that has it, class, and the class of the request that makes the device send it.
-/// FREQ_RANGE_ATTEN has a request class but no request here: nothing reads it back. USB_NODE_INIT came last
-/// and holds for every generation all the same.
-#define MESSAGE_TYPES(ROW)                                                \
-    ROW(CONFIG, K1, ConfigMsg, GetConfigMsg)                              \
-    ROW(GET_CONFIG, K1, GetConfigMsg, NoRequest)                          \
-    ROW(OK, K1, OkMsg, NoRequest)                                         \
-    ROW(FAIL, K1, FailMsg, NoRequest)                                     \
-    ROW(SCAN_RESULT, K1, ScanResultMsg, NoRequest)                        \
-    ROW(FREQS, K1, FreqsMsg, NoRequest)                                   \
-    ROW(STATE, K1, StateMsg, GetStateMsg)                                 \
-    ROW(GET_STATE, K1, GetStateMsg, NoRequest)                            \
-    ROW(CONFIG_RANGES, K1, ConfigRangesMsg, GetConfigRangesMsg)           \
-    ROW(GET_CONFIG_RANGES, K1, GetConfigRangesMsg, NoRequest)             \
-    ROW(SET_MASK, K1, SetMaskMsg, NoRequest)                              \
-    ROW(SET_MASK_RANGES, K7, SetMaskRangesMsg, NoRequest)                 \
-    ROW(MASK_RESULT, K1, MaskResultMsg, NoRequest)                        \
-    ROW(SCAN, K1, ScanMsg, NoRequest)                                     \
-    ROW(TO_BOOTLOAD, K1, ToBootloadMsg, NoRequest)                        \
-    ROW(START_FLASHING, K1, StartFlashing, NoRequest)                     \
-    ROW(WRITE_FLASH, K1, WriteFlashMsg, NoRequest)                        \
-    ROW(END_FLASHING, K1, EndFlashingMsg, NoRequest)                      \
-    ROW(SET_FACTORY, K1, SetFactoryMsg, NoRequest)                        \
-    ROW(GET_VERS, K1, GetVersMsg, NoRequest)                              \
-    ROW(VERS, K1, VersMsg, GetVersMsg)                                    \
-    ROW(SHUTDOWN, K1, ShutdownMsg, NoRequest)                             \
-    ROW(TEST_OUTS, K1, TestOutsMsg, NoRequest)                            \
-    ROW(SDR_MODE, K6, SdrModeMsg, NoRequest)                              \
-    ROW(SDR_DATA, K6, SdrDataMsg, NoRequest)                              \
-    ROW(GET_AI_PRIOR, K6, GetAiPriorMsg, NoRequest)                       \
-    ROW(AI_PRIOR, K6, AiPriorMsg, GetAiPriorMsg)                          \
-    ROW(WRITE_EXT_MEM, K7, WriteExtMemoryMsg, NoRequest)                  \
-    ROW(GET_CONFIG_FREQ_CALIB, K7, GetConfigFreqCalibMsg, NoRequest)      \
-    ROW(CONFIG_FREQ_CALIB, K7, ConfigFreqCalibMsg, GetConfigFreqCalibMsg) \
-    ROW(GET_CONFIG_K7, K7, GetConfigK7Msg, NoRequest)                     \
-    ROW(CONFIG_K7, K7, ConfigK7Msg, GetConfigK7Msg)                       \
-    ROW(GET_STATE_K7, K7, GetStateK7Msg, NoRequest)                       \
-    ROW(STATE_K7, K7, StateK7Msg, GetStateK7Msg)                          \
-    ROW(TO_APP, K7, ToAppMsg, NoRequest)                                  \
-    ROW(GET_EW_HARDWARE, K7EW, GetEwHardwareMsg, NoRequest)               \
-    ROW(EW_HARDWARE, K7EW, EwHardwareMsg, GetEwHardwareMsg)               \
-    ROW(GET_CONFIG_EW, K7EW, GetConfigEwMsg, NoRequest)                   \
-    ROW(CONFIG_EW, K7EW, ConfigEwMsg, GetConfigEwMsg)                     \
-    ROW(SWITCH_EW_OUTPUT, K7EW, SwitchEwOutputMsg, NoRequest)             \
-    ROW(GET_EW_OUTPUT_STATES, K7EW, GetEwOutputStatesMsg, NoRequest)      \
-    ROW(EW_OUTPUT_STATES, K7EW, EwOutputStatesMsg, GetEwOutputStatesMsg)  \
-    ROW(GET_FREQ_RANGE_ATTEN, K7EW, GetFreqRangeAttenMsg, NoRequest)      \
-    ROW(FREQ_RANGE_ATTEN, K7EW, FreqRangeAttenMsg, NoRequest)             \
-    ROW(AI_MODE, K7EW, AiModeMsg, NoRequest)                              \
-    ROW(AI_DATA, K7EW, AiDataMsg, NoRequest)                              \
-    ROW(GET_BLUETOOTH_MAC, K7EW, GetBluetoothMacMsg, NoRequest)           \
-    ROW(BLUETOOTH_MAC, K7EW, BluetoothMacMsg, GetBluetoothMacMsg)         \
-    ROW(APPLY_EXT_MEM, K7EW, ApplyExtMemoryMsg, NoRequest)                \
-    ROW(USB_NODE_INIT, K1, UsbNodeInitMsg, NoRequest)
-
-#define MESSAGE_TYPE_ENUMERATOR(NAME, since, Class, Request) NAME,
-enum class _MsgTypeEnum : int { MESSAGE_TYPES(MESSAGE_TYPE_ENUMERATOR) };
-#undef MESSAGE_TYPE_ENUMERATOR
-using MsgTypeEnum = _MsgTypeEnum;
+/// Stands in the place of a request class where no request makes the device send a type.
+struct NoRequest;
 
 struct _MsgTypeEnumBase {
     std::string strValue;
@@ -85,7 +28,64 @@ struct _MsgTypeEnumBase {
     std::function<std::shared_ptr<Msg>(const json11::Json &)> fromJson;
 };
 
-extern const std::array<_MsgTypeEnumBase, 50> MsgTypeEnum_values;
+/// The message types in the order of their numbers: name (also the value of the key "type"), first protocol
+/// generation that has it, class, and the class of the request that makes the device send it.
+///
+/// On purpose: FREQ_RANGE_ATTEN has a request class but no request here, since nothing reads it back;
+/// SET_MASK_RANGES stands among the old types and came with K7; USB_NODE_INIT came last and holds for every
+/// generation all the same.
+#define ENUMERATORS(ENUMERATOR)                                                  \
+    ENUMERATOR(CONFIG, K1, ConfigMsg, GetConfigMsg)                              \
+    ENUMERATOR(GET_CONFIG, K1, GetConfigMsg, NoRequest)                          \
+    ENUMERATOR(OK, K1, OkMsg, NoRequest)                                         \
+    ENUMERATOR(FAIL, K1, FailMsg, NoRequest)                                     \
+    ENUMERATOR(SCAN_RESULT, K1, ScanResultMsg, NoRequest)                        \
+    ENUMERATOR(FREQS, K1, FreqsMsg, NoRequest)                                   \
+    ENUMERATOR(STATE, K1, StateMsg, GetStateMsg)                                 \
+    ENUMERATOR(GET_STATE, K1, GetStateMsg, NoRequest)                            \
+    ENUMERATOR(CONFIG_RANGES, K1, ConfigRangesMsg, GetConfigRangesMsg)           \
+    ENUMERATOR(GET_CONFIG_RANGES, K1, GetConfigRangesMsg, NoRequest)             \
+    ENUMERATOR(SET_MASK, K1, SetMaskMsg, NoRequest)                              \
+    ENUMERATOR(SET_MASK_RANGES, K7, SetMaskRangesMsg, NoRequest)                 \
+    ENUMERATOR(MASK_RESULT, K1, MaskResultMsg, NoRequest)                        \
+    ENUMERATOR(SCAN, K1, ScanMsg, NoRequest)                                     \
+    ENUMERATOR(TO_BOOTLOAD, K1, ToBootloadMsg, NoRequest)                        \
+    ENUMERATOR(START_FLASHING, K1, StartFlashing, NoRequest)                     \
+    ENUMERATOR(WRITE_FLASH, K1, WriteFlashMsg, NoRequest)                        \
+    ENUMERATOR(END_FLASHING, K1, EndFlashingMsg, NoRequest)                      \
+    ENUMERATOR(SET_FACTORY, K1, SetFactoryMsg, NoRequest)                        \
+    ENUMERATOR(GET_VERS, K1, GetVersMsg, NoRequest)                              \
+    ENUMERATOR(VERS, K1, VersMsg, GetVersMsg)                                    \
+    ENUMERATOR(SHUTDOWN, K1, ShutdownMsg, NoRequest)                             \
+    ENUMERATOR(TEST_OUTS, K1, TestOutsMsg, NoRequest)                            \
+    ENUMERATOR(SDR_MODE, K6, SdrModeMsg, NoRequest)                              \
+    ENUMERATOR(SDR_DATA, K6, SdrDataMsg, NoRequest)                              \
+    ENUMERATOR(GET_AI_PRIOR, K6, GetAiPriorMsg, NoRequest)                       \
+    ENUMERATOR(AI_PRIOR, K6, AiPriorMsg, GetAiPriorMsg)                          \
+    ENUMERATOR(WRITE_EXT_MEM, K7, WriteExtMemoryMsg, NoRequest)                  \
+    ENUMERATOR(GET_CONFIG_FREQ_CALIB, K7, GetConfigFreqCalibMsg, NoRequest)      \
+    ENUMERATOR(CONFIG_FREQ_CALIB, K7, ConfigFreqCalibMsg, GetConfigFreqCalibMsg) \
+    ENUMERATOR(GET_CONFIG_K7, K7, GetConfigK7Msg, NoRequest)                     \
+    ENUMERATOR(CONFIG_K7, K7, ConfigK7Msg, GetConfigK7Msg)                       \
+    ENUMERATOR(GET_STATE_K7, K7, GetStateK7Msg, NoRequest)                       \
+    ENUMERATOR(STATE_K7, K7, StateK7Msg, GetStateK7Msg)                          \
+    ENUMERATOR(TO_APP, K7, ToAppMsg, NoRequest)                                  \
+    ENUMERATOR(GET_EW_HARDWARE, K7EW, GetEwHardwareMsg, NoRequest)               \
+    ENUMERATOR(EW_HARDWARE, K7EW, EwHardwareMsg, GetEwHardwareMsg)               \
+    ENUMERATOR(GET_CONFIG_EW, K7EW, GetConfigEwMsg, NoRequest)                   \
+    ENUMERATOR(CONFIG_EW, K7EW, ConfigEwMsg, GetConfigEwMsg)                     \
+    ENUMERATOR(SWITCH_EW_OUTPUT, K7EW, SwitchEwOutputMsg, NoRequest)             \
+    ENUMERATOR(GET_EW_OUTPUT_STATES, K7EW, GetEwOutputStatesMsg, NoRequest)      \
+    ENUMERATOR(EW_OUTPUT_STATES, K7EW, EwOutputStatesMsg, GetEwOutputStatesMsg)  \
+    ENUMERATOR(GET_FREQ_RANGE_ATTEN, K7EW, GetFreqRangeAttenMsg, NoRequest)      \
+    ENUMERATOR(FREQ_RANGE_ATTEN, K7EW, FreqRangeAttenMsg, NoRequest)             \
+    ENUMERATOR(AI_MODE, K7EW, AiModeMsg, NoRequest)                              \
+    ENUMERATOR(AI_DATA, K7EW, AiDataMsg, NoRequest)                              \
+    ENUMERATOR(GET_BLUETOOTH_MAC, K7EW, GetBluetoothMacMsg, NoRequest)           \
+    ENUMERATOR(BLUETOOTH_MAC, K7EW, BluetoothMacMsg, GetBluetoothMacMsg)         \
+    ENUMERATOR(APPLY_EXT_MEM, K7EW, ApplyExtMemoryMsg, NoRequest)                \
+    ENUMERATOR(USB_NODE_INIT, K1, UsbNodeInitMsg, NoRequest)
+ENUMERATION_WITHOUT_ROWS(MsgType)
 
 class MsgType : public EnumClass<MsgTypeEnum, MsgTypeEnum_values> {
 public:
@@ -99,7 +99,28 @@ public:
     }
 };
 
-template <>
-struct EnumClassOf<MsgTypeEnum> {
-    using type = MsgType;
-};
+#define DECLARE_CLASS(NAME, since, Message, Request) class Message;
+ENUMERATORS(DECLARE_CLASS)
+#undef DECLARE_CLASS
+
+/// Calls visit(Message *) with a null pointer to the class of a type, which tells no more than the class.
+/// `otherwise` is the result for a number that is no type.
+template <typename Result, typename Visit>
+Result withClassOf(MsgTypeEnum type, Result otherwise, Visit visit) {
+#define VISIT_CLASS(NAME, since, Message, Request) \
+    case MsgTypeEnum::NAME:                        \
+        return visit(static_cast<Message *>(nullptr));
+    switch (type) { ENUMERATORS(VISIT_CLASS) }
+#undef VISIT_CLASS
+    return otherwise;
+}
+
+/// The rows of the table, each made by Make::row<Message, Request>(name, first generation).
+template <typename Make>
+auto rowsOfMsgType() {
+#define MAKE_ROW(NAME, since, Message, Request) Make::template row<Message, Request>(#NAME, ProtoEnum::since),
+    return std::array<_MsgTypeEnumBase, 50>{{ENUMERATORS(MAKE_ROW)}};
+#undef MAKE_ROW
+}
+
+#include "macros-off.h"

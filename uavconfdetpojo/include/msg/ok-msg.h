@@ -2,9 +2,13 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// The device took a message.
 ///
 /// - `respOn`: type of the message that this answers
-#define OK_MSG_FIELDS(FIELD) FIELD(MsgTypeEnum, respOn, RespOn)
+#define FIELDS(FIELD) FIELD(MsgTypeEnum, respOn, RespOn)
 
-MESSAGE(OkMsg, m_okMsg, OK, OK_MSG_FIELDS)
+MESSAGE(OkMsg, m_okMsg, OK)
+
+#include "macros-off.h"

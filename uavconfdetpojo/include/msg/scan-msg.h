@@ -2,7 +2,11 @@
 
 #include "msg/msg.h"
 
-/// Starts or stops scanning.
-#define SCAN_MSG_FIELDS(FIELD) FIELD(bool, scan, Scan)
+#include "macros-on.h"
 
-MESSAGE(ScanMsg, m_scanMsg, SCAN, SCAN_MSG_FIELDS)
+/// Starts or stops scanning.
+#define FIELDS(FIELD) FIELD(bool, scan, Scan)
+
+MESSAGE(ScanMsg, m_scanMsg, SCAN)
+
+#include "macros-off.h"

@@ -7,14 +7,18 @@
 #include <memory>
 #include <vector>
 
+#include "macros-on.h"
+
 /// One scan over all active ranges.
 ///
 /// - `freqs`: in the order of the device
 /// - `mask`: the mask of the device is on; devices always send it
 /// - `maskedModes`: the masked bands
-#define SCAN_RESULT_MSG_FIELDS(FIELD)                                 \
+#define FIELDS(FIELD)                                                 \
     FIELD(std::vector<std::shared_ptr<FreqScanResult>>, freqs, Freqs) \
     FIELD(bool, mask, Mask)                                           \
     FIELD(std::vector<MasterFreqModeEnum>, maskedModes, MaskedModes)
 
-MESSAGE(ScanResultMsg, m_scanResultMsg, SCAN_RESULT, SCAN_RESULT_MSG_FIELDS)
+MESSAGE(ScanResultMsg, m_scanResultMsg, SCAN_RESULT)
+
+#include "macros-off.h"

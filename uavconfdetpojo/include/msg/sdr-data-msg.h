@@ -4,11 +4,15 @@
 
 #include <vector>
 
+#include "macros-on.h"
+
 /// A block of SDR data at one frequency.
 ///
 /// - `freqMHz`: in MHz
-#define SDR_DATA_MSG_FIELDS(FIELD) \
+#define FIELDS(FIELD)              \
     FIELD(float, freqMHz, FreqMHz) \
     FIELD(std::vector<int>, data, Data)
 
-MESSAGE(SdrDataMsg, m_sdrDataMsg, SDR_DATA, SDR_DATA_MSG_FIELDS)
+MESSAGE(SdrDataMsg, m_sdrDataMsg, SDR_DATA)
+
+#include "macros-off.h"

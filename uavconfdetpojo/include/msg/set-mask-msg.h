@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks the device to change the state of its mask.
-MESSAGE(SetMaskMsg, m_setMaskMsg, SET_MASK, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(SetMaskMsg, m_setMaskMsg, SET_MASK)
+
+#include "macros-off.h"

@@ -5,7 +5,11 @@
 
 #include <vector>
 
-/// Asks the device to mask the named bands.
-#define SET_MASK_RANGES_MSG_FIELDS(FIELD) FIELD(std::vector<MasterFreqModeEnum>, maskedModes, MaskedModes)
+#include "macros-on.h"
 
-MESSAGE(SetMaskRangesMsg, m_setMaskRangesMsg, SET_MASK_RANGES, SET_MASK_RANGES_MSG_FIELDS)
+/// Asks the device to mask the named bands.
+#define FIELDS(FIELD) FIELD(std::vector<MasterFreqModeEnum>, maskedModes, MaskedModes)
+
+MESSAGE(SetMaskRangesMsg, m_setMaskRangesMsg, SET_MASK_RANGES)
+
+#include "macros-off.h"

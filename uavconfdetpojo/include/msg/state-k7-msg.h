@@ -4,12 +4,16 @@
 
 #include <string>
 
+#include "macros-on.h"
+
 /// The state of the Bluetooth link.
 ///
 /// - `btConnect`: a peer is connected
 /// - `btMac`: address in the text form of the device
-#define STATE_K7_MSG_FIELDS(FIELD)    \
+#define FIELDS(FIELD)                 \
     FIELD(bool, btConnect, BtConnect) \
     FIELD(std::string, btMac, BtMac)
 
-MESSAGE(StateK7Msg, m_stateK7Msg, STATE_K7, STATE_K7_MSG_FIELDS)
+MESSAGE(StateK7Msg, m_stateK7Msg, STATE_K7)
+
+#include "macros-off.h"

@@ -7,6 +7,8 @@
 #include <map>
 #include <memory>
 
+#include "macros-on.h"
+
 using StateRanges = std::map<MasterFreqModeEnum, std::shared_ptr<StateRange>>;
 
 /// Battery and boot state; the proof that a device is there.
@@ -14,10 +16,12 @@ using StateRanges = std::map<MasterFreqModeEnum, std::shared_ptr<StateRange>>;
 /// - `battLvl`: battery charge in percent
 /// - `battVoltage`: battery voltage in volts
 /// - `bootload`: the device runs its boot loader
-#define STATE_MSG_FIELDS(FIELD)            \
+#define FIELDS(FIELD)                      \
     FIELD(int, battLvl, BattLvl)           \
     FIELD(float, battVoltage, BattVoltage) \
     FIELD(bool, bootload, Bootload)        \
     FIELD(StateRanges, stateRanges, StateRanges)
 
-MESSAGE(StateMsg, m_stateMsg, STATE, STATE_MSG_FIELDS)
+MESSAGE(StateMsg, m_stateMsg, STATE)
+
+#include "macros-off.h"

@@ -1,22 +1,23 @@
 #include "msg/all-messages.h"
 
-namespace {
-
 struct NoRequest {};
 
-template <typename Request>
-std::shared_ptr<Msg> makeRequest() {
-    return std::make_shared<Request>();
-}
+namespace {
 
-template <>
-std::shared_ptr<Msg> makeRequest<NoRequest>() {
-    return nullptr;
-}
+struct Rows {
+    template <typename Message, typename Request>
+    static _MsgTypeEnumBase row(const char *name, ProtoEnum since) {
+        return {name, since, Message::parseJson, request(static_cast<Request *>(nullptr)), Message::fromJson};
+    }
+
+private:
+    template <typename Request>
+    static std::shared_ptr<Msg> request(const Request *) {
+        return std::make_shared<Request>();
+    }
+    static std::shared_ptr<Msg> request(const NoRequest *) { return nullptr; }
+};
 
 } // namespace
 
-#define TABLE_ROW(NAME, since, Class, Request) \
-    {#NAME, ProtoEnum::since, Class::parseJson, makeRequest<Request>(), Class::fromJson},
-
-const std::array<_MsgTypeEnumBase, 50> MsgTypeEnum_values = {{MESSAGE_TYPES(TABLE_ROW)}};
+const std::array<_MsgTypeEnumBase, 50> MsgTypeEnum_values = rowsOfMsgType<Rows>();

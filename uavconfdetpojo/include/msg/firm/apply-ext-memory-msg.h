@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Makes what was written to the external memory take effect.
-MESSAGE(ApplyExtMemoryMsg, m_applyExtMemoryMsg, APPLY_EXT_MEM, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(ApplyExtMemoryMsg, m_applyExtMemoryMsg, APPLY_EXT_MEM)
+
+#include "macros-off.h"

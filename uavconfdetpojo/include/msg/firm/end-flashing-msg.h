@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Closes the loading.
-MESSAGE(EndFlashingMsg, m_endFlashingMsg, END_FLASHING, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(EndFlashingMsg, m_endFlashingMsg, END_FLASHING)
+
+#include "macros-off.h"

@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Asks for VERS.
-MESSAGE(GetVersMsg, m_getVersMsg, GET_VERS, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(GetVersMsg, m_getVersMsg, GET_VERS)
+
+#include "macros-off.h"

@@ -4,7 +4,11 @@
 
 #include <string>
 
-/// Writes the factory data of the device.
-#define SET_FACTORY_MSG_FIELDS(FIELD) FIELD(std::string, serial, Serial)
+#include "macros-on.h"
 
-MESSAGE(SetFactoryMsg, m_setFactoryMsg, SET_FACTORY, SET_FACTORY_MSG_FIELDS)
+/// Writes the factory data of the device.
+#define FIELDS(FIELD) FIELD(std::string, serial, Serial)
+
+MESSAGE(SetFactoryMsg, m_setFactoryMsg, SET_FACTORY)
+
+#include "macros-off.h"

@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Switches the device off.
-MESSAGE(ShutdownMsg, m_shutdownMsg, SHUTDOWN, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(ShutdownMsg, m_shutdownMsg, SHUTDOWN)
+
+#include "macros-off.h"

@@ -4,9 +4,13 @@
 
 #include <string>
 
+#include "macros-on.h"
+
 /// Opens the loading of a firmware image.
 ///
 /// - `md5File`: MD5 digest of the image, as text
-#define START_FLASHING_FIELDS(FIELD) FIELD(std::string, md5File, Md5File)
+#define FIELDS(FIELD) FIELD(std::string, md5File, Md5File)
 
-MESSAGE(StartFlashing, m_startFlashing, START_FLASHING, START_FLASHING_FIELDS)
+MESSAGE(StartFlashing, m_startFlashing, START_FLASHING)
+
+#include "macros-off.h"

@@ -2,10 +2,14 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Drives the signalling outputs for a test.
-#define TEST_OUTS_MSG_FIELDS(FIELD) \
-    FIELD(bool, led, Led)           \
-    FIELD(bool, vibro, Vibro)       \
+#define FIELDS(FIELD)         \
+    FIELD(bool, led, Led)     \
+    FIELD(bool, vibro, Vibro) \
     FIELD(bool, snd, Snd)
 
-MESSAGE(TestOutsMsg, m_testOutsMsg, TEST_OUTS, TEST_OUTS_MSG_FIELDS)
+MESSAGE(TestOutsMsg, m_testOutsMsg, TEST_OUTS)
+
+#include "macros-off.h"

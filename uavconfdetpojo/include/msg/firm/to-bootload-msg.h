@@ -2,5 +2,10 @@
 
 #include "msg/msg.h"
 
+#include "macros-on.h"
+
 /// Tells the device to enter its boot loader.
-MESSAGE(ToBootloadMsg, m_toBootloadMsg, TO_BOOTLOAD, NO_FIELDS)
+#define FIELDS(FIELD)
+MESSAGE(ToBootloadMsg, m_toBootloadMsg, TO_BOOTLOAD)
+
+#include "macros-off.h"

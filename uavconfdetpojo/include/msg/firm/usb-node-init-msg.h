@@ -2,7 +2,11 @@
 
 #include "msg/msg.h"
 
-/// Initialises the USB node.
-#define USB_NODE_INIT_MSG_FIELDS(FIELD) FIELD(bool, init, Init)
+#include "macros-on.h"
 
-MESSAGE(UsbNodeInitMsg, m_usbNodeInitMsg, USB_NODE_INIT, USB_NODE_INIT_MSG_FIELDS)
+/// Initialises the USB node.
+#define FIELDS(FIELD) FIELD(bool, init, Init)
+
+MESSAGE(UsbNodeInitMsg, m_usbNodeInitMsg, USB_NODE_INIT)
+
+#include "macros-off.h"

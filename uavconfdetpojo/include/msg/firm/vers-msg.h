@@ -4,10 +4,14 @@
 
 #include <string>
 
+#include "macros-on.h"
+
 /// The versions of the device.
-#define VERS_MSG_FIELDS(FIELD)         \
+#define FIELDS(FIELD)                  \
     FIELD(std::string, hwVers, HwVers) \
     FIELD(std::string, fwVers, FwVers) \
     FIELD(std::string, bootVers, BootVers)
 
-MESSAGE(VersMsg, m_versMsg, VERS, VERS_MSG_FIELDS)
+MESSAGE(VersMsg, m_versMsg, VERS)
+
+#include "macros-off.h"

@@ -5,11 +5,15 @@
 #include <cstdint>
 #include <string>
 
+#include "macros-on.h"
+
 /// Writes to the external memory of the device.
 ///
 /// - `offset`: position; exact up to 2^53
-#define WRITE_EXT_MEMORY_MSG_FIELDS(FIELD) \
-    FIELD(std::int64_t, offset, Offset)    \
+#define FIELDS(FIELD)                   \
+    FIELD(std::int64_t, offset, Offset) \
     FIELD(std::string, data, Data)
 
-MESSAGE(WriteExtMemoryMsg, m_writeExtMemoryMsg, WRITE_EXT_MEM, WRITE_EXT_MEMORY_MSG_FIELDS)
+MESSAGE(WriteExtMemoryMsg, m_writeExtMemoryMsg, WRITE_EXT_MEM)
+
+#include "macros-off.h"

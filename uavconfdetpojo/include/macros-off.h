@@ -1,0 +1,20 @@
+// Ends what macros-on.h began.
+
+#undef FIELDS
+#undef FIELD_ACCESSORS
+#undef FIELD_KEY
+#undef FIELD_VISIT
+#undef FIELDS_BODY
+#undef FIELD_BUILDER
+#undef BUILDER_BODY
+#undef NESTED_VALUE
+#undef MESSAGE
+#undef ENUMERATORS
+#undef ENUMERATOR_NAME
+#undef ENUMERATOR_NAME_
+#undef ENUMERATOR_ONE
+#undef ENUMERATOR_ROW
+#undef ENUMERATOR_ROW_
+#undef ENUMERATION_WITHOUT_ROWS
+#undef ENUMERATION
+#undef NAMES_ENUMERATION

@@ -1,0 +1,114 @@
+// Included last by a header that declares a class of the protocol; macros-off.h ends it at the header's end,
+// so that no client sees a macro of ours. Deliberately without a guard. Macros only declare.
+
+// A message or nested value states its fields as FIELDS(FIELD), one FIELD(Type, key, AccessorName) a line, in
+// wire order. A type that holds a comma needs an alias.
+
+#define FIELD_ACCESSORS(Type, key, Name) \
+public:                                  \
+    Type get##Name() const {             \
+        return key;                      \
+    }                                    \
+    void set##Name(Type newValue) {      \
+        initVals.at(Key::key) = true;    \
+        key = std::move(newValue);       \
+    }                                    \
+    void remove##Name() {                \
+        initVals.at(Key::key) = false;   \
+        key = Type();                    \
+    }                                    \
+                                         \
+private:                                 \
+    Type key{};
+
+#define FIELD_KEY(Type, key, Name) key,
+#define FIELD_VISIT(Type, key, Name) visit(#key, self.key, self.initVals.at(Key::key));
+
+#define FIELDS_BODY                                                                           \
+    FIELDS(FIELD_ACCESSORS)                                                                   \
+private:                                                                                      \
+    friend struct FieldAccess;                                                                \
+    template <typename Self, typename Visit>                                                  \
+    static void eachField([[maybe_unused]] Self &self, [[maybe_unused]] const Visit &visit) { \
+        FIELDS(FIELD_VISIT)                                                                   \
+    }                                                                                         \
+    enum class Key { FIELDS(FIELD_KEY) COUNT };                                               \
+    PresenceMap<Key> initVals;
+
+#define FIELD_BUILDER(Type, key, Name)         \
+    auto key(Type newValue) {                  \
+        held().set##Name(std::move(newValue)); \
+        return *this;                          \
+    }
+
+// The body of the builder that holds its value in `member`: one operation per field, each returning a copy of
+// the builder, and `build()`.
+#define BUILDER_BODY(Class, member) \
+public:                             \
+    FIELDS(FIELD_BUILDER)           \
+    Class build() const {           \
+        return member;              \
+    }                               \
+                                    \
+private:                            \
+    Class &held() {                 \
+        return member;              \
+    }                               \
+    Class member;
+
+#define NESTED_VALUE(Class, member)           \
+    class Class : public NestedValue<Class> { \
+        FIELDS_BODY                           \
+    };                                        \
+    class Class##Builder {                    \
+        BUILDER_BODY(Class, member)           \
+    };
+
+#define MESSAGE(Class, member, Type)                           \
+    class Class : public TypedMsg<Class> {                     \
+    public:                                                    \
+        static constexpr MsgTypeEnum TYPE = MsgTypeEnum::Type; \
+        FIELDS_BODY                                            \
+    };                                                         \
+    class Class##Builder {                                     \
+        BUILDER_BODY(Class, member)                            \
+    };
+
+// An enumeration states its enumerators as ENUMERATORS(ENUMERATOR), one ENUMERATOR(NAME, attribute...) a
+// line: the enumerator, which is also its name on the wire, and the further fields of its record.
+// ENUMERATION(Class) declares the enumeration, the table of the records and, for the source file that defines
+// the table, its rows.
+
+#define ENUMERATOR_NAME(...) ENUMERATOR_NAME_(__VA_ARGS__, )
+#define ENUMERATOR_NAME_(NAME, ...) NAME,
+#define ENUMERATOR_ONE(...) +1
+#define ENUMERATOR_ROW(...) ENUMERATOR_ROW_(__VA_ARGS__, )
+#define ENUMERATOR_ROW_(NAME, ...) {#NAME, __VA_ARGS__},
+
+#define ENUMERATION_WITHOUT_ROWS(Class)                                                          \
+    class Class;                                                                                 \
+    enum class _##Class##Enum : int{ENUMERATORS(ENUMERATOR_NAME)};                               \
+    using Class##Enum = _##Class##Enum;                                                          \
+    extern const std::array<_##Class##EnumBase, ENUMERATORS(ENUMERATOR_ONE)> Class##Enum_values; \
+    template <>                                                                                  \
+    struct EnumClassOf<Class##Enum> {                                                            \
+        using type = Class;                                                                      \
+    };
+
+#define ENUMERATION(Class)                                            \
+    ENUMERATION_WITHOUT_ROWS(Class)                                   \
+    template <typename Record>                                        \
+    std::array<Record, ENUMERATORS(ENUMERATOR_ONE)> rowsOf##Class() { \
+        return {{ENUMERATORS(ENUMERATOR_ROW)}};                       \
+    }
+
+// An enumeration that has nothing but its names.
+#define NAMES_ENUMERATION(Class)                                      \
+    struct _##Class##EnumBase {                                       \
+        std::string strValue;                                         \
+    };                                                                \
+    ENUMERATION(Class)                                                \
+    class Class : public EnumClass<Class##Enum, Class##Enum_values> { \
+    public:                                                           \
+        using EnumClass::EnumClass;                                   \
+    };

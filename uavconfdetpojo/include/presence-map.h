@@ -1,0 +1,16 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+/// Which keys of an object are present: one flag a key, without an allocation. `Key` is an enumeration of the
+/// keys that ends with COUNT.
+template <typename Key>
+class PresenceMap {
+public:
+    bool &at(Key key) { return present[static_cast<std::size_t>(key)]; }
+    bool at(Key key) const { return present[static_cast<std::size_t>(key)]; }
+
+private:
+    std::array<bool, static_cast<std::size_t>(Key::COUNT)> present{};
+};

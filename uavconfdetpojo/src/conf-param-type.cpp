@@ -1,4 +1,0 @@
-#include "conf-param-type.h"
-
-const std::array<_ConfParamTypeEnumBase, 3> ConfParamTypeEnum_values = {
-    {{"STRING"}, {"NUMBER"}, {"BOOLEAN"}}};

@@ -1,5 +1,0 @@
-#include "ew-target.h"
-
-#include "define-fields.h"
-
-DEFINE_NESTED_VALUE(EwTarget, EW_TARGET_FIELDS)

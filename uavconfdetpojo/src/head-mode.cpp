@@ -1,3 +1,0 @@
-#include "head-mode.h"
-
-const std::array<_HeadModeEnumBase, 3> HeadModeEnum_values = {{{"OFF"}, {"SOUND"}, {"EW_CONTROL"}}};

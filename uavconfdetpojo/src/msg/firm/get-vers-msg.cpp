@@ -1,5 +1,0 @@
-#include "msg/firm/get-vers-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(GetVersMsg, NO_FIELDS)

@@ -1,5 +1,0 @@
-#include "msg/firm/shutdown-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(ShutdownMsg, NO_FIELDS)

@@ -1,5 +1,0 @@
-#include "msg/firm/start-flashing.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(StartFlashing, START_FLASHING_FIELDS)

@@ -1,5 +1,0 @@
-#include "msg/firm/to-bootload-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(ToBootloadMsg, NO_FIELDS)

@@ -1,5 +1,0 @@
-#include "msg/firm/write-flash-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(WriteFlashMsg, WRITE_FLASH_MSG_FIELDS)

@@ -1,5 +1,0 @@
-#include "msg/freqs-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(FreqsMsg, FREQS_MSG_FIELDS)

@@ -1,5 +1,0 @@
-#include "msg/get-bluetooth-mac-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(GetBluetoothMacMsg, NO_FIELDS)

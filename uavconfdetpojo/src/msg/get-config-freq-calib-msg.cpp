@@ -1,5 +1,0 @@
-#include "msg/get-config-freq-calib-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(GetConfigFreqCalibMsg, NO_FIELDS)

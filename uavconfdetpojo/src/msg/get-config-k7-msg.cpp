@@ -1,5 +1,0 @@
-#include "msg/get-config-k7-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(GetConfigK7Msg, NO_FIELDS)

@@ -1,5 +1,0 @@
-#include "msg/get-ew-hardware-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(GetEwHardwareMsg, NO_FIELDS)

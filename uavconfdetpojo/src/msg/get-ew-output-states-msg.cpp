@@ -1,5 +1,0 @@
-#include "msg/get-ew-output-states-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(GetEwOutputStatesMsg, NO_FIELDS)

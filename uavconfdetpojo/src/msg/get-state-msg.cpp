@@ -1,5 +1,0 @@
-#include "msg/get-state-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(GetStateMsg, NO_FIELDS)

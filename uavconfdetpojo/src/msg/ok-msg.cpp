@@ -1,5 +1,0 @@
-#include "msg/ok-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(OkMsg, OK_MSG_FIELDS)

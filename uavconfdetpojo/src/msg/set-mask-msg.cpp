@@ -1,5 +1,0 @@
-#include "msg/set-mask-msg.h"
-
-#include "define-fields.h"
-
-DEFINE_MESSAGE(SetMaskMsg, NO_FIELDS)

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "field-io.h"
+#include "fields.h"
+#include "msg/msg.h"
+#include "utils.h"
+
+#include <string>
+
+/// The reader and the writer of every class of the protocol, over its fields. A source file instantiates them
+/// for each class.
+
+/// Puts an object together in the written style: each present key on its own line, nothing indented, no byte
+/// behind the closing brace.
+class ObjectWriter {
+public:
+    template <typename T>
+    void field(const char *key, const T &value) {
+        text += first ? "\"" : ",\n\"";
+        first = false;
+        text += key;
+        text += "\" : ";
+        FieldIo<T>::write(text, value);
+    }
+
+    template <typename Object>
+    void fieldsOf(const Object &object) {
+        FieldAccess::each(
+            object,
+            [this](const char *key, const auto &value, bool present) {
+                if (present)
+                    field(key, value);
+            });
+    }
+
+    std::string end() const { return text + "\n}"; }
+
+private:
+    std::string text = "{\n";
+    bool first = true;
+};
+
+/// Fills an object's fields from a JSON object. Each key is looked at on its own: one that fails takes
+/// nothing from the others.
+template <typename Object>
+void readFields(Object &object, const json11::Json &json) {
+    const json11::Json::object &items = json.object_items();
+    FieldAccess::each(object, [&](const char *key, auto &value, bool &present) {
+        using Value = std::decay_t<decltype(value)>;
+        const auto item = items.find(key);
+        if (item == items.end())
+            return;
+        auto read = FieldIo<Value>::read(item->second);
+        if (!read)
+            return;
+        value = std::move(*read);
+        present = true;
+    });
+}
+
+template <typename Value>
+std::shared_ptr<Value> NestedValue<Value>::fromJson(const json11::Json &object) {
+    auto result = std::make_shared<Value>();
+    readFields(*result, object);
+    return result;
+}
+
+template <typename Value>
+std::shared_ptr<Value> NestedValue<Value>::parseJson(const std::string &text) {
+    const auto object = Utils::getObject(text);
+    return object ? fromJson(*object) : nullptr;
+}
+
+template <typename Value>
+std::string NestedValue<Value>::parseMsg() const {
+    ObjectWriter writer;
+    writer.fieldsOf(static_cast<const Value &>(*this));
+    return writer.end();
+}
+
+template <typename Message>
+std::shared_ptr<Message> TypedMsg<Message>::fromJson(const json11::Json &object) {
+    auto result = std::make_shared<Message>();
+    readFields(*result, object);
+    return result;
+}
+
+template <typename Message>
+std::shared_ptr<Msg> TypedMsg<Message>::parseJson(const std::string &text) {
+    const auto object = Utils::getObject(text);
+    return object ? fromJson(*object) : nullptr;
+}
+
+/// On purpose a message ends with its type in any case, present or not.
+template <typename Message>
+std::string TypedMsg<Message>::parseMsg() const {
+    ObjectWriter writer;
+    writer.fieldsOf(static_cast<const Message &>(*this));
+    writer.field("type", getType());
+    return writer.end();
+}
