@@ -1,5 +1,7 @@
 #include "json11.hpp"
 
+#include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -120,6 +122,57 @@ private:
     }
 };
 
+/// By JSON's grammar.
+bool isNumber(std::string_view text) {
+    const auto skipDigits = [&text] {
+        const auto end = std::min(text.find_first_not_of("0123456789"), text.size());
+        text.remove_prefix(end);
+        return end > 0;
+    };
+    const auto skipOne = [&text](const char *of) {
+        const bool found = !text.empty() && std::string_view(of).find(text.front()) != std::string_view::npos;
+        text.remove_prefix(found ? 1 : 0);
+        return found;
+    };
+    skipOne("-");
+    if (!skipOne("0") && !skipDigits())
+        return false;
+    if (skipOne(".") && !skipDigits())
+        return false;
+    if (skipOne("eE")) {
+        skipOne("+-");
+        if (!skipDigits())
+            return false;
+    }
+    return text.empty();
+}
+
+/// The text with every number written anew: the reader refuses some by their length or exponent that are in
+/// range after all. A number beyond the range stays.
+std::string withPlainNumbers(const std::string &in) {
+    std::string out;
+    for (std::size_t i = 0; i < in.size();) {
+        std::size_t end = i + 1;
+        if (in[i] == '"') {
+            while (end < in.size() && in[end] != '"')
+                end += in[end] == '\\' ? 2 : 1;
+            end = std::min(end + 1, in.size());
+        } else if (in[i] == '-' || std::isdigit(static_cast<unsigned char>(in[i]))) {
+            end = std::min(in.find_first_not_of("0123456789+-.eE", i), in.size());
+        }
+        const std::string_view token = std::string_view(in).substr(i, end - i);
+        const double value = isNumber(token) ? toNumber(token.data(), token.size()).number_value() : INFINITY;
+        if (std::isfinite(value)) {
+            appendNumber(out, value);
+            out += value == 0 ? ".0" : ""; // or its sign would be lost
+        } else {
+            out += token;
+        }
+        i = end;
+    }
+    return out;
+}
+
 template <unsigned FLAGS>
 rapidjson::ParseResult read(const std::string &in, Builder &builder) {
     rapidjson::StringStream stream(in.c_str());
@@ -236,9 +289,14 @@ Json Json::parse(const std::string &in, std::string &err, JsonParse strategy) {
         return nullptr;
     }
     Builder builder;
-    const rapidjson::ParseResult result = strategy == JsonParse::COMMENTS
-                                              ? read<rapidjson::kParseCommentsFlag>(in, builder)
-                                              : read<rapidjson::kParseNoFlags>(in, builder);
+    const auto readAll = [&](const std::string &text) {
+        builder = Builder();
+        return strategy == JsonParse::COMMENTS ? read<rapidjson::kParseCommentsFlag>(text, builder)
+                                               : read<rapidjson::kParseNoFlags>(text, builder);
+    };
+    rapidjson::ParseResult result = readAll(in);
+    if (result.Code() == rapidjson::kParseErrorNumberTooBig)
+        result = readAll(withPlainNumbers(in));
     if (result.IsError()) {
         err = result.Code() == rapidjson::kParseErrorTermination ? "nested too deep"
                                                                  : rapidjson::GetParseError_En(result.Code());

@@ -1,6 +1,4 @@
-#include "ai-prior.h"
-#include "master-freq-mode.h"
-#include "proto.h"
+#include "msg/all-messages.h"
 
 #include <gmock/gmock.h>
 
@@ -9,11 +7,64 @@ using testing::IsEmpty;
 using FM = FreqModeEnum;
 using MM = MasterFreqModeEnum;
 
-TEST(Enumerations, NamesLeadBothWaysAndExactly) {
-    for (const FM mode : FreqMode::values())
-        EXPECT_EQ(FreqMode::getEnumValue(FreqMode(mode).name()), mode);
-    for (const char *unknown : {"", "std_2400", "STD_2400 ", "STD_240"})
-        EXPECT_EQ(FreqMode::getEnumValue(unknown), std::nullopt) << unknown;
+namespace {
+
+/// Texts of the enumerators in order, joined by blanks.
+template <typename Class, typename Text>
+std::string each(Text text) {
+    std::string all;
+    for (const auto value : Class::values())
+        all += (all.empty() ? "" : " ") + text(Class(value));
+    return all;
+}
+
+template <typename Class>
+std::string names() {
+    return each<Class>([](const Class &value) {
+        EXPECT_EQ(Class::getEnumValue(value.name()), value.getValue()) << value.name();
+        EXPECT_EQ(Class::getEnumValue(value.name() + " "), std::nullopt) << value.name();
+        return value.name();
+    });
+}
+
+} // namespace
+
+TEST(Enumerations, HaveTheseNamesOnTheWireInThisOrder) {
+    EXPECT_EQ(names<Proto>(), "K1 K6 K7 K7EW");
+    EXPECT_EQ(names<MasterFreqMode>(), "R_1200 R_2400 R_4900 R_5800");
+    EXPECT_EQ(names<FreqMode>(),
+              "STD_1200 EXT_1200 STD_2400 EXT_2400 STD_4900 EXT_4900 STD_5800 EXT_5800 CUSTOM");
+    EXPECT_EQ(names<DetMode>(), "ECO BASE AUTO CONT");
+    EXPECT_EQ(names<SigType>(), "NONE WIFI DIG FPV BLOCK ALL");
+    EXPECT_EQ(names<HeadMode>(), "OFF SOUND EW_CONTROL");
+    EXPECT_EQ(names<AiPrior>(), "AUTO DEFAULT FIELD CITY NONE");
+    EXPECT_EQ(names<EwState>(), "ON OFF DISABLE ERROR");
+    EXPECT_EQ(names<EwActivate>(), "ALWAYS TIMEOUT");
+    EXPECT_EQ(names<ConfParamType>(), "STRING NUMBER BOOLEAN");
+    EXPECT_EQ(
+        names<MsgType>(),
+        "CONFIG GET_CONFIG OK FAIL SCAN_RESULT FREQS STATE GET_STATE CONFIG_RANGES GET_CONFIG_RANGES "
+        "SET_MASK "
+        "SET_MASK_RANGES MASK_RESULT SCAN TO_BOOTLOAD START_FLASHING WRITE_FLASH END_FLASHING SET_FACTORY "
+        "GET_VERS VERS SHUTDOWN TEST_OUTS SDR_MODE SDR_DATA GET_AI_PRIOR AI_PRIOR WRITE_EXT_MEM "
+        "GET_CONFIG_FREQ_CALIB CONFIG_FREQ_CALIB GET_CONFIG_K7 CONFIG_K7 GET_STATE_K7 STATE_K7 TO_APP "
+        "GET_EW_HARDWARE EW_HARDWARE GET_CONFIG_EW CONFIG_EW SWITCH_EW_OUTPUT GET_EW_OUTPUT_STATES "
+        "EW_OUTPUT_STATES GET_FREQ_RANGE_ATTEN FREQ_RANGE_ATTEN AI_MODE AI_DATA GET_BLUETOOTH_MAC "
+        "BLUETOOTH_MAC APPLY_EXT_MEM USB_NODE_INIT");
+    EXPECT_EQ(static_cast<int>(MsgTypeEnum::USB_NODE_INIT), 49);
+    EXPECT_EQ(SigType::getEnumValue("wifi"), std::nullopt);
+}
+
+TEST(Enumerations, HaveTheseNamesForTheUser) {
+    EXPECT_EQ(each<DetMode>([](DetMode mode) { return mode.getName() + "/" + mode.getShortName(); }),
+              "Экономичный/Экон Базовый/Станд Авто/Авто Непрерывный/Непр");
+    EXPECT_EQ(each<AiPrior>([](AiPrior prior) { return prior.getName() + "/" + prior.getShortName(); }),
+              "Автоматический/Авто По умолчанию/Оптим Поле/Поле Город/Город Нет/Нет");
+    EXPECT_EQ(each<MasterFreqMode>([](MasterFreqMode band) { return band.getViewName(); }),
+              "1.2ГГц 2.4ГГц 4.9ГГц 5.8ГГц");
+    EXPECT_EQ(each<FreqMode>([](FreqMode range) { return range.getViewName(); }),
+              "1.2 1.2+ 2.4 2.4+ 4.9 4.9+ 5.8 5.8+ Заданный");
+    EXPECT_EQ(Proto(ProtoEnum::K6).getDesc(), "Kelvane v6 (2.4 4.9 5.8) + AI_priors + SDR_MODE");
 }
 
 TEST(Enumerations, SweepRangesHaveTheirPlans) {
@@ -22,6 +73,7 @@ TEST(Enumerations, SweepRangesHaveTheirPlans) {
         float minFreq, maxFreq, step;
         std::size_t points;
     };
+    int visibleIndex = 0;
     for (const Range &range :
          {Range{FM::STD_1200, 1000, 1680, 10, 69}, Range{FM::EXT_1200, 830, 1730, 10, 91},
           Range{FM::STD_2400, 2400, 2484, 6, 15}, Range{FM::EXT_2400, 2350, 2550, 10, 21},
@@ -32,6 +84,7 @@ TEST(Enumerations, SweepRangesHaveTheirPlans) {
         SCOPED_TRACE(mode.name());
         EXPECT_EQ(mode.getMinFreq(), range.minFreq);
         EXPECT_EQ(mode.getMaxFreq(), range.maxFreq);
+        EXPECT_EQ(mode.getVisibleIndex(), range.mode == FM::CUSTOM ? -1 : visibleIndex++);
         const std::vector<float> plan = mode.getFreqList()->getFreqs();
         ASSERT_EQ(plan.size(), range.points);
         for (std::size_t i = 0; i < plan.size(); ++i)
@@ -39,18 +92,56 @@ TEST(Enumerations, SweepRangesHaveTheirPlans) {
     }
 }
 
-TEST(Enumerations, OldGenerationsLackTheLowestBandAndTheOldestTheAiModes) {
+TEST(Enumerations, GenerationsHaveTheirBandsRangesAndAiModes) {
     for (const Proto proto : Proto::values()) {
         SCOPED_TRACE(proto.name());
         const bool old = proto.getValue() < ProtoEnum::K7;
-        EXPECT_EQ(proto.getMasterModes().front(), old ? MM::R_2400 : MM::R_1200);
-        EXPECT_EQ(proto.getMasterModes().back(), MM::R_5800);
-        EXPECT_EQ(proto.getFreqModes().front(), old ? FM::STD_2400 : FM::STD_1200);
-        EXPECT_EQ(proto.getFreqModes().back(), FM::EXT_5800) << "CUSTOM belongs to no generation";
+        EXPECT_EQ(proto.getMasterModes(),
+                  old ? std::vector<MM>({MM::R_2400, MM::R_4900, MM::R_5800}) : MasterFreqMode::values());
+        std::vector<FM> ranges;
+        for (const MM band : proto.getMasterModes())
+            for (const FM range : MasterFreqMode(band).getModes())
+                ranges.push_back(range);
+        EXPECT_EQ(proto.getFreqModes(), ranges) << "CUSTOM belongs to no generation";
         if (proto.getValue() == ProtoEnum::K1)
             EXPECT_THAT(proto.getAiPriors(), IsEmpty());
         else
             EXPECT_THAT(proto.getAiPriors(),
                         ElementsAre(AiPriorEnum::DEFAULT, AiPriorEnum::FIELD, AiPriorEnum::CITY));
     }
+    EXPECT_THAT(MasterFreqMode(MM::R_1200).getModes(), ElementsAre(FM::STD_1200, FM::EXT_1200));
+    EXPECT_THAT(MasterFreqMode(MM::R_5800).getModes(), ElementsAre(FM::STD_5800, FM::EXT_5800));
+    EXPECT_EQ(
+        each<MasterFreqMode>([](MasterFreqMode band) { return FreqMode(band.getMaxRangeFreqMode()).name(); }),
+        "EXT_1200 EXT_2400 EXT_4900 EXT_5800");
+}
+
+TEST(Enumerations, MessageTypesKnowTheirGenerationClassAndRequest) {
+    const auto ofGeneration = [](ProtoEnum since) {
+        std::string all;
+        for (const MsgType type : MsgType::values())
+            all += type.getSinceProto() == since ? type.name() + " " : "";
+        return all;
+    };
+    EXPECT_EQ(ofGeneration(ProtoEnum::K6), "SDR_MODE SDR_DATA GET_AI_PRIOR AI_PRIOR ");
+    EXPECT_EQ(ofGeneration(ProtoEnum::K7),
+              "SET_MASK_RANGES WRITE_EXT_MEM GET_CONFIG_FREQ_CALIB CONFIG_FREQ_CALIB "
+              "GET_CONFIG_K7 CONFIG_K7 GET_STATE_K7 STATE_K7 TO_APP ");
+    EXPECT_EQ(ofGeneration(ProtoEnum::K7EW),
+              "GET_EW_HARDWARE EW_HARDWARE GET_CONFIG_EW CONFIG_EW SWITCH_EW_OUTPUT GET_EW_OUTPUT_STATES "
+              "EW_OUTPUT_STATES GET_FREQ_RANGE_ATTEN FREQ_RANGE_ATTEN AI_MODE AI_DATA GET_BLUETOOTH_MAC "
+              "BLUETOOTH_MAC APPLY_EXT_MEM ");
+    std::string requests;
+    for (const MsgType type : MsgType::values()) {
+        const auto request = type.getRequestMsg();
+        EXPECT_EQ(request, type.getRequestMsg()) << "one request, shared by all";
+        if (request)
+            requests += MsgType(request->getType()).name() + " ";
+        EXPECT_EQ(MsgType::getParseFunc(type.getValue())("{}")->getType(), type.getValue());
+        EXPECT_EQ(MsgType::getParseFunc(type.getValue())("[]"), nullptr);
+    }
+    EXPECT_EQ(requests, "GET_CONFIG GET_STATE GET_CONFIG_RANGES GET_VERS GET_AI_PRIOR GET_CONFIG_FREQ_CALIB "
+                        "GET_CONFIG_K7 GET_STATE_K7 GET_EW_HARDWARE GET_CONFIG_EW GET_EW_OUTPUT_STATES "
+                        "GET_BLUETOOTH_MAC ")
+        << "nothing asks for FREQ_RANGE_ATTEN";
 }

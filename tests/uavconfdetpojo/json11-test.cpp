@@ -51,6 +51,16 @@ TEST(Json11, Limits) {
     EXPECT_TRUE(Json::parse(std::string(200, '[') + "1" + std::string(200, ']'), err).is_array());
     EXPECT_TRUE(Json::parse(std::string(201, '[') + "1" + std::string(201, ']'), err).is_null());
     EXPECT_NE(err, "");
+    // In range however they are written, beside one that is not.
+    err.clear();
+    const std::string longOne = "1" + std::string(400, '0') + "e-300";
+    EXPECT_EQ(Json::parse("[0e999, -0e999, " + longOne + ", \"0e999\\\"\"]", err).dump(),
+              "[0, -0, " + Json(1e100).dump() + ", \"0e999\\\"\"]");
+    EXPECT_EQ(err, "");
+    for (const char *text : {"[1e999, 0e999]", "[01, 0e999]", "[0e999, 1.]"}) {
+        err.clear();
+        EXPECT_TRUE(Json::parse(text, err).is_null() && !err.empty()) << text;
+    }
     EXPECT_EQ(Json(std::numeric_limits<double>::infinity()).dump(), "null");
     EXPECT_EQ(Json(std::nan("")).int_value(), 0);
     const std::pair<double, int> ints[] = {{-3.9, -3}, {2147483648, 2147483647}, {-1e300, -2147483647 - 1}};

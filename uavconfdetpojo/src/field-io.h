@@ -1,5 +1,6 @@
 #pragma once
 
+#include "classic-locale.h"
 #include "enum-class.h"
 
 #include <algorithm>
@@ -173,10 +174,12 @@ struct FieldIo<std::map<std::string, std::any>> {
         writeMap(
             out, map, FieldIo<std::string>::write,
             [](std::string &text, const std::any &value) {
-                if (const auto *json = std::any_cast<json11::Json>(&value))
+                if (const auto *json = std::any_cast<json11::Json>(&value)) {
+                    const ClassicLocale pinned;
                     text += json->dump();
-                else
+                } else {
                     std::cout << "bad any cast" << std::endl;
+                }
             });
     }
 };

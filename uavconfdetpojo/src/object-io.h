@@ -41,9 +41,9 @@ private:
 };
 
 /// Fills an object's fields from a JSON object. Each key is looked at on its own: one that fails takes
-/// nothing from the others.
-template <typename Object>
-void readFields(Object &object, const json11::Json &json) {
+/// nothing from the others. `afterwards` is called with each value that was read.
+template <typename Object, typename Afterwards>
+void readFields(Object &object, const json11::Json &json, Afterwards afterwards) {
     const json11::Json::object &items = json.object_items();
     FieldAccess::each(object, [&](const char *key, auto &value, bool &present) {
         using Value = std::decay_t<decltype(value)>;
@@ -53,22 +53,65 @@ void readFields(Object &object, const json11::Json &json) {
         auto read = FieldIo<Value>::read(item->second);
         if (!read)
             return;
+        afterwards(*read);
         value = std::move(*read);
         present = true;
     });
 }
 
+/// A zero inside a nested value has no sign; in a message's own fields it keeps it.
+struct UnsignZeros {
+    template <typename T>
+    void operator()(T &value) const {
+        if constexpr (std::is_floating_point_v<T>)
+            value += 0; // -0.0 + 0 is 0
+    }
+    template <typename T>
+    void operator()(std::vector<T> &list) const {
+        for (T &element : list)
+            (*this)(element);
+    }
+    void operator()(std::map<std::string, std::any> &values) const {
+        for (auto &[name, value] : values)
+            if (auto *json = std::any_cast<json11::Json>(&value))
+                *json = unsigned_(*json);
+    }
+
+private:
+    static json11::Json unsigned_(const json11::Json &json) {
+        if (json.is_number() && json.number_value() == 0)
+            return 0;
+        if (json.is_array()) {
+            json11::Json::array items = json.array_items();
+            for (json11::Json &item : items)
+                item = unsigned_(item);
+            return items;
+        }
+        if (json.is_object()) {
+            json11::Json::object items = json.object_items();
+            for (auto &[key, item] : items)
+                item = unsigned_(item);
+            return items;
+        }
+        return json;
+    }
+};
+
 template <typename Value>
 std::shared_ptr<Value> NestedValue<Value>::fromJson(const json11::Json &object) {
     auto result = std::make_shared<Value>();
-    readFields(*result, object);
+    readFields(*result, object, UnsignZeros());
     return result;
 }
 
 template <typename Value>
 std::shared_ptr<Value> NestedValue<Value>::parseJson(const std::string &text) {
     const auto object = Utils::getObject(text);
-    return object ? fromJson(*object) : nullptr;
+    if (!object)
+        return nullptr;
+    auto result = std::make_shared<Value>();
+    readFields(*result, *object, [](const auto &) {});
+    return result;
 }
 
 template <typename Value>
@@ -81,7 +124,7 @@ std::string NestedValue<Value>::parseMsg() const {
 template <typename Message>
 std::shared_ptr<Message> TypedMsg<Message>::fromJson(const json11::Json &object) {
     auto result = std::make_shared<Message>();
-    readFields(*result, object);
+    readFields(*result, object, [](const auto &) {});
     return result;
 }
 

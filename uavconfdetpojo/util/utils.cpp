@@ -1,5 +1,6 @@
 #include "utils.h"
 
+#include "classic-locale.h"
 #include "field-io.h"
 
 using json11::Json;
@@ -15,6 +16,7 @@ std::optional<T> field(const std::string &key, const Json::object &items) {
 } // namespace
 
 std::optional<Json> Utils::getObject(const std::string &text) {
+    const ClassicLocale pinned;
     std::string error;
     Json json = Json::parse(text, error);
     return json.is_object() ? std::optional(std::move(json)) : std::nullopt;

@@ -1,15 +1,19 @@
+#include "comma-locale.h"
 #include "msg-to-json-parser.h"
 #include "msg/all-messages.h"
 #include "utils.h"
 #include "wire-text.h"
 
+#include <any>
 #include <cmath>
 #include <gmock/gmock.h>
+#include <json11.hpp>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using MM = MasterFreqModeEnum;
 
-TEST(Msg, TextThatIsNoKnownMessageGivesNull) {
+TEST(Message, TextThatIsNoKnownMessageGivesNull) {
     for (const char *text :
          {"", "[]", "{}", R"([{"type":"OK"}])", R"({"type":5})", R"({"type":"config"})",
           R"({"type":"OK"}{"type":"OK"})", R"({"type":"OK",})", R"({"type":"OK"/**/})", R"({"type":"OK")"})
@@ -19,7 +23,7 @@ TEST(Msg, TextThatIsNoKnownMessageGivesNull) {
 
 /// What stands in a message of the type, and what of it is written again: a field that the reader left absent
 /// is not.
-TEST(Msg, ReaderTakesEachFieldByItsOwnRule) {
+TEST(Message, ReaderTakesEachFieldByItsOwnRule) {
     struct Case {
         std::string type;
         std::string read;
@@ -53,6 +57,16 @@ TEST(Msg, ReaderTakesEachFieldByItsOwnRule) {
              Case{"WRITE_EXT_MEM", R"("offset":9223372036854775808)", R"("offset" : )" + most + ",|"},
              Case{"WRITE_EXT_MEM", R"("offset":-1e300)", R"("offset" : )" + least + ",|"},
              Case{"TO_BOOTLOAD", R"("led":true)", ""},
+             Case{"CONFIG", R"("atten":99999999999,"indLedLvl":-99999999999)",
+                  R"("indLedLvl" : -2147483648,|"atten" : 2147483647,|)"},
+             // A zero keeps its sign in a message's own fields and has none inside a nested value.
+             Case{"STATE", R"("battVoltage":-0.0)", R"("battVoltage" : -0.000000,|)"},
+             Case{"FREQS", R"("freqList":{"freqs":[-0.0,-1]})",
+                  R"("freqList" : {|"freqs" : [|0.000000,|-1.000000|]|},|)"},
+             Case{"SCAN_RESULT", R"("freqs":[{"rssi":-0.0}])", R"("freqs" : [|{|"rssi" : 0.000000|}|],|)"},
+             Case{"CONFIG_EW", R"("targets":[{"ewOutConf":{"a":[-0.0,{"b":-0.0}]}}])",
+                  R"("targets" : [|{|"ewOutConf" : {"a":[0, {"b": 0}]}|}|],|)"},
+             Case{"SWITCH_EW_OUTPUT", R"("conf":{"a":-0.0})", R"("conf" : {"a":-0},|)"},
          }) {
         const std::string type = '"' + c.type + '"';
         const std::string written = wire("{|" + c.written + R"("type" : )" + type + "|}");
@@ -62,17 +76,19 @@ TEST(Msg, ReaderTakesEachFieldByItsOwnRule) {
     }
 }
 
-TEST(Msg, GettersGiveWhatWasRead) {
+TEST(Message, GettersGiveWhatWasRead) {
     const auto read = AiDataMsg::parseJson(R"({"type":"OK","freqMHz":2400.5,"ai_res":"DIG","data":[1,2]})");
     EXPECT_EQ(read->getType(), MsgTypeEnum::AI_DATA) << "the class's own reader does not ask for the type";
-    const auto data = std::static_pointer_cast<AiDataMsg>(read);
+    const auto data = messageCast<AiDataMsg>(read);
+    EXPECT_EQ(messageCast<AiModeMsg>(read), nullptr);
+    EXPECT_EQ(messageCast<AiModeMsg>(nullptr), nullptr);
     EXPECT_EQ(data->getFreqMHz(), 2400.5f);
     EXPECT_EQ(data->getAi_res(), SigTypeEnum::DIG);
     EXPECT_THAT(data->getData(), ElementsAre(1, 2));
     EXPECT_EQ(FreqScanResult::parseJson("[]"), nullptr);
 }
 
-TEST(Msg, SetterMarksAndRemoverUnmarks) {
+TEST(Message, SetterMarksAndRemoverUnmarks) {
     ConfigMsg config;
     config.setAtten(-3);
     config.setRanges({});
@@ -88,7 +104,7 @@ TEST(Msg, SetterMarksAndRemoverUnmarks) {
     EXPECT_EQ(ok.parseMsg(), wire(R"({|"type" : "CONFIG"|})")) << "a message ends with its type in any case";
 }
 
-TEST(Msg, BuilderOperationsReturnCopies) {
+TEST(Message, BuilderOperationsReturnCopies) {
     ConfigK7MsgBuilder builder;
     const ConfigK7MsgBuilder chained = builder.dispLvl(5).btEn(true);
     EXPECT_EQ(builder.build().parseMsg(), wire(R"({|"dispLvl" : 5,|"type" : "CONFIG_K7"|})"));
@@ -107,4 +123,43 @@ TEST(FreqList, MadeFromAVectorHoldsThePlanButDoesNotWriteIt) {
 TEST(Utils, ListGettersNeedTheirKey) {
     EXPECT_THROW(Utils::getIntVec("data", {}), std::out_of_range);
     EXPECT_EQ(Utils::getDoubleField("data", {{"data", json11::Json(INFINITY)}}), std::nullopt);
+}
+
+TEST(Message, WritesWhatIsNoWholeMessage) {
+    EXPECT_EQ(MsgToJsonParser::toJson(nullptr), "{}");
+    EXPECT_EQ(MsgToJsonParser::toJson(share(MsgBuilder().type(MsgTypeEnum(50)))), "");
+    EXPECT_EQ(MsgToJsonParser::toJson(share(MsgBuilder().type(MsgTypeEnum(-1)))), "");
+    // The application sends its requests as the base part alone.
+    EXPECT_EQ(MsgToJsonParser::toJson(std::make_shared<Msg>(GetConfigMsgBuilder().build())),
+              wire(R"({|"type" : "GET_CONFIG"|})"));
+    EXPECT_EQ(Msg().parseMsg(), wire("{||}"));
+    EXPECT_EQ(MsgBuilder().type(MsgTypeEnum::OK).build().parseMsg(), wire(R"({|"type" : "OK"|})"));
+    EXPECT_EQ(FreqScanResult().parseMsg(), wire("{||}"));
+}
+
+TEST(Message, DoesNotEscapeStrings) {
+    EXPECT_EQ(SetFactoryMsgBuilder().serial("a\"b\\\n").build().parseMsg(),
+              "{\n\"serial\" : \"a\"b\\\n\",\n\"type\" : \"SET_FACTORY\"\n}");
+}
+
+TEST(Message, NullPointersLeaveTheirPlaceEmpty) {
+    EXPECT_EQ(ScanResultMsgBuilder().freqs({nullptr, share(FreqScanResultBuilder())}).build().parseMsg(),
+              wire(R"({|"freqs" : [|,|{||}|],|"type" : "SCAN_RESULT"|})"));
+    EXPECT_EQ(
+        StateMsgBuilder().stateRanges({{MM::R_1200, nullptr}, {MM::R_2400, nullptr}}).build().parseMsg(),
+        wire(R"({|"stateRanges" : {"R_1200":,|"R_2400":},|"type" : "STATE"|})"));
+    EXPECT_EQ(FreqsMsgBuilder().freqList(nullptr).build().parseMsg(),
+              wire(R"({|"freqList" : ,|"type" : "FREQS"|})"));
+}
+
+TEST(Message, ParameterThatIsNoJsonIsWrittenEmptyAndReported) {
+    const ParamValues conf{{"a", 5}, {"b", json11::Json(5)}, {"c", std::any()}};
+    const std::string entries = wire(R"({"a":,|"b":5,|"c":})");
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(SwitchEwOutputMsgBuilder().conf(conf).build().parseMsg(),
+              wire(R"({|"conf" : )") + entries + wire(R"(,|"type" : "SWITCH_EW_OUTPUT"|})"));
+    EXPECT_EQ(EwTargetBuilder().ewOutConf(conf).build().parseMsg(),
+              wire(R"({|"ewOutConf" : )") + entries + "\n}");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "bad any cast\nbad any cast\nbad any cast\nbad any cast\n");
 }
