@@ -1,9 +1,11 @@
 #include "listener-list.h"
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <thread>
 
 using Listener = std::function<void()>;
 
@@ -31,27 +33,32 @@ TEST(ListenerList, ListenersChangeTheListWhileTheyAreCalled) {
                      "ef");
 }
 
-TEST(ListenerListThreads, ARemovedListenerHasEnded) {
+TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
     ListenerList<Listener> list;
-    std::atomic<bool> done{false};
-    const auto fire = [&] {
-        while (!done)
-            list.fire([](const Listener &listener) { listener(); });
-    };
-    std::thread first(fire), second(fire);
-    for (int i = 0; i < 300; ++i) {
-        std::atomic<int> steps{0};
-        const auto listener =
-            std::make_shared<Listener>([&steps] { ++steps, std::this_thread::yield(), ++steps; });
-        list.add(listener);
-        while (steps == 0)
-            std::this_thread::yield();
+    std::atomic<bool> running{false}, removed{false}, ended{false}, again{false};
+    const auto listener = std::make_shared<Listener>([&] {
+        again = ended.load();
+        running = true;
+        // A removal that did not wait would be through long before.
+        for (int i = 0; i < 50 && !removed; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        EXPECT_FALSE(removed);
+        ended = true;
+    });
+    list.add(listener);
+    const auto fire = [&] { list.fire([](const Listener &each) { each(); }); };
+    std::thread firing(fire);
+    while (!running)
+        std::this_thread::yield();
+    std::thread removing([&] {
         list.remove(listener);
-        EXPECT_EQ(steps % 2, 0);
-    }
-    done = true;
-    first.join();
-    second.join();
+        EXPECT_TRUE(ended);
+        removed = true;
+    });
+    firing.join();
+    removing.join();
+    fire();
+    EXPECT_FALSE(again);
 }
 
 TEST(ListenerListThreads, RunningListenersMayRemoveEachOther) {

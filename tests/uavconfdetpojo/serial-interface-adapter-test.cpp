@@ -19,10 +19,8 @@ public:
     void serialClose() override {}
     bool isClosed() override { return false; }
     void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override { onSend(bytes, timeout); }
-    long long getCurrentTimeMs() override { return nowMs; }
 
     std::function<void(buffer_t, std::chrono::milliseconds)> onSend = [](auto, auto) {};
-    long long nowMs = 0;
     Types received;
     const std::shared_ptr<MsgListener> collector = std::make_shared<MsgListener>(
         [this](const std::shared_ptr<Msg> &msg) { received.push_back(msg->getType()); });
@@ -47,70 +45,6 @@ const std::runtime_error BROKEN("broken");
 }
 
 } // namespace
-
-TEST(SerialInterfaceAdapter, MessagesOfAStreamThatIsCutAnywhere) {
-    const std::string stream = OK + "\n" + STATE + "\n" + FAIL + "\n";
-    const std::size_t okEnd = OK.size(), stateEnd = okEnd + 1 + STATE.size();
-    logOf([&] {
-        for (std::size_t one = 0; one <= stream.size(); ++one) {
-            for (std::size_t two = one; two <= stream.size(); ++two) {
-                Link link;
-                link.processNewData(stream.substr(0, one));
-                link.processNewData(stream.substr(one, two - one));
-                link.processNewData(stream.substr(two));
-                Types expected = {MsgTypeEnum::OK, MsgTypeEnum::STATE, MsgTypeEnum::FAIL};
-                const auto cutBehind = [&](std::size_t end) { return one - end <= 1 || two - end <= 1; };
-                if (!cutBehind(okEnd) && !cutBehind(stateEnd)) // its text runs into the next object
-                    expected.erase(expected.begin() + 1);
-                EXPECT_EQ(link.received, expected) << one << " " << two;
-            }
-        }
-    });
-}
-
-TEST(SerialInterfaceAdapter, TheBufferStaysAsLongAsAnObjectIsStarted) {
-    Link link;
-    link.processNewData(OK + "\n{");
-    EXPECT_EQ(link.getRecvBuffer(), OK + "\n{");
-    EXPECT_EQ(logOf([&] { link.processNewData("\"type\":\"STATE\"} {"); }),
-              "[RFD24] received unknown msg: " + STATE + " {\n");
-    logOf([&] { link.processNewData("} noise }"); });
-    EXPECT_EQ(link.getRecvBuffer(), "");
-    link.processNewData("noise }" + OK + "\n");
-    EXPECT_EQ(link.received, (Types{MsgTypeEnum::OK, MsgTypeEnum::OK}));
-}
-
-TEST(SerialInterfaceAdapter, RecoversWhereNoObjectEndsForTooLong) {
-    Link link;
-    link.processNewData("{");
-    link.nowMs += 4000;
-    link.processNewData("\"type\":\"OK\"}{\n22\n");
-    link.nowMs += 5000;
-    EXPECT_EQ(logOf([&] { link.processNewData("4"); }), "");
-    link.nowMs += 1;
-    EXPECT_EQ(logOf([&] { link.processNewData("5"); }),
-              "[RFD24] recvBuffer: \n[DEBUG] [RFD24] |" + OK +
-                  "{\n[DEBUG] [RFD24] |22\n45\n"
-                  "[RFD24] reset recv buffer by LAST_PARSED_TIMEOUT\n[RFD24] reset all recv buffer\n");
-    link.processNewData(OK); // the counter has started anew, too
-    EXPECT_EQ(link.received, (Types{MsgTypeEnum::OK, MsgTypeEnum::OK}));
-}
-
-TEST(SerialInterfaceAdapter, RecoveryKeepsTheNewestObject) {
-    Link link;
-    link.processNewData("{\"a\":{\"b\":1");
-    link.nowMs += 5001;
-    logOf([&] { link.processNewData("}\n{\"type\":\"OK"); });
-    EXPECT_EQ(link.getRecvBuffer(), "{\"type\":\"OK");
-    link.nowMs += 6000; // late, but an end
-    link.processNewData("\"}\n");
-    link.processNewData("{{");
-    link.nowMs += 5001;
-    logOf([&] { link.processNewData("}\n" + STATE); });
-    link.processNewData(FAIL);
-    EXPECT_EQ(link.received, (Types{MsgTypeEnum::OK, MsgTypeEnum::FAIL}))
-        << "complete in the kept text: gone";
-}
 
 TEST(SerialInterfaceAdapter, TransactionTakesMessagesOfTheExpectedTypesOnly) {
     Link link;

@@ -13,7 +13,7 @@ function(extract language variable)
 endfunction()
 
 function(run)
-    execute_process(COMMAND ${ARGV} OUTPUT_VARIABLE output ECHO_OUTPUT_VARIABLE COMMAND_ECHO STDOUT COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND ${ARGV} OUTPUT_VARIABLE output COMMAND_ECHO STDOUT COMMAND_ERROR_IS_FATAL ANY)
     set(output "${output}" PARENT_SCOPE)
 endfunction()
 
@@ -34,3 +34,13 @@ run(${dir}/build/listen)
 if(NOT output STREQUAL expected)
     message(FATAL_ERROR "The page promises:\n${expected}\nThe example says:\n${output}")
 endif()
+
+# No macro of the library's own outlives its headers.
+file(STRINGS ${dir}/installed/include/uavconfdetpojo/macros-on.h ours REGEX "^#define ")
+run(${COMPILER} -std=c++17 -dM -E -I${dir}/installed/include/uavconfdetpojo -x c++ ${dir}/main.cpp)
+foreach(line IN LISTS ours ITEMS "#define FIELDS(" "#define ENUMERATORS(")
+    string(REGEX MATCH "^#define [A-Za-z_]+" macro "${line}")
+    if(output MATCHES "\n${macro}[ (]")
+        message(FATAL_ERROR "A client sees: ${macro}")
+    endif()
+endforeach()

@@ -1,15 +1,25 @@
 #include "log.h"
 
 #include <iostream>
+#include <memory>
 
 namespace {
+
+void toStandardOutput(const std::string &line) {
+    std::cout << line + "\n" << std::flush;
+}
+
+std::shared_ptr<const Log::Sink> &theSink() {
+    static auto sink = std::make_shared<const Log::Sink>(toStandardOutput); // only atomic access
+    return sink;
+}
 
 std::string printTag(const std::string &text) {
     return "[" + text + "] ";
 }
 
-void printLn(const std::string &text) {
-    std::cout << text + "\n" << std::flush;
+void printLn(const std::string &line) {
+    (*std::atomic_load(&theSink()))(line);
 }
 
 } // namespace
@@ -28,4 +38,9 @@ void Log::error(const std::string &tag, const std::string &msg) {
 
 void Log::write(const std::string &tag, const std::string &msg) {
     printLn(printTag(tag) + msg);
+}
+
+void Log::setSink(Sink sink) {
+    auto next = std::make_shared<const Sink>(sink ? std::move(sink) : toStandardOutput);
+    std::atomic_store(&theSink(), std::move(next));
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
-/// Lines "[LEVEL] [tag] text" on standard output, flushed one by one. Any thread may log: a line is written
-/// at once, so that lines do not mix.
+/// Lines "[LEVEL] [tag] text". Any thread may log.
 class Log {
 public:
     static void info(const std::string &tag, const std::string &msg);
@@ -11,4 +11,10 @@ public:
     static void error(const std::string &tag, const std::string &msg);
     /// A line without a level.
     static void write(const std::string &tag, const std::string &msg);
+
+    /// Gets each line, without its end, on the thread that logs it; several threads may log at once.
+    using Sink = std::function<void(const std::string &line)>;
+    /// Sends the lines elsewhere. An empty sink brings back the default: standard output, each line written
+    /// and flushed at once, so that lines do not mix.
+    static void setSink(Sink sink);
 };

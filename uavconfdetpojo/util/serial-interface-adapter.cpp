@@ -5,13 +5,11 @@
 
 #include <algorithm>
 #include <condition_variable>
-#include <limits>
-#include <stdexcept>
 #include <thread>
 
 SerialInterfaceAdapter::SerialInterfaceAdapter()
     : ioLogger(std::make_shared<IoLogger>(logClbck))
-    , lastParsed(SerialInterfaceAdapter::getCurrentTimeMs()) {}
+    , reader(TAG, SerialInterfaceAdapter::getCurrentTimeMs()) {}
 
 std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> msg,
                                                          std::chrono::milliseconds timeout,
@@ -34,7 +32,7 @@ std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> ms
         const std::shared_ptr<void> removal(nullptr, [&](void *) { removeListener(listener); });
         try {
             send(std::move(msg), timeout);
-        } catch (const std::exception *e) {
+        } catch (const std::exception *e) { // On purpose by pointer, here and below: others pass through.
             Log::error(TAG, name + " send ERROR: " + e->what());
         }
         try {
@@ -56,8 +54,8 @@ void SerialInterfaceAdapter::send(std::shared_ptr<Msg> msg) {
 }
 
 buffer_t SerialInterfaceAdapter::getRecvBuffer() {
-    const std::lock_guard lock(bufferMutex);
-    return buffer.toString();
+    const std::lock_guard lock(readerMutex);
+    return reader.bytes();
 }
 
 void SerialInterfaceAdapter::setIoLogger(std::shared_ptr<IoLogger> logger) {
@@ -96,100 +94,31 @@ void SerialInterfaceAdapter::fireMsg(std::shared_ptr<Msg> msg) {
 
 void SerialInterfaceAdapter::fireError(const std::exception *error) {
     onErrorListeners.fire([&](OnErrorListener &listener) { listener.onError(error); });
-    resetBuffer();
+    {
+        const std::lock_guard lock(readerMutex);
+        reader.reset();
+    }
     (*getIoLogger())(std::string("<<<error: ") + error->what() + ">>>\n");
 }
 
 void SerialInterfaceAdapter::processNewData(buffer_t bytes) {
-    std::vector<std::string> frames;
-    bool objectStarted = false;
-    bool wasEmpty = false;
     {
-        const std::lock_guard lock(bufferMutex);
-        if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max() - buffer.size())) {
-            buffer.reset(); // or positions would no longer fit
-            jbc.reset();
-        }
-        wasEmpty = buffer.size() == 0;
-        buffer.write(bytes);
-        const auto ends = jbc.write(bytes);
-        if (!ends.empty()) {
-            const std::string &all = buffer.toString();
-            for (const auto &[first, second] : ends) {
-                // Longer than the object unless it begins the buffer: one that is followed by another in the
-                // same chunk is so made unreadable, while the line end behind it does no harm.
-                frames.push_back(
-                    all.substr(static_cast<std::size_t>(first), static_cast<std::size_t>(second) + 1));
-            }
-            objectStarted = all.find('{', static_cast<std::size_t>(ends.back().second) + 1) != all.npos;
-        }
+        const std::lock_guard lock(readerMutex);
+        reader.write(bytes, getCurrentTimeMs());
     }
-    if (wasEmpty || !frames.empty())
-        lastParsed = getCurrentTimeMs();
     (*getIoLogger())(bytes);
-    if (frames.empty()) {
-        if (!wasEmpty && getCurrentTimeMs() - lastParsed > LAST_PARSED_TIMEOUT)
-            recover();
-        return;
-    }
-    for (const std::string &frame : frames)
-        dispatch(frame);
-    // A started object stays with everything before it, since the counter's positions refer to all of it.
-    if (!objectStarted)
-        resetBuffer();
-}
-
-void SerialInterfaceAdapter::dispatch(const std::string &frame) {
-    std::shared_ptr<Msg> msg;
-    try {
-        msg = Msg::parseJson(frame);
-    } catch (const std::invalid_argument *) {
-        return;
-    }
-    if (msg)
+    const auto next = [this] {
+        const std::lock_guard lock(readerMutex);
+        return reader.next(getCurrentTimeMs());
+    };
+    while (auto msg = next()) // no lock is held while listeners run
         fireMsg(std::move(msg));
-    else
-        Log::write(TAG, "received unknown msg: " + frame);
-}
-
-/// Gives up bytes in which no object ended for too long; keeps the newest object that began on a line of its
-/// own.
-void SerialInterfaceAdapter::recover() {
-    const std::string all = getRecvBuffer();
-    logBuffer("recvBuffer: ", all);
-    Log::write(TAG, "reset recv buffer by LAST_PARSED_TIMEOUT");
-    const auto border = all.rfind("}\n{");
-    resetBuffer();
-    if (border == all.npos) {
-        Log::write(TAG, "reset all recv buffer");
-    } else {
-        const std::string kept = all.substr(border + 2);
-        {
-            const std::lock_guard lock(bufferMutex);
-            buffer.write(kept);
-            jbc.write(kept); // an object that is complete in it is not handed out any more
-        }
-        logBuffer("afterRecvBuffer: ", kept);
-    }
-    lastParsed = getCurrentTimeMs();
-}
-
-void SerialInterfaceAdapter::resetBuffer() {
-    const std::lock_guard lock(bufferMutex);
-    buffer.reset();
-    jbc.reset();
-}
-
-void SerialInterfaceAdapter::logBuffer(const std::string &title, const std::string &all) {
-    Log::write(TAG, title);
-    for (const std::string &piece : split(all, "\n"))
-        Log::debug(TAG, "|" + piece);
 }
 
 void SerialInterfaceAdapter::waitEmptyBuffer() {
     const auto holdsBytes = [this] {
-        const std::lock_guard lock(bufferMutex);
-        return buffer.size() >= 1;
+        const std::lock_guard lock(readerMutex);
+        return !reader.isEmpty();
     };
     while (holdsBytes())
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
@@ -202,13 +131,5 @@ long long SerialInterfaceAdapter::getCurrentTimeMs() {
 
 std::vector<std::string> SerialInterfaceAdapter::split(const std::string &text,
                                                        const std::string &delimiter) {
-    if (delimiter.empty() || text.find(delimiter) == text.npos)
-        return {text};
-    std::vector<std::string> pieces;
-    std::size_t pos = 0;
-    for (std::size_t i = 0; pos < text.size() && (i = text.find(delimiter, pos)) != text.npos;) {
-        pieces.push_back(text.substr(pos, i));
-        pos += pieces.back().size() + delimiter.size();
-    }
-    return pieces;
+    return MessageReader::split(text, delimiter);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "json-brace-counter.h"
 #include "listener-list.h"
+#include "message-reader.h"
 #include "serial-interface.h"
 
 #include <atomic>
@@ -12,8 +12,8 @@
 class SerialInterfaceAdapter : public virtual SerialInterface {
 public:
     static constexpr std::chrono::milliseconds SEND_TIMEOUT{2000};
-    /// So long, in ms, bytes may go on arriving without an object's end before they are given up.
-    static constexpr long long LAST_PARSED_TIMEOUT = 5000;
+    static constexpr long long LAST_PARSED_TIMEOUT = MessageReader::LAST_PARSED_TIMEOUT; ///< ms
+    // No caller today.
     static constexpr bool debugIO = false;
     static constexpr bool rawIO = false;
     static constexpr bool summaryIO = false;
@@ -36,35 +36,27 @@ public:
 
     std::shared_ptr<IoLogger> getIoLogger();
     void fireMsg(std::shared_ptr<Msg> msg);
-    /// Tells the listeners and drops all received bytes.
+    /// Tells the listeners and drops all received bytes. No caller today.
     void fireError(const std::exception *error);
     /// Takes the next bytes from the device, on the reading thread.
     void processNewData(buffer_t bytes);
+    /// No caller today.
     void waitEmptyBuffer();
     /// Wall clock in ms since the epoch.
     virtual long long getCurrentTimeMs();
-    /// For log lines. A piece is as long as the position of its end, so that all but the first run long; what
-    /// stands behind the last delimiter is left out.
+    /// `MessageReader::split`.
     static std::vector<std::string> split(const std::string &text, const std::string &delimiter);
 
 protected:
     const std::string TAG = "RFD24";
 
 private:
-    void dispatch(const std::string &frame);
-    void recover();
-    void resetBuffer();
-    void logBuffer(const std::string &title, const std::string &all);
-
     const IoLogger logClbck = [](const std::string &) {};
     std::shared_ptr<IoLogger> ioLogger; // set by any thread, read by the reading thread: only atomic access
     ListenerList<MsgListener> msgListeners;
     ListenerList<OnErrorListener> onErrorListeners;
     std::atomic<int> trIdHolder{0};
 
-    // Guards `buffer` and `jbc`: the reading thread's, but any thread may ask for the bytes.
-    std::mutex bufferMutex;
-    CharBuffer buffer;
-    JsonBraceCounter jbc; // over the bytes of `buffer`
-    long long lastParsed; // ms; the reading thread's alone
+    std::mutex readerMutex; // guards `reader`: the reading thread's, but any thread may ask for the bytes
+    MessageReader reader;
 };

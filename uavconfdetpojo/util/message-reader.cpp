@@ -1,0 +1,104 @@
+#include "message-reader.h"
+
+#include "log.h"
+
+#include <limits>
+#include <stdexcept>
+
+MessageReader::MessageReader(std::string logTag, long long nowMs)
+    : tag(std::move(logTag))
+    , lastParsed(nowMs) {}
+
+void MessageReader::write(const buffer_t &bytes, long long nowMs) {
+    if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max() - buffer.size()))
+        reset(); // or positions would no longer fit
+    wasEmpty = isEmpty();
+    buffer.write(bytes);
+    const auto ended = jbc.write(bytes);
+    if (wasEmpty || !ended.empty())
+        lastParsed = nowMs;
+    frames.insert(frames.end(), ended.begin(), ended.end());
+    lastEnd = ended.empty() ? -1 : ended.back().second;
+    chunkOpen = true;
+}
+
+std::shared_ptr<Msg> MessageReader::next(long long nowMs) {
+    while (!frames.empty()) {
+        const auto [first, second] = frames.front();
+        frames.pop_front();
+        const std::string &all = orphans > 0 ? orphaned : buffer.toString();
+        orphans -= orphans > 0 ? 1 : 0;
+        // On purpose longer than the object unless it begins the buffer: one that is followed by another in
+        // the same chunk is so made unreadable, while the line end behind it does no harm.
+        const std::string frame =
+            all.substr(static_cast<std::size_t>(first), static_cast<std::size_t>(second) + 1);
+        try {
+            if (auto msg = Msg::parseJson(frame))
+                return msg;
+            Log::write(tag, "received unknown msg: " + frame);
+        } catch (const std::invalid_argument *) { // On purpose by pointer: nothing throws it.
+        }
+    }
+    if (std::exchange(chunkOpen, false))
+        endChunk(nowMs);
+    return nullptr;
+}
+
+void MessageReader::endChunk(long long nowMs) {
+    if (lastEnd == -1) {
+        if (!wasEmpty && nowMs - lastParsed > LAST_PARSED_TIMEOUT) {
+            recover();
+            lastParsed = nowMs;
+        }
+        return;
+    }
+    // A started object stays with everything before it, since the counter's positions refer to all of it.
+    if (bytes().find('{', static_cast<std::size_t>(lastEnd) + 1) == std::string::npos)
+        reset();
+}
+
+/// Keeps the newest object that began on a line of its own. One that is complete already is not handed out.
+void MessageReader::recover() {
+    const std::string all = bytes();
+    logBuffer("recvBuffer: ", all);
+    Log::write(tag, "reset recv buffer by LAST_PARSED_TIMEOUT");
+    const auto border = all.rfind("}\n{");
+    reset();
+    if (border == std::string::npos) {
+        Log::write(tag, "reset all recv buffer");
+        return;
+    }
+    const std::string kept = all.substr(border + 2);
+    buffer.write(kept);
+    jbc.write(kept);
+    logBuffer("afterRecvBuffer: ", kept);
+}
+
+void MessageReader::reset() {
+    if (orphans == 0)
+        orphaned = frames.empty() ? std::string() : buffer.toString();
+    else
+        frames.resize(orphans); // dropped twice while messages wait: the older bytes are kept
+    orphans = frames.size();
+    buffer.reset();
+    jbc.reset();
+    chunkOpen = false;
+}
+
+void MessageReader::logBuffer(const std::string &title, const std::string &all) const {
+    Log::write(tag, title);
+    for (const std::string &piece : split(all, "\n"))
+        Log::debug(tag, "|" + piece);
+}
+
+std::vector<std::string> MessageReader::split(const std::string &text, const std::string &delimiter) {
+    if (delimiter.empty() || text.find(delimiter) == text.npos)
+        return {text};
+    std::vector<std::string> pieces;
+    std::size_t pos = 0;
+    for (std::size_t i = 0; pos < text.size() && (i = text.find(delimiter, pos)) != text.npos;) {
+        pieces.push_back(text.substr(pos, i));
+        pos += pieces.back().size() + delimiter.size();
+    }
+    return pieces;
+}
