@@ -10,6 +10,8 @@ ConfigK7Handler::ConfigK7Handler(QObject *parent)
 #define SETTER(Type, key, Name) MIRRORED_SETTER(ConfigK7Handler, Type, Name)
 CONFIG_K7_PROPERTIES(GETTER)
 CONFIG_K7_PROPERTIES(SETTER)
+#undef GETTER
+#undef SETTER
 
 void ConfigK7Handler::setMode(QString mode) {
     if (const auto known = HeadMode::getEnumValue(mode.toStdString())) {

@@ -11,6 +11,9 @@ ConfigMsgHandler::ConfigMsgHandler(QObject *parent)
 #define NO_SETTER(Type, key, Name)
 CONFIG_PROPERTIES(GETTER, GETTER)
 CONFIG_PROPERTIES(SETTER, NO_SETTER)
+#undef GETTER
+#undef SETTER
+#undef NO_SETTER
 
 void ConfigMsgHandler::setMode(int value) {
     msg->setMode(fromScreen<DetModeEnum>(value));

@@ -40,23 +40,25 @@ private:
     bool first = true;
 };
 
+/// Reads a field where its key is there and its value is of the right kind, else leaves it absent. False if
+/// so.
+template <typename T>
+bool readField(const json11::Json::object &items, const char *key, T &value, bool &present) {
+    const auto item = items.find(key);
+    auto read = item != items.end() ? FieldIo<T>::read(item->second) : std::nullopt;
+    if (!read)
+        return false;
+    value = std::move(*read);
+    return present = true;
+}
+
 /// Fills an object's fields from a JSON object. Each key is looked at on its own: one that fails takes
-/// nothing from the others. `afterwards` is called with each value that was read.
-template <typename Object, typename Afterwards>
-void readFields(Object &object, const json11::Json &json, Afterwards afterwards) {
-    const json11::Json::object &items = json.object_items();
-    FieldAccess::each(object, [&](const char *key, auto &value, bool &present) {
-        using Value = std::decay_t<decltype(value)>;
-        const auto item = items.find(key);
-        if (item == items.end())
-            return;
-        auto read = FieldIo<Value>::read(item->second);
-        if (!read)
-            return;
-        afterwards(*read);
-        value = std::move(*read);
-        present = true;
-    });
+/// nothing from the others.
+template <typename Object>
+void readFields(Object &object, const json11::Json &json) {
+    FieldAccess::each(
+        object, [&items = json.object_items()](const char *key, auto &value,
+                                               bool &present) { readField(items, key, value, present); });
 }
 
 /// A zero inside a nested value has no sign; in a message's own fields it keeps it.
@@ -97,10 +99,21 @@ private:
     }
 };
 
+/// The same for an object inside another one.
+template <typename Object>
+void readNestedFields(Object &object, const json11::Json &json) {
+    FieldAccess::each(
+        object,
+        [&items = json.object_items()](const char *key, auto &value, bool &present) {
+            if (readField(items, key, value, present))
+                UnsignZeros()(value);
+        });
+}
+
 template <typename Value>
 std::shared_ptr<Value> NestedValue<Value>::fromJson(const json11::Json &object) {
     auto result = std::make_shared<Value>();
-    readFields(*result, object, UnsignZeros());
+    readNestedFields(*result, object);
     return result;
 }
 
@@ -110,7 +123,7 @@ std::shared_ptr<Value> NestedValue<Value>::parseJson(const std::string &text) {
     if (!object)
         return nullptr;
     auto result = std::make_shared<Value>();
-    readFields(*result, *object, [](const auto &) {});
+    readFields(*result, *object);
     return result;
 }
 
@@ -124,7 +137,7 @@ std::string NestedValue<Value>::parseMsg() const {
 template <typename Message>
 std::shared_ptr<Message> TypedMsg<Message>::fromJson(const json11::Json &object) {
     auto result = std::make_shared<Message>();
-    readFields(*result, object, [](const auto &) {});
+    readFields(*result, object);
     return result;
 }
 
