@@ -1,11 +1,11 @@
-# Shared by ./run and ./test: installs what is missing and builds. Sourced with the tree's top as the working
+# Shared by ./run, ./test and tools/lint: installs what is missing and builds. Sourced with the tree's top as the working
 # directory.
 
 set -euo pipefail
 
 BUILD_PACKAGES=(
     build-essential cmake ninja-build pkg-config
-    qtbase5-dev qtdeclarative5-dev qtquickcontrols2-5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
+    qtbase5-dev qtdeclarative5-dev qtdeclarative5-dev-tools qtquickcontrols2-5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
     libusb-1.0-0-dev rapidjson-dev libgtest-dev libgmock-dev
 )
 SCREEN_PACKAGES=(
@@ -19,9 +19,15 @@ fail() {
     exit 1
 }
 
+apt_install() {
+    "${as_root[@]}" apt-get update &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
+}
+
 # install_missing PACKAGE...: asks for sudo only when something is missing.
 install_missing() {
-    local package missing=() as_root=()
+    local package missing=()
+    as_root=()
     for package in "$@"; do
         [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)" = installed ] || missing+=("$package")
     done
@@ -31,23 +37,47 @@ install_missing() {
         as_root=(sudo)
     fi
     echo "Installing: ${missing[*]}"
+    logged build/install.log apt_install "${missing[@]}" || fail "Installing failed; build/install.log tells why."
+}
+
+# logged LOG COMMAND...: runs a command with its output in a log; on a terminal its newest line shows meanwhile.
+logged() {
+    local log=$1 running status=0
+    shift
     mkdir -p build
-    {
-        "${as_root[@]}" apt-get update &&
-            "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
-    } >build/install.log 2>&1 || fail "Installing failed; build/install.log tells why."
+    "$@" >"$log" 2>&1 &
+    running=$!
+    while [ -t 1 ] && kill -0 $running 2>/dev/null; do
+        printf '\r\033[K%.*s' "$((${COLUMNS:-80} - 1))" "$(tail -n 1 "$log")"
+        sleep 0.3
+    done
+    wait $running || status=$?
+    [ ! -t 1 ] || printf '\r\033[K'
+    return $status
+}
+
+# because LOG: the first error in a log, with the lines that tell its reason.
+because() {
+    grep -m 1 -A 8 -E '(^|[: ])error:|CMake Error|undefined reference' "$1" >&2 || true
 }
 
 # build PRESET TARGET...
 build() {
-    local preset=$1 log
+    local preset=$1 cache=build/$1/CMakeCache.txt log=build/$1.log
     shift
-    log=build/$preset.log
-    mkdir -p build
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"$log" 2>&1 ||
-        fail "Configuring failed; $log tells why."
-    cmake --build "build/$preset" --target "$@" >"$log" 2>&1 || {
-        grep -m 1 -E '(^|[: ])error:|CMake Error|undefined reference' "$log" >&2 || true
-        fail "Building failed; $log tells why."
+    # A tree that was copied or moved would go on building the old place.
+    if [ -f "$cache" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd -P)" "$cache"; then
+        rm -rf "build/$preset"
+    fi
+    if [ ! -f "build/$preset/build.ninja" ] || [ CMakePresets.json -nt "$cache" ]; then
+        logged "$log" cmake --preset "$preset" || {
+            because "$log"
+            fail "Configuring failed; $log tells all."
+        }
+        touch "$cache"
+    fi
+    logged "$log" cmake --build "build/$preset" --target "$@" || {
+        because "$log"
+        fail "Building failed; $log tells all."
     }
 }

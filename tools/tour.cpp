@@ -212,7 +212,7 @@ private:
         for (QDirIterator it(":/qml", {"*.qml"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
             it.next();
             const QByteArray document = it.fileInfo().baseName().toUtf8();
-            const QString translated = QCoreApplication::translate(document, word.toUtf8());
+            QString translated = QCoreApplication::translate(document, word.toUtf8());
             if (translated != word)
                 return translated;
         }

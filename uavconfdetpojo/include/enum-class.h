@@ -34,6 +34,7 @@ public:
     /// All enumerators in order.
     static std::vector<Enum> values() {
         std::vector<Enum> all;
+        all.reserve(length);
         for (int i = 0; i < length; ++i)
             all.push_back(static_cast<Enum>(i));
         return all;
@@ -48,7 +49,7 @@ public:
     }
 
 protected:
-    /// Raises std::out_of_range for a value that is no enumerator.
+    /// Throws std::out_of_range for a value that is no enumerator.
     const auto &record() const { return Table.at(static_cast<std::size_t>(value)); }
 
 private:
