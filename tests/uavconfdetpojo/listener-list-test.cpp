@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <thread>
+#include <vector>
 
 using Listener = std::function<void()>;
 
@@ -61,23 +62,27 @@ TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
     EXPECT_FALSE(again);
 }
 
-TEST(ListenerListThreads, RunningListenersMayRemoveEachOther) {
-    ListenerList<Listener> list;
-    std::shared_ptr<Listener> pair[2];
-    std::atomic<int> running{0};
-    for (const int self : {0, 1}) {
-        pair[self] = std::make_shared<Listener>([&, self] {
-            for (++running; running < 2;)
-                std::this_thread::yield();
-            list.remove(pair[1 - self]);
-        });
-        list.add(pair[self]);
+TEST(ListenerListThreads, RunningListenersMayRemoveEachOtherInARing) {
+    for (const int count : {2, 3}) {
+        ListenerList<Listener> list;
+        std::vector<std::shared_ptr<Listener>> ring(count);
+        std::atomic<int> running{0};
+        for (int self = 0; self < count; ++self) {
+            ring[self] = std::make_shared<Listener>([&, self] {
+                for (++running; running < count;)
+                    std::this_thread::yield();
+                list.remove(ring[(self + 1) % count]);
+            });
+            list.add(ring[self]);
+        }
+        const auto fireOne = [&](int self) {
+            list.fire([&](const Listener &listener) { &listener == ring[self].get() ? listener() : void(); });
+        };
+        std::vector<std::thread> threads;
+        for (int self = 0; self < count; ++self)
+            threads.emplace_back(fireOne, self);
+        for (std::thread &thread : threads)
+            thread.join();
+        list.fire([](const Listener &) { ADD_FAILURE() << "all are gone"; });
     }
-    const auto fireOne = [&](int self) {
-        list.fire([&](const Listener &listener) { &listener == pair[self].get() ? listener() : void(); });
-    };
-    std::thread other(fireOne, 1);
-    fireOne(0);
-    other.join();
-    list.fire([](const Listener &) { ADD_FAILURE() << "both are gone"; });
 }

@@ -10,6 +10,9 @@ void CharBuffer::write(std::string bytes) {
 }
 
 void CharBuffer::reset() {
+    constexpr std::size_t MUCH = 1 << 16; // what a few scans take is kept for the next ones
+    if (joined.capacity() > MUCH)
+        joined = std::string();
     joined.clear();
     buffer.clear();
     m_size = 0;

@@ -11,6 +11,7 @@ using buffer_t = std::string;
 class CharBuffer {
 public:
     void write(std::string bytes);
+    /// Empties the buffer and gives large memory back.
     void reset();
     int size() const { return m_size; }
     /// All bytes since the last reset; valid until the next call of another operation.

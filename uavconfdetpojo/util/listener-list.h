@@ -22,8 +22,9 @@ public:
     }
 
     /// Once this has returned, the listener is running on no other thread and will not run again, so that
-    /// what it refers to may go. Only where two running listeners remove each other, one of them does not
-    /// wait. Of a listener that was added twice in a row, one stays.
+    /// what it refers to may go. One case apart, which would wait for ever: called from inside a listener, it
+    /// does not wait for a thread that waits itself, directly or through others, for that listener's end. Of
+    /// a listener that was added twice in a row, one stays.
     void remove(std::shared_ptr<Listener> listener) {
         std::unique_lock lock(mutex);
         for (std::size_t i = 0; i < listeners.size(); ++i) {
@@ -34,14 +35,14 @@ public:
             }
         }
         const auto self = std::this_thread::get_id();
-        const bool inside = markRemoving(self, true);
+        markRemoving(self, listener.get());
         changed.wait(lock, [&] {
             return std::none_of(rounds.begin(), rounds.end(), [&](const Round *round) {
                 return round->running == listener.get() && round->thread != self &&
-                       !(inside && round->removing);
+                       !waitsFor(*round, self, rounds.size());
             });
         });
-        markRemoving(self, false);
+        markRemoving(self, nullptr);
     }
 
     /// Calls `call(Listener &)` for each listener in order. An exception of a call ends the round.
@@ -71,7 +72,7 @@ private:
         std::size_t next = 0;
         const Listener *running = nullptr;
         const std::thread::id thread = std::this_thread::get_id();
-        bool removing = false; // its listener waits inside `remove`
+        const Listener *removing = nullptr; // what its thread waits for inside `remove`
     };
 
     class Entry {
@@ -93,17 +94,24 @@ private:
         Round &round;
     };
 
-    /// Whether this thread is in a round. Under the lock.
-    bool markRemoving(std::thread::id self, bool removing) {
-        bool found = false;
-        for (Round *round : rounds) {
-            if (round->thread == self) {
+    /// Tells the others what this thread's rounds wait for. Under the lock, as the next one.
+    void markRemoving(std::thread::id self, const Listener *removing) {
+        for (Round *round : rounds)
+            if (round->thread == self)
                 round->removing = removing;
-                found = true;
-            }
-        }
         changed.notify_all();
-        return found;
+    }
+
+    /// Whether a round's listener cannot end before those of the thread do: it waits for them, directly or
+    /// through others, of which there are at most `links`.
+    bool waitsFor(const Round &round, std::thread::id thread, std::size_t links) const {
+        return round.removing && links > 0 &&
+               std::any_of(
+                   rounds.begin(), rounds.end(),
+                   [&](const Round *other) {
+                       return other->running == round.removing && other->thread != round.thread &&
+                              (other->thread == thread || waitsFor(*other, thread, links - 1));
+                   });
     }
 
     std::mutex mutex; // guards everything below, also what the rounds hold
