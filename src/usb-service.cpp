@@ -1,6 +1,7 @@
 #include "usb-service.h"
 
 #include "common/defaults.h"
+#include "common/strongest-signals.h"
 #include "linux-connector.h"
 #include "log.h"
 #include "msg/ai-prior-msg.h"
@@ -18,7 +19,6 @@
 #include "msg/state-msg.h"
 
 #include <QDebug>
-#include <algorithm>
 
 using std::chrono::milliseconds;
 
@@ -221,25 +221,8 @@ void UsbService::acceptScanResult(const std::shared_ptr<Msg> &msg) {
     const auto freqs = scan->getFreqs();
     if (freqs.empty())
         return;
-    const auto strongest = ScanResultMsgBuilder().freqs(strongestSignals(freqs)).build();
+    const auto strongest = ScanResultMsgBuilder()
+                               .freqs(strongestSignals(freqs, MAX_FREQS_DISPLAYED, MIN_FREQ_DISPLAYED))
+                               .build();
     emit gotMaxFreqs(MsgHolder(std::make_shared<ScanResultMsg>(strongest)));
-}
-
-/// A signal that is not stronger than all of a list that has room left is dropped, not appended: of a falling
-/// run of signals only the first is named.
-UsbService::FreqScanResults UsbService::strongestSignals(const FreqScanResults &scan) {
-    FreqScanResults strongest;
-    strongest.reserve(MAX_FREQS_DISPLAYED + 1);
-    for (const auto &result : scan) {
-        if (!result || result->getRssi() <= MIN_FREQ_DISPLAYED || result->getType() == SigTypeEnum::NONE)
-            continue;
-        const auto weaker = std::find_if(strongest.begin(), strongest.end(), [&](const auto &listed) {
-            return result->getRssi() > listed->getRssi();
-        });
-        if (weaker != strongest.end() || strongest.empty())
-            strongest.insert(weaker, result);
-        if (strongest.size() > MAX_FREQS_DISPLAYED)
-            strongest.pop_back();
-    }
-    return strongest;
 }

@@ -14,8 +14,6 @@
 #include <mutex>
 #include <thread>
 
-class FreqScanResult;
-
 /// The one object through which the screens talk to the device: starts and ends the connection, sends
 /// requests, and turns every message that the device volunteers into a signal.
 ///
@@ -93,8 +91,6 @@ public slots:
     void resetToDefaults(int proto);
 
 private:
-    using FreqScanResults = std::vector<std::shared_ptr<FreqScanResult>>;
-
     void initUsb(bool active);
     void joinConnectionAttempt();
     std::shared_ptr<Msg> request(const std::shared_ptr<Msg> &msg, std::chrono::milliseconds timeout);
@@ -102,7 +98,6 @@ private:
     void sendScan(bool scan);
     void emitFail(const std::shared_ptr<Msg> &msg, const QString &prefix);
     void acceptScanResult(const std::shared_ptr<Msg> &msg);
-    static FreqScanResults strongestSignals(const FreqScanResults &scan);
 
     std::unique_ptr<SerialInterfaceConnector> connector;
     /// The thread of the last connection attempt; touched by the UI thread alone.

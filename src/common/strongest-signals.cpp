@@ -1,0 +1,24 @@
+#include "common/strongest-signals.h"
+
+#include <algorithm>
+
+std::vector<std::shared_ptr<FreqScanResult>>
+strongestSignals(const std::vector<std::shared_ptr<FreqScanResult>> &scan, std::size_t maxCount,
+                 float floor) {
+    std::vector<std::shared_ptr<FreqScanResult>> strongest;
+    strongest.reserve(maxCount + 1);
+    for (const auto &result : scan) {
+        if (!result || result->getRssi() <= floor || result->getType() == SigTypeEnum::NONE)
+            continue;
+        const auto weaker = std::find_if(strongest.begin(), strongest.end(), [&](const auto &listed) {
+            return result->getRssi() > listed->getRssi();
+        });
+        // On purpose: a signal that is stronger than none of the list is not appended, even where there is
+        // room, so that of a run of falling signals, the slope of one transmitter, only the first is named.
+        if (weaker != strongest.end() || strongest.empty())
+            strongest.insert(weaker, result);
+        if (strongest.size() > maxCount)
+            strongest.pop_back();
+    }
+    return strongest;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "freq-scan-result.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+/// The signals to name of a scan, the strongest first: at most `maxCount` of those that have a class and
+/// exceed `floor`, in dB. Of equal levels the one that came first is the stronger.
+std::vector<std::shared_ptr<FreqScanResult>>
+strongestSignals(const std::vector<std::shared_ptr<FreqScanResult>> &scan, std::size_t maxCount, float floor);
