@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scope-guard.h"
 #include "serial-interface.h"
 
 #include <atomic>
@@ -35,8 +36,8 @@ public:
         std::unique_lock lock(busyMutex);
         if (busyCV.wait_for(lock, BUSY_TIMEOUT, [this] { return !busy; })) {
             busy = true;
-            // Also when the transaction raises: the connector must not stay busy.
-            const std::shared_ptr<void> release(nullptr, [this](void *) {
+            // Also when the transaction throws: the connector must not stay busy.
+            const ScopeGuard release([this] {
                 busy = false;
                 busyCV.notify_one();
             });

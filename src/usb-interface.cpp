@@ -1,5 +1,7 @@
 #include "usb-interface.h"
 
+#include "reading-loop.h"
+
 #include <cstdio>
 #include <stdexcept>
 
@@ -10,7 +12,6 @@ constexpr uint16_t PRODUCT_ID = 0xFE0C;
 constexpr unsigned char ENDPOINT_IN = 0x82;
 constexpr unsigned char ENDPOINT_OUT = 0x02;
 constexpr unsigned int READ_TIMEOUT = 100; // ms
-constexpr std::chrono::milliseconds EMPTY_READ_PAUSE{50};
 
 const char *resultText(int code) {
     if (code >= 0)
@@ -93,30 +94,28 @@ bool UsbInterface::claimInterfaces() {
 }
 
 void UsbInterface::startReading() {
-    if (closed)
-        return;
-    if (readingThread && readingThread->joinable())
-        return;
-    readingThread = std::make_unique<std::thread>([this] { listenUsb(); });
+    if (!closed && !readingThread.isStarted())
+        readingThread.start([this] { listenUsb(); });
 }
 
 void UsbInterface::stopReading() {
-    if (readingThread && readingThread->joinable())
-        readingThread->join();
+    readingThread.finish();
 }
 
 void UsbInterface::listenUsb() {
-    while (!closed) {
-        buffer_t bytes(buffer_size, '\0');
-        int actual = 0;
-        const int code = transfer(ENDPOINT_IN, bytes, actual, READ_TIMEOUT);
-        if (code != LIBUSB_ERROR_IO && actual > 0) {
-            bytes.resize(static_cast<std::size_t>(actual));
-            processNewData(std::move(bytes));
-        } else if (code != LIBUSB_ERROR_TIMEOUT) {
-            std::this_thread::sleep_for(EMPTY_READ_PAUSE); // a device that was pulled out answers at once
-        }
-    }
+    readUntil(
+        closed, [this] { return readBlock(); });
+}
+
+bool UsbInterface::readBlock() {
+    buffer_t bytes(buffer_size, '\0');
+    int actual = 0;
+    const int code = transfer(ENDPOINT_IN, bytes, actual, READ_TIMEOUT);
+    if (code == LIBUSB_ERROR_IO || actual <= 0)
+        return false;
+    bytes.resize(static_cast<std::size_t>(actual));
+    processNewData(std::move(bytes));
+    return true;
 }
 
 void UsbInterface::sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) {

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "common/joining-thread.h"
 #include "serial-interface-adapter.h"
 
 #include <atomic>
 #include <chrono>
 #include <libusb.h>
-#include <memory>
 #include <shared_mutex>
-#include <thread>
 
 /// The link to a device by bulk transfers, past the system's serial driver. Calls go in the order `init`,
 /// `openDevice`, `startReading`; all but the transfers belong to one thread.
@@ -48,10 +47,11 @@ private:
     static constexpr std::size_t buffer_size = 512;
 
     bool claimInterfaces();
+    bool readBlock();
 
     libusb_context *cx = nullptr;
     libusb_device_handle *devh = nullptr;
     /// Shared by running transfers; exclusive where `devh` comes or goes.
     std::shared_mutex devhMutex;
-    std::unique_ptr<std::thread> readingThread;
+    JoiningThread readingThread;
 };

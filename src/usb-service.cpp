@@ -54,25 +54,20 @@ UsbService::~UsbService() {
 }
 
 void UsbService::shutDown() {
-    joinConnectionAttempt();
+    connectorThread.finish();
     if (usbActive)
         disconnect();
-}
-
-void UsbService::joinConnectionAttempt() {
-    if (connectorThread && connectorThread->joinable())
-        connectorThread->join();
 }
 
 void UsbService::startUsb() {
-    joinConnectionAttempt();
+    connectorThread.finish();
     if (usbActive)
         disconnect();
-    connectorThread = std::make_shared<std::thread>([this] { initUsb(connector->connectInterface()); });
+    connectorThread.start([this] { initUsb(connector->connectInterface()); });
 }
 
 void UsbService::startTesting() {
-    joinConnectionAttempt();
+    connectorThread.finish();
     if (usbActive)
         return;
     connector->startTesting();
@@ -81,7 +76,7 @@ void UsbService::startTesting() {
 }
 
 void UsbService::disconnect() {
-    joinConnectionAttempt();
+    connectorThread.finish();
     if (usbActive)
         stopScan();
     const bool wasTesting = connector->isTesting();

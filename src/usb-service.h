@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/joining-thread.h"
 #include "msg-holder.h"
 #include "serial-interface-connector.h"
 
@@ -12,7 +13,6 @@
 #include <functional>
 #include <memory>
 #include <mutex>
-#include <thread>
 
 /// The one object through which the screens talk to the device: starts and ends the connection, sends
 /// requests, and turns every message that the device volunteers into a signal.
@@ -92,7 +92,6 @@ public slots:
 
 private:
     void initUsb(bool active);
-    void joinConnectionAttempt();
     std::shared_ptr<Msg> request(const std::shared_ptr<Msg> &msg, std::chrono::milliseconds timeout);
     void sendHeld(const MsgHolder &holder, MsgTypeEnum type, std::chrono::milliseconds timeout);
     void sendScan(bool scan);
@@ -101,7 +100,7 @@ private:
 
     std::unique_ptr<SerialInterfaceConnector> connector;
     /// The thread of the last connection attempt; touched by the UI thread alone.
-    std::shared_ptr<std::thread> connectorThread;
+    JoiningThread connectorThread;
     std::atomic<bool> usbActive{false};
     std::atomic<bool> busy{true};
     std::mutex busyMutex;

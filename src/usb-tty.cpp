@@ -1,5 +1,7 @@
 #include "usb-tty.h"
 
+#include "reading-loop.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -79,29 +81,18 @@ bool UsbTty::openPort() {
 
 void UsbTty::startReading() {
     const std::lock_guard lock(lifecycle);
-    if (!readingThread && !closed)
-        readingThread = std::make_shared<std::thread>([this] { read(); });
+    if (!readingThread.isStarted() && !closed)
+        readingThread.start([this] { readUntil(closed, [this] { return readBlock(); }); });
 }
 
-void UsbTty::read() {
-    while (!closed) {
-        buffer_t bytes(buffer_size, '\0');
-        const auto start = std::chrono::steady_clock::now();
-        const ssize_t count = ::read(port, bytes.data(), bytes.size());
-        if (errno == EINTR || count == 0 || static_cast<std::size_t>(count) > buffer_size) {
-            // A device that was pulled out answers every read at once.
-            if (count <= 0 && std::chrono::steady_clock::now() - start < EMPTY_READ_PAUSE)
-                pauseReading();
-            continue;
-        }
+bool UsbTty::readBlock() {
+    buffer_t bytes(buffer_size, '\0');
+    const ssize_t count = ::read(port, bytes.data(), bytes.size());
+    if (errno != EINTR && count > 0) {
         bytes.resize(static_cast<std::size_t>(count));
         processNewData(std::move(bytes));
     }
-}
-
-void UsbTty::pauseReading() {
-    std::unique_lock lock(pauseMutex);
-    closing.wait_for(lock, EMPTY_READ_PAUSE, [this] { return closed.load(); });
+    return count > 0;
 }
 
 void UsbTty::sendBytes(buffer_t bytes, std::chrono::milliseconds) {
@@ -112,15 +103,8 @@ void UsbTty::sendBytes(buffer_t bytes, std::chrono::milliseconds) {
 
 void UsbTty::serialClose() {
     const std::lock_guard lock(lifecycle);
-    {
-        const std::lock_guard pauseLock(pauseMutex);
-        closed = true;
-    }
-    closing.notify_all();
-    if (readingThread && readingThread->joinable()) {
-        readingThread->join();
-        readingThread.reset();
-    }
+    closed = true;
+    readingThread.finish();
     const std::lock_guard portLock(portMutex);
     if (port >= 0)
         ::close(port.exchange(-1));

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "common/joining-thread.h"
 #include "serial-interface-adapter.h"
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
-#include <memory>
 #include <mutex>
 #include <string>
-#include <thread>
 
 /// The link to a device on a serial terminal.
 ///
@@ -43,23 +41,18 @@ public:
 private:
     static constexpr std::size_t buffer_size = 512;
     static constexpr int MIN_BYTES = 64;
-    static constexpr std::chrono::milliseconds EMPTY_READ_PAUSE{500};
 
-    void read();
-    void pauseReading();
+    bool readBlock();
 
     /// Serialises opening and closing, and guards `portName` and `readingThread`. Held while the reading
     /// thread is joined, so that thread never takes it. Recursive, as opening starts the reading.
     mutable std::recursive_mutex lifecycle;
     std::string portName;
-    std::shared_ptr<std::thread> readingThread;
+    JoiningThread readingThread;
 
     /// Held for a write and for closing or replacing the descriptor, so that no write lands on a descriptor
     /// that was handed out again.
     std::mutex portMutex;
     std::atomic<int> port{-1}; ///< -1 while closed; only changed under both mutexes
     std::atomic<bool> closed{true};
-
-    std::mutex pauseMutex; ///< guards nothing but the wait on `closing`
-    std::condition_variable closing;
 };

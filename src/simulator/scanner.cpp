@@ -45,8 +45,7 @@ Scanner::Scanner(std::shared_ptr<MsgListener> scanCallback)
 
 Scanner::~Scanner() {
     scanActive = false;
-    if (scanner && scanner->joinable())
-        scanner->join();
+    scanner.finish();
 }
 
 void Scanner::changeSettings(const std::function<void()> &change) {
@@ -123,18 +122,17 @@ void Scanner::setMask() {
 
 void Scanner::start() {
     std::printf("starting scan\n");
-    if (scanActive && scanner)
+    if (scanActive)
         return;
-    if (scanner && scanner->joinable())
-        scanner->join();
-    scanActive = true;
-    scanner = std::make_shared<std::thread>([this] { run(); });
+    scanner.finish();
+    scanActive = started = true;
+    scanner.start([this] { run(); });
 }
 
 void Scanner::stop() {
     scanActive = false;
-    if (scanner)
-        scanner->join();
+    if (started)
+        scanner.join();
     std::printf("scanner stopped\n");
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/joining-thread.h"
 #include "msg/ai-prior-msg.h"
 #include "msg/config-msg.h"
 #include "serial-interface.h"
@@ -12,7 +13,6 @@
 #include <memory>
 #include <mutex>
 #include <random>
-#include <thread>
 #include <vector>
 
 /// Makes up the scans of the simulated device, at the pace and in the ranges of its settings, on a thread of
@@ -64,7 +64,8 @@ private:
     std::chrono::milliseconds delay; ///< the scan period
 
     std::atomic<bool> scanActive{false};
-    std::shared_ptr<std::thread> scanner; ///< touched only by `start`, `stop` and the destructor
+    bool started = false; ///< this and the next: touched only by `start`, `stop` and the destructor
+    JoiningThread scanner;
     std::shared_ptr<MsgListener> callback;
 
     std::mutex engineMx; ///< guards `engine`, which a battery request shares with the scanning thread

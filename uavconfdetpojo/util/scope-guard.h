@@ -1,0 +1,17 @@
+#pragma once
+
+#include <utility>
+
+/// Calls a function when its scope is left, by whatever way. The function must not throw.
+template <typename Function>
+class ScopeGuard {
+public:
+    explicit ScopeGuard(Function atEnd)
+        : function(std::move(atEnd)) {}
+    ~ScopeGuard() { function(); }
+    ScopeGuard(const ScopeGuard &) = delete;
+    ScopeGuard &operator=(const ScopeGuard &) = delete;
+
+private:
+    const Function function;
+};
