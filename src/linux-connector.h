@@ -23,8 +23,9 @@ public:
         std::filesystem::path serialDirectory = SERIAL_DIRECTORY, Report reportError = [](const char *) {});
     ~LinuxConnector() override;
 
-    /// Opens one device after the other and asks for its state. The first that answers with a STATE as its
-    /// first message within 100 ms is taken; one that talks of something else meanwhile is passed over.
+    /// Opens one device after the other and asks for its state. The first whose reply within 100 ms is a
+    /// STATE is taken; one that talks of something else meanwhile is passed over. A link that leads nowhere
+    /// ends the search.
     bool connectInterface() override;
     /// Does not interrupt a transaction on another thread, which ends in its time-out.
     void disconnect() override;
@@ -34,7 +35,10 @@ public:
     bool isTesting() override { return test; }
     void addListener(std::shared_ptr<MsgListener> listener) override;
     void removeListener(std::shared_ptr<MsgListener> listener) override;
-    /// The first message of any type is the reply. The simulator answers at once, whatever the time-out.
+    /// On purpose: a message of any type counts as the reply, since the line carries nothing that ties a
+    /// reply to its request, and so a scan that comes first ends the wait. Of several that come before the
+    /// caller is awake the last one is returned. The simulator answers at once, whatever the time-out; null
+    /// where it tells its listeners alone.
     std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg,
                                            std::chrono::milliseconds timeout) override;
 

@@ -5,7 +5,8 @@
 #include <thread>
 
 /// The body of a link's reading thread. `readBlock` waits for bytes for a while, delivers them and tells
-/// whether some came. It goes on after errors, as a link learns only by `closed` that its time is over.
+/// whether some came. On purpose: it goes on after errors, so that a device that was pulled out shows only in
+/// what does not come, until its link is closed.
 template <typename ReadBlock>
 void readUntil(const std::atomic<bool> &closed, ReadBlock readBlock) {
     constexpr std::chrono::milliseconds PAUSE{50};

@@ -5,7 +5,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <memory>
 #include <mutex>
 
@@ -24,35 +23,23 @@ public:
     /// Listeners run on the thread that delivers messages; one that waits for a reply there waits in vain.
     virtual void addListener(std::shared_ptr<MsgListener> listener) = 0;
     virtual void removeListener(std::shared_ptr<MsgListener> listener) = 0;
-    /// One request and the first message after it; null after the time-out.
+    /// One request and a message that comes within the time-out, whatever it answers; null without one.
     virtual std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg,
                                                    std::chrono::milliseconds timeout) = 0;
 
     /// `simpleTransaction` for callers on any thread: a second caller sends its request only when the first
-    /// has its reply or its time-out. Null after the time-out, or if the connector stays busy for
-    /// BUSY_TIMEOUT.
+    /// has its reply or its time-out, however long that takes.
     std::shared_ptr<Msg> busyTransaction(const std::shared_ptr<Msg> &msg, std::chrono::milliseconds timeout) {
-        std::shared_ptr<Msg> result;
-        std::unique_lock lock(busyMutex);
-        if (busyCV.wait_for(lock, BUSY_TIMEOUT, [this] { return !busy; })) {
-            busy = true;
-            // Also when the transaction throws: the connector must not stay busy.
-            const ScopeGuard release([this] {
-                busy = false;
-                busyCV.notify_one();
-            });
-            result = simpleTransaction(msg, timeout);
-        }
-        return result;
+        const std::lock_guard lock(busyMutex);
+        busy = true;
+        const ScopeGuard release([this] { busy = false; });
+        return simpleTransaction(msg, timeout);
     }
 
+    /// A transaction is under way. No caller today.
     bool isBusy() const { return busy; }
 
 private:
-    static constexpr std::chrono::seconds BUSY_TIMEOUT{30};
-
-    /// Held for the length of a whole transaction.
-    std::mutex busyMutex;
-    std::condition_variable busyCV;
+    std::mutex busyMutex; ///< held for the length of a whole transaction
     std::atomic<bool> busy{false};
 };

@@ -8,8 +8,9 @@
 #include <libusb.h>
 #include <shared_mutex>
 
-/// The link to a device by bulk transfers, past the system's serial driver. Calls go in the order `init`,
-/// `openDevice`, `startReading`; all but the transfers belong to one thread.
+/// The link to a device by bulk transfers, past the system's serial driver. No caller today.
+///
+/// Calls go in the order `init`, `openDevice`, `startReading`; all but the transfers belong to one thread.
 class UsbInterface : public SerialInterfaceAdapter {
 public:
     UsbInterface() = default;
@@ -27,9 +28,9 @@ public:
     void stopReading();
     void showDebugInfo() {}
     void serialClose() override;
-    /// Mind the sense: true while a device is open.
+    /// On purpose: true while a device is open, the reverse of its name, which no caller depends on.
     bool isClosed() override;
-    /// Raises std::runtime_error when a block of at most 512 bytes does not get through whole.
+    /// Throws std::runtime_error when a block of at most 512 bytes does not get through whole.
     void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override;
     /// The body of the reading thread.
     void listenUsb();

@@ -102,7 +102,6 @@ void UsbService::initUsb(bool active) {
         if (usbActive)
             connector->removeListener(msgListener);
     }
-    busyCV.notify_one();
     emit busyChanged();
     usbActive = active;
     emit usbStateChanged();

@@ -8,26 +8,25 @@
 #include <QString>
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <mutex>
 
 /// The one object through which the screens talk to the device: starts and ends the connection, sends
 /// requests, and turns every message that the device volunteers into a signal.
 ///
 /// Lives on the UI thread. A slot blocks it for up to the time-outs of its requests. Signals are emitted on
-/// the UI thread, the connector thread, the link's reading thread or the simulator's scanner thread, and
-/// reach the screens by queued delivery.
+/// the thread that brings the message: the connector thread, the link's reading thread and the simulator's
+/// scanner thread reach the screens by queued delivery. What is emitted on the UI thread itself, such as the
+/// simulator's answers to its requests, is delivered directly, inside the call.
 class UsbService : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isUsbActive READ isUsbActive NOTIFY usbStateChanged)
     Q_PROPERTY(bool inTesting READ inTesting NOTIFY testingChanged)
 
 public:
-    /// Reply time of a mask or factory setting. It is short on purpose: these run on the UI thread, and what
-    /// a slower device answers still arrives through `acceptMsg`.
+    /// Reply time of a mask or factory setting. On purpose: far shorter than the others, as these hold up the
+    /// screens, and what a slower device answers still arrives through `acceptMsg`.
     static constexpr std::chrono::milliseconds TIMEOUT{5};
     /// The signals named in `gotMaxFreqs`.
     static constexpr int MAX_FREQS_DISPLAYED = 3;
@@ -45,7 +44,7 @@ public:
     bool isUsbActive() const { return usbActive; }
     /// The simulator plays the device.
     bool inTesting() const { return connector->isTesting(); }
-    /// No connection is ready for requests.
+    /// No connection is ready for requests. No caller today.
     bool isBusy() const { return busy; }
 
     /// Takes a message from the device, on the thread that delivers messages.
@@ -56,7 +55,7 @@ public:
     void shutDown();
 
 signals:
-    void incomingMessage(QString msg);
+    void incomingMessage(QString msg); ///< No caller today.
     void usbStateChanged();
     void busyChanged();
     void testingChanged();
@@ -103,8 +102,6 @@ private:
     JoiningThread connectorThread;
     std::atomic<bool> usbActive{false};
     std::atomic<bool> busy{true};
-    std::mutex busyMutex;
-    std::condition_variable busyCV;
     /// The identity under which the service subscribes to the connector.
     std::shared_ptr<std::function<void(std::shared_ptr<Msg>)>> msgListener;
 };

@@ -17,8 +17,8 @@ bool failed(const char *operation) {
     return false;
 }
 
-/// Bytes come unchanged and one read waits at most a second for them. Signals stay on, and a line feed leaves
-/// as carriage return and line feed, which the devices expect.
+/// Bytes come unchanged and one read waits at most a second for them. On purpose: other than in raw mode
+/// signals stay on, and a line feed leaves as carriage return and line feed, which the devices expect.
 bool setUpLine(int descriptor) {
     termios settings;
     if (tcgetattr(descriptor, &settings) != 0)
@@ -88,6 +88,8 @@ void UsbTty::startReading() {
 bool UsbTty::readBlock() {
     buffer_t bytes(buffer_size, '\0');
     const ssize_t count = ::read(port, bytes.data(), bytes.size());
+    // On purpose: errno counts whatever the read gave, and nothing clears it, so that on a thread that was
+    // once interrupted bytes are dropped until another call fails.
     if (errno != EINTR && count > 0) {
         bytes.resize(static_cast<std::size_t>(count));
         processNewData(std::move(bytes));
@@ -98,7 +100,7 @@ bool UsbTty::readBlock() {
 void UsbTty::sendBytes(buffer_t bytes, std::chrono::milliseconds) {
     const std::lock_guard lock(portMutex);
     if (::write(port, bytes.data(), bytes.size()) < 0)
-        return; // the missing reply tells
+        return;
 }
 
 void UsbTty::serialClose() {

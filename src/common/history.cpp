@@ -34,6 +34,8 @@ void History::correctionHistoryFreqs(const Scan &mmResult) {
 }
 
 void History::addToHistoryLevels(const Scan &mmResult, std::int64_t nowMs) {
+    // On purpose, though `correctionHistoryFreqs` leaves nothing to it: a row that fits no column is not
+    // filed.
     if (historyFreqs.size() != mmResult.size()) {
         Log::info("History", "Skip add to history! mmResult.size():" + std::to_string(mmResult.size()) +
                                  " historyFreqs.length:" + std::to_string(historyFreqs.size()));
@@ -47,7 +49,7 @@ void History::addToHistoryLevels(const Scan &mmResult, std::int64_t nowMs) {
 }
 
 void History::trimToHistoryLen() {
-    // A negative length becomes a huge size here, which never trims.
+    // On purpose: a negative length becomes a huge size here, which never trims.
     const auto maxRows = static_cast<std::uint64_t>(historyLen);
     const std::uint64_t rows = historyLevels.size();
     if (rows > maxRows)

@@ -29,10 +29,11 @@ public:
     History(MasterFreqModeEnum masterMode, int historyLen);
 
     int getHistoryLen() const { return historyLen; }
+    /// No caller today.
     void setHistoryLen(int newLen);
 
     MasterFreqModeEnum getMasterMode() const { return masterMode; }
-    /// The band alone changes; what was recorded stays.
+    /// The band alone changes; what was recorded stays. No caller today.
     void setMasterMode(MasterFreqModeEnum newMode) { masterMode = newMode; }
 
     /// The number of rows.
@@ -43,12 +44,13 @@ public:
     /// The newest scan of the band.
     Scan getFreqScanResults() const { return freqScanResults; }
 
-    /// Forgets the rows; the columns and the newest scan stay.
+    /// Forgets the rows; the columns and the newest scan stay. No caller today.
     void clear() { historyLevels.clear(); }
 
-    /// Adds a row and drops the oldest beyond the length. Columns are told apart by their count alone: a scan
-    /// of another length starts new columns with this one row, a scan of the same length over other
-    /// frequencies is filed under the old ones. `nowMs` is the time of the scan.
+    /// Adds a row and drops the oldest beyond the length; `nowMs` is the time of the scan. On purpose:
+    /// columns are told apart by their count alone, as a device changes its frequencies only with its ranges.
+    /// A scan of another length starts new columns with this one row; a scan of the same length over other
+    /// frequencies is filed under the old ones.
     void acceptScan(Scan mmResult, std::int64_t nowMs = Uptime::getMs());
 
 private:

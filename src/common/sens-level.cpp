@@ -40,8 +40,8 @@ SensLevelEnum SensLevel::next() const {
 }
 
 SensLevelEnum SensLevel::byAtten(int atten) {
-    // UNKNOWN and HIGH have the same attenuation, which is to be read as HIGH: the search begins behind
-    // UNKNOWN.
+    // On purpose: UNKNOWN has the attenuation of HIGH, as which it is read, since the search begins behind
+    // it.
     const auto found = std::find(sens_attens.begin() + 1, sens_attens.end(), atten);
     return found != sens_attens.end() ? static_cast<SensLevelEnum>(found - sens_attens.begin())
                                       : SensLevelEnum::UNKNOWN;

@@ -15,10 +15,11 @@ public:
         : sens(level) {}
 
     int ordinal() const { return static_cast<int>(sens); }
-    /// The word for the user; "???" outside the table, as for `UNKNOWN`.
-    std::string getViewName() const;
+    /// The name for the user; "???" outside the table, as for `UNKNOWN`.
     std::string getEnumName() const;
-    /// The attenuation in the device's steps. Raises std::out_of_range outside the table.
+    /// The word in Russian. No caller today.
+    std::string getViewName() const;
+    /// The attenuation in the device's steps. Throws std::out_of_range outside the table.
     int getAtten() const;
     /// The step that follows, from the highest on to the lowest; never `UNKNOWN`.
     SensLevelEnum next() const;

@@ -21,7 +21,7 @@ struct ScanPlan {
     int fpv = 0;
 
     void setByConfig(const ConfigMsg &config);
-    /// The factors of an AI mode last until the next `setByConfig`.
+    /// On purpose: the factors of an AI mode last until the next `setByConfig` only.
     void setByAiPrior(AiPriorEnum prior);
     /// A made-up scan. About half of its levels are silence, which may have a signal class all the same.
     std::shared_ptr<ScanResultMsg> makeScan(std::default_random_engine &engine) const;

@@ -21,7 +21,6 @@ public:
     ~Scanner();
 
     void setByConfig(const std::shared_ptr<ConfigMsg> &config);
-    /// The factors of an AI mode last until the next `setByConfig`.
     void setByAiPrior(const std::shared_ptr<AiPriorMsg> &prior);
     /// Inverts the mask flag of the scans that follow.
     void setMask();

@@ -70,7 +70,7 @@ std::shared_ptr<Msg> TestService::fireOkMsg(MsgTypeEnum respOn) {
     return fireMsg(std::make_shared<OkMsg>(OkMsgBuilder().respOn(respOn).build()));
 }
 
-/// The answer is "mask set" whatever the flag is now; the flag itself travels in the scans.
+/// On purpose: the answer is "mask set" whatever the flag is now, as the flag itself travels in the scans.
 void TestService::acceptSetMask() {
     if (scanner.isActive())
         scanner.stop();

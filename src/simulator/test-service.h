@@ -23,8 +23,9 @@ public:
     void addListener(std::shared_ptr<MsgListener> listener) { msgListeners.add(std::move(listener)); }
     void removeListener(std::shared_ptr<MsgListener> listener) { msgListeners.remove(std::move(listener)); }
 
-    /// Fires the answer to the listeners. Returns it too for GET_CONFIG, SCAN, GET_CONFIG_K7 and
-    /// GET_AI_PRIOR, and null for all others. SET_MASK takes two seconds, as on a device.
+    /// Fires the answer to the listeners. On purpose: only GET_CONFIG, SCAN, GET_CONFIG_K7 and GET_AI_PRIOR
+    /// return it too, and all others null, as if a device had answered too late. SET_MASK takes two seconds
+    /// on the caller's thread, as on a device.
     std::shared_ptr<Msg> acceptMsg(const std::shared_ptr<Msg> &msg);
 
 private:
