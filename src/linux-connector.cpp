@@ -1,6 +1,7 @@
 #include "linux-connector.h"
 
 #include "msg/get-state-msg.h"
+#include "msg/state-msg.h"
 
 namespace fs = std::filesystem;
 
@@ -40,7 +41,7 @@ bool LinuxConnector::probe(const std::string &devicePath) {
     if (!openPort())
         return false;
     const auto reply = busyTransaction(std::make_shared<GetStateMsg>(), PROBE_TIMEOUT);
-    if (reply && reply->getType() == MsgTypeEnum::STATE)
+    if (messageCast<StateMsg>(reply))
         return true;
     serialClose();
     return false;

@@ -29,10 +29,6 @@ constexpr milliseconds GET_TIMEOUT{100};
 constexpr milliseconds SCAN_TIMEOUT{200};
 constexpr milliseconds SETTING_TIMEOUT{30};
 
-bool isOfType(const std::shared_ptr<Msg> &msg, MsgTypeEnum type) {
-    return msg && msg->getType() == type;
-}
-
 } // namespace
 
 UsbService::UsbService(QObject *parent)
@@ -90,7 +86,7 @@ void UsbService::initUsb(bool active) {
     if (active) {
         busy = false;
         const auto reply = request(std::make_shared<GetConfigMsg>(), CONFIG_TIMEOUT);
-        if (isOfType(reply, MsgTypeEnum::CONFIG))
+        if (messageCast<ConfigMsg>(reply))
             emit gotConfig(MsgHolder(reply));
         connector->addListener(msgListener);
         startScan();
@@ -140,28 +136,26 @@ void UsbService::sendScan(bool scan) {
 }
 
 void UsbService::sendConfig(MsgHolder holder) {
-    sendHeld(holder, MsgTypeEnum::CONFIG, GET_TIMEOUT);
+    if (const auto config = holder.getAs<ConfigMsg>())
+        request(config, GET_TIMEOUT);
 }
 
 void UsbService::sendAiPrior(MsgHolder holder) {
-    sendHeld(holder, MsgTypeEnum::AI_PRIOR, SETTING_TIMEOUT);
+    if (const auto aiPrior = holder.getAs<AiPriorMsg>())
+        request(aiPrior, SETTING_TIMEOUT);
 }
 
 void UsbService::sendConfigK7(MsgHolder holder) {
-    sendHeld(holder, MsgTypeEnum::CONFIG_K7, SETTING_TIMEOUT);
-}
-
-void UsbService::sendHeld(const MsgHolder &holder, MsgTypeEnum type, milliseconds timeout) {
-    if (isOfType(holder.getMsg(), type))
-        request(holder.getMsg(), timeout);
+    if (const auto configK7 = holder.getAs<ConfigK7Msg>())
+        request(configK7, SETTING_TIMEOUT);
 }
 
 bool UsbService::setMask() {
     const auto reply = request(std::make_shared<SetMaskMsg>(), TIMEOUT);
-    if (isOfType(reply, MsgTypeEnum::FAIL))
-        emitFail(reply, "Не удалось установить маску: ");
-    return isOfType(reply, MsgTypeEnum::MASK_RESULT) &&
-           std::static_pointer_cast<MaskResultMsg>(reply)->getMask();
+    if (const auto fail = messageCast<FailMsg>(reply))
+        emitFail(*fail, "Не удалось установить маску: ");
+    const auto result = messageCast<MaskResultMsg>(reply);
+    return result && result->getMask();
 }
 
 void UsbService::resetToDefaults(int proto) {
@@ -169,17 +163,16 @@ void UsbService::resetToDefaults(int proto) {
         const auto reply = request(setting, TIMEOUT);
         if (!reply)
             continue;
-        if (isOfType(reply, MsgTypeEnum::FAIL))
-            emitFail(reply, "Ошибка: ");
+        if (const auto fail = messageCast<FailMsg>(reply))
+            emitFail(*fail, "Ошибка: ");
         else if (const auto readBack = MsgType(setting->getType()).getRequestMsg())
             request(readBack, GET_TIMEOUT);
     }
     sendGetConfig();
 }
 
-void UsbService::emitFail(const std::shared_ptr<Msg> &msg, const QString &prefix) {
-    const auto fail = std::static_pointer_cast<FailMsg>(msg);
-    const QString text = prefix + QString::fromStdString(fail->getFailMsg());
+void UsbService::emitFail(const FailMsg &fail, const QString &prefix) {
+    const QString text = prefix + QString::fromStdString(fail.getFailMsg());
     Log::error("UsbService", text.toStdString());
     emit toast(text);
 }
@@ -192,10 +185,10 @@ void UsbService::acceptMsg(const std::shared_ptr<Msg> &msg) {
         emit gotConfig(MsgHolder(msg));
         break;
     case MsgTypeEnum::SCAN_RESULT:
-        acceptScanResult(msg);
+        acceptScanResult(messageCast<ScanResultMsg>(msg));
         break;
     case MsgTypeEnum::STATE:
-        emit gotBatteryState(std::static_pointer_cast<StateMsg>(msg)->getBattLvl());
+        emit gotBatteryState(messageCast<StateMsg>(msg)->getBattLvl());
         break;
     case MsgTypeEnum::AI_PRIOR:
         emit gotAiPrior(MsgHolder(msg));
@@ -208,9 +201,8 @@ void UsbService::acceptMsg(const std::shared_ptr<Msg> &msg) {
     }
 }
 
-void UsbService::acceptScanResult(const std::shared_ptr<Msg> &msg) {
-    const auto scan = std::static_pointer_cast<ScanResultMsg>(msg);
-    emit gotScanResult(MsgHolder(msg));
+void UsbService::acceptScanResult(const std::shared_ptr<ScanResultMsg> &scan) {
+    emit gotScanResult(MsgHolder(scan));
     emit gotMask(scan->getMask());
     const auto freqs = scan->getFreqs();
     if (freqs.empty())

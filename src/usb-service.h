@@ -12,6 +12,9 @@
 #include <functional>
 #include <memory>
 
+class FailMsg;
+class ScanResultMsg;
+
 /// The one object through which the screens talk to the device: starts and ends the connection, sends
 /// requests, and turns every message that the device volunteers into a signal.
 ///
@@ -92,10 +95,9 @@ public slots:
 private:
     void initUsb(bool active);
     std::shared_ptr<Msg> request(const std::shared_ptr<Msg> &msg, std::chrono::milliseconds timeout);
-    void sendHeld(const MsgHolder &holder, MsgTypeEnum type, std::chrono::milliseconds timeout);
     void sendScan(bool scan);
-    void emitFail(const std::shared_ptr<Msg> &msg, const QString &prefix);
-    void acceptScanResult(const std::shared_ptr<Msg> &msg);
+    void emitFail(const FailMsg &fail, const QString &prefix);
+    void acceptScanResult(const std::shared_ptr<ScanResultMsg> &scan);
 
     std::unique_ptr<SerialInterfaceConnector> connector;
     /// The thread of the last connection attempt; touched by the UI thread alone.

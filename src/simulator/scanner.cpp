@@ -3,9 +3,14 @@
 #include <cstdio>
 #include <thread>
 
-Scanner::Scanner(std::shared_ptr<MsgListener> scanCallback)
+void Scanner::sleep(std::chrono::milliseconds time) {
+    std::this_thread::sleep_for(time);
+}
+
+Scanner::Scanner(std::shared_ptr<MsgListener> scanCallback, Pause betweenScans)
     : engine(std::random_device{}())
-    , callback(std::move(scanCallback)) {}
+    , callback(std::move(scanCallback))
+    , pause(std::move(betweenScans)) {}
 
 Scanner::~Scanner() {
     scanActive = false;
@@ -59,7 +64,7 @@ void Scanner::run() {
         }
         // On purpose: a stop does not cut the pause short, as the simulated device ends its sweep first.
         if (scanActive)
-            std::this_thread::sleep_for(period);
+            pause(period);
     }
 }
 

@@ -5,6 +5,8 @@
 #include "simulator/scan-plan.h"
 
 #include <atomic>
+#include <chrono>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <random>
@@ -16,8 +18,12 @@
 /// thread at a time, never to the callback.
 class Scanner {
 public:
-    /// `callback` receives each scan on the scanning thread, which waits for its return.
-    explicit Scanner(std::shared_ptr<MsgListener> callback);
+    /// Returns when so much of the device's time has passed.
+    using Pause = std::function<void(std::chrono::milliseconds)>;
+    static void sleep(std::chrono::milliseconds time);
+
+    /// `callback` receives each scan on the scanning thread, which waits for its return and then for `pause`.
+    explicit Scanner(std::shared_ptr<MsgListener> callback, Pause pause = sleep);
     ~Scanner();
 
     void setByConfig(const std::shared_ptr<ConfigMsg> &config);
@@ -45,6 +51,7 @@ private:
     std::default_random_engine engine;
 
     const std::shared_ptr<MsgListener> callback;
+    const Pause pause;
     std::atomic<bool> scanActive{false};
     bool started = false; ///< this and the next: touched only by `start`, `stop` and the destructor
     JoiningThread scanner;

@@ -6,13 +6,13 @@
 #include "msg/ok-msg.h"
 #include "msg/state-msg.h"
 
-#include <thread>
-
-TestService::TestService()
-    : config(Defaults::getDefaultConfigMsg(proto.getValue()))
+TestService::TestService(Scanner::Pause devicePause)
+    : pause(std::move(devicePause))
+    , config(Defaults::getDefaultConfigMsg(proto.getValue()))
     , aiPrior(Defaults::getDefaultAiPriorMsg())
     , configK7(Defaults::getDefaultConfigK7Msg())
-    , scanner(std::make_shared<MsgListener>([this](const std::shared_ptr<Msg> &msg) { fireMsg(msg); })) {
+    , scanner(std::make_shared<MsgListener>([this](const std::shared_ptr<Msg> &msg) { fireMsg(msg); }),
+              pause) {
     config->setBootVers("0.0");
     config->setFwVers("0.0");
     config->setHwVers("0.0");
@@ -33,18 +33,18 @@ std::shared_ptr<Msg> TestService::acceptMsg(const std::shared_ptr<Msg> &msg) {
     case MsgTypeEnum::GET_AI_PRIOR:
         return fireMsg(aiPrior);
     case MsgTypeEnum::SCAN:
-        return scan(std::static_pointer_cast<ScanMsg>(msg));
+        return scan(*messageCast<ScanMsg>(msg));
     case MsgTypeEnum::CONFIG:
-        config = std::static_pointer_cast<ConfigMsg>(msg);
+        config = messageCast<ConfigMsg>(msg);
         scanner.setByConfig(config);
         fireOkMsg(type);
         break;
     case MsgTypeEnum::CONFIG_K7:
-        configK7 = std::static_pointer_cast<ConfigK7Msg>(msg);
+        configK7 = messageCast<ConfigK7Msg>(msg);
         fireOkMsg(type);
         break;
     case MsgTypeEnum::AI_PRIOR:
-        aiPrior = std::static_pointer_cast<AiPriorMsg>(msg);
+        aiPrior = messageCast<AiPriorMsg>(msg);
         scanner.setByAiPrior(aiPrior);
         fireOkMsg(type);
         break;
@@ -75,15 +75,15 @@ void TestService::acceptSetMask() {
     if (scanner.isActive())
         scanner.stop();
     scanner.setMask();
-    std::this_thread::sleep_for(MASK_TIME);
+    pause(MASK_TIME);
     fireMsg(std::make_shared<MaskResultMsg>(MaskResultMsgBuilder().mask(true).build()));
     scanner.start();
 }
 
-std::shared_ptr<Msg> TestService::scan(const std::shared_ptr<ScanMsg> &msg) {
-    if (msg->getScan() && !scanner.isActive())
+std::shared_ptr<Msg> TestService::scan(const ScanMsg &msg) {
+    if (msg.getScan() && !scanner.isActive())
         scanner.start();
-    else if (!msg->getScan() && scanner.isActive())
+    else if (!msg.getScan() && scanner.isActive())
         scanner.stop();
     return fireOkMsg(MsgTypeEnum::SCAN);
 }

@@ -18,7 +18,8 @@
 /// on it; scans are delivered on the scanner's thread.
 class TestService {
 public:
-    TestService();
+    /// `devicePause` takes the time of a mask and the time between two scans.
+    explicit TestService(Scanner::Pause devicePause = Scanner::sleep);
 
     void addListener(std::shared_ptr<MsgListener> listener) { msgListeners.add(std::move(listener)); }
     void removeListener(std::shared_ptr<MsgListener> listener) { msgListeners.remove(std::move(listener)); }
@@ -34,9 +35,10 @@ private:
     std::shared_ptr<Msg> fireMsg(const std::shared_ptr<Msg> &msg);
     std::shared_ptr<Msg> fireOkMsg(MsgTypeEnum respOn);
     void acceptSetMask();
-    std::shared_ptr<Msg> scan(const std::shared_ptr<ScanMsg> &msg);
+    std::shared_ptr<Msg> scan(const ScanMsg &msg);
     void fireStateMsg();
 
+    const Scanner::Pause pause;
     ListenerList<MsgListener> msgListeners;
     const Proto proto{ProtoEnum::K7};
     std::shared_ptr<ConfigMsg> config;
