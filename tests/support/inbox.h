@@ -3,6 +3,7 @@
 #include "serial-interface.h"
 
 #include <condition_variable>
+#include <deque>
 #include <mutex>
 
 /// A listener that keeps what it gets, for tests that wait for messages from another thread.
@@ -15,21 +16,28 @@ public:
             arrived.notify_all();
         });
 
-    /// The message with this number, counted from 0; null when none has come within a generous time.
-    template <typename Message = Msg>
-    std::shared_ptr<Message> at(std::size_t number) {
+    /// Takes the next message of this class and drops those before it; null when none comes within a generous
+    /// time.
+    template <typename Message>
+    std::shared_ptr<Message> next() {
         std::unique_lock lock(mutex);
-        arrived.wait_for(lock, std::chrono::seconds(60), [&] { return messages.size() > number; });
-        return messages.size() > number ? std::static_pointer_cast<Message>(messages[number]) : nullptr;
+        std::shared_ptr<Message> found;
+        arrived.wait_for(lock, std::chrono::seconds(60), [&] {
+            for (; !found && !messages.empty(); messages.pop_front())
+                found = messageCast<Message>(messages.front());
+            return found != nullptr;
+        });
+        return found;
     }
 
-    std::size_t size() {
+    /// Takes all that have come.
+    std::deque<std::shared_ptr<Msg>> take() {
         const std::lock_guard lock(mutex);
-        return messages.size();
+        return std::exchange(messages, {});
     }
 
 private:
     std::mutex mutex;
     std::condition_variable arrived;
-    std::vector<std::shared_ptr<Msg>> messages;
+    std::deque<std::shared_ptr<Msg>> messages;
 };

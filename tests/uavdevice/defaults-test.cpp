@@ -1,49 +1,56 @@
 #include "common/defaults.h"
 
 #include "common/sens-level.h"
+#include "msg-to-json-parser.h"
+#include "wire-text.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-using testing::ElementsAre;
-
-TEST(Defaults, GiveEachGenerationTheMessagesItHas) {
-    const auto typesOf = [](ProtoEnum proto) {
-        std::vector<std::string> types;
-        for (const auto &message : Defaults::getDefaults(proto))
-            types.push_back(MsgType(message->getType()).name());
-        return types;
+TEST(Defaults, AreTheFactorySettingsOfEachGeneration) {
+    const auto config = [](const std::string &proto, const std::string &ranges) {
+        return R"({|"proto" : ")" + proto +
+               R"(",|"indLed" : true,|"indSnd" : true,|"indVibro" : false,|"indLedLvl" : 50,|"indSndLvl" : 100)"
+               R"(,|"mode" : "BASE",|"wifiDet" : false,|"uavDet" : true,|"ranges" : [|)" +
+               ranges + R"("EXT_2400",|"EXT_4900",|"EXT_5800"|],|"atten" : 0,|"type" : "CONFIG"|})";
     };
-    EXPECT_THAT(typesOf(ProtoEnum::K1), ElementsAre("CONFIG"));
-    EXPECT_THAT(typesOf(ProtoEnum::K6), ElementsAre("CONFIG", "AI_PRIOR"));
-    EXPECT_THAT(typesOf(ProtoEnum::K7), ElementsAre("CONFIG", "CONFIG_K7", "AI_PRIOR"));
-    EXPECT_THAT(typesOf(ProtoEnum::K7EW), ElementsAre("CONFIG", "CONFIG_K7", "CONFIG_EW", "AI_PRIOR"));
+    const auto target = [](const std::string &min, const std::string &max) {
+        return R"({|"freqMin" : )" + min + R"(.000000,|"freqMax" : )" + max +
+               R"(.000000,|"sigType" : "ALL",|"timeSecOfDetect" : 10,|"lvlOver" : -95,|"prior" : 0,)"
+               R"(|"actType" : "TIMEOUT",|"timeout" : 60,|"ewOutId" : 0,|"ewOutConf" : {}|})";
+    };
+    const std::string configK7 =
+        R"({|"voiceEn" : true,|"dispLvl" : 50,|"dispOffTime" : 30,|"indHeadLvl" : 25,|"indHeadMode" : "SOUND",)"
+        R"(|"btEn" : false,|"btPowerDbm" : 0,|"voiceDbLvl" : -97,|"type" : "CONFIG_K7"|})";
+    const std::string configEw = R"({|"targets" : [|)" + target("830", "1730") + ",|" +
+                                 target("2350", "2550") + ",|" + target("4800", "5460") + ",|" +
+                                 target("5470", "6100") + R"(|],|"type" : "CONFIG_EW"|})";
+    const std::string aiPrior = R"({|"aiPrior" : "DEFAULT",|"type" : "AI_PRIOR"|})";
+    for (const auto &[proto, expected] :
+         {std::pair(ProtoEnum::K1, config("K1", "")),
+          {ProtoEnum::K6, config("K6", "") + aiPrior},
+          {ProtoEnum::K7, config("K7", R"("STD_1200",|)") + configK7 + aiPrior},
+          {ProtoEnum::K7EW, config("K7EW", R"("STD_1200",|)") + configK7 + configEw + aiPrior}}) {
+        std::string texts;
+        for (const auto &message : Defaults::getDefaults(proto))
+            texts += MsgToJsonParser::toJson(message);
+        EXPECT_EQ(texts, wire(expected));
+    }
 }
 
-TEST(Defaults, AreTheFactorySettings) {
-    EXPECT_EQ(Defaults::getDefaultConfigMsg(ProtoEnum::K6)->parseMsg(),
-              "{\n\"proto\" : \"K6\",\n\"indLed\" : true,\n\"indSnd\" : true,\n\"indVibro\" : false,\n"
-              "\"indLedLvl\" : 50,\n\"indSndLvl\" : 100,\n\"mode\" : \"BASE\",\n\"wifiDet\" : false,\n"
-              "\"uavDet\" : true,\n\"ranges\" : [\n\"EXT_2400\",\n\"EXT_4900\",\n\"EXT_5800\"\n],\n"
-              "\"atten\" : 0,\n\"type\" : \"CONFIG\"\n}");
-    EXPECT_EQ(Defaults::getDefaultConfigK7Msg()->parseMsg(),
-              "{\n\"voiceEn\" : true,\n\"dispLvl\" : 50,\n\"dispOffTime\" : 30,\n\"indHeadLvl\" : 25,\n"
-              "\"indHeadMode\" : \"SOUND\",\n\"btEn\" : false,\n\"btPowerDbm\" : 0,\n\"voiceDbLvl\" : -97,\n"
-              "\"type\" : \"CONFIG_K7\"\n}");
-    const auto rules = Defaults::getDefaultConfigEwMsg(ProtoEnum::K7EW)->getTargets();
-    ASSERT_EQ(rules.size(), 4U);
-    EXPECT_EQ(rules[1]->parseMsg(),
-              "{\n\"freqMin\" : 2350.000000,\n\"freqMax\" : 2550.000000,\n\"sigType\" : \"ALL\",\n"
-              "\"timeSecOfDetect\" : 10,\n\"lvlOver\" : -95,\n\"prior\" : 0,\n\"actType\" : \"TIMEOUT\",\n"
-              "\"timeout\" : 60,\n\"ewOutId\" : 0,\n\"ewOutConf\" : {}\n}");
-    EXPECT_EQ(Defaults::getDefaultAiPriorMsg()->getAiPrior(), AiPriorEnum::DEFAULT);
-    EXPECT_EQ(Defaults::getDefaultConfigMsg(ProtoEnum::K7EW)->getRanges().at(0), FreqModeEnum::STD_1200);
-}
-
-TEST(LevelTables, FollowTheAttenuationAndMindWhatTheyDoNotHold) {
+TEST(SensLevel, TiesEachStepToItsAttenuation) {
     using Level = SensLevelEnum;
-    for (const auto &[atten, next] :
-         {std::pair(6, Level::MIDDLE), {3, Level::HIGH}, {0, Level::LOW}, {5, Level::LOW}})
-        EXPECT_EQ(SensLevel(SensLevel::byAtten(atten)).next(), next) << atten;
-    EXPECT_EQ(SensLevel(static_cast<Level>(-1)).getEnumName(), "???");
+    struct Case {
+        int atten;
+        Level level, next;
+        const char *name;
+    };
+    for (const Case &c :
+         {Case{5, Level::UNKNOWN, Level::LOW, "???"}, Case{6, Level::LOW, Level::MIDDLE, "LOW"},
+          Case{3, Level::MIDDLE, Level::HIGH, "MID"}, Case{0, Level::HIGH, Level::LOW, "HIGH"}}) {
+        EXPECT_EQ(SensLevel::byAtten(c.atten), c.level);
+        EXPECT_EQ(SensLevel(c.level).getAtten(), c.level == Level::UNKNOWN ? 0 : c.atten);
+        EXPECT_EQ(SensLevel(c.level).next(), c.next);
+        EXPECT_EQ(SensLevel(c.level).getEnumName(), c.name);
+    }
     EXPECT_THROW(SensLevel(static_cast<Level>(4)).getAtten(), std::out_of_range);
 }

@@ -3,44 +3,45 @@
 #include "scans.h"
 
 #include <gmock/gmock.h>
+#include <thread>
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
-static std::vector<float> levelsOf(const History &history) {
-    std::vector<float> levels;
-    for (const auto &row : history.getHistoryLevels())
-        levels.push_back(row.at(0).rssi);
-    return levels;
-}
-
-TEST(History, KeepsTheNewestScansOldestFirst) {
-    History history(MasterFreqModeEnum::R_4900, 3);
-    for (const float rssi : {-101.0f, -102.0f, -103.0f, -104.0f})
-        history.acceptScan(resultsOf({{4900, rssi}, {4910, rssi}}));
-    EXPECT_THAT(levelsOf(history), ElementsAre(-102, -103, -104));
-    EXPECT_EQ(history.getFreqScanResults().at(1)->getRssi(), -104);
+TEST(History, KeepsTheTenNewestScansOldestFirst) {
+    History history;
+    for (int time = 1; time <= 11; ++time)
+        history.acceptScan(resultsOf({{4900, -95}, {4910, -104.0F + time, SigTypeEnum::FPV}}), time);
     const auto rows = history.getHistoryLevels();
-    EXPECT_EQ(rows[2].at(1).timeMsg, rows[2].at(0).timeMsg);
-    EXPECT_EQ(rows[2].at(1).sigType, SigTypeEnum::DIG);
-    history.setHistoryLen(1);
-    EXPECT_THAT(levelsOf(history), ElementsAre(-104));
-    history.setHistoryLen(-1);
-    history.acceptScan(resultsOf({{4900, -90}, {4910, -90}}));
-    EXPECT_EQ(history.getSize(), 2) << "a negative length keeps all";
+    ASSERT_EQ(rows.size(), 10U);
+    for (const auto &[row, time] : {std::pair(0U, 2), {9U, 11}})
+        for (const auto &point : rows[row])
+            EXPECT_EQ(point.timeMsg, time);
+    EXPECT_EQ(rows[9][1].rssi, -93);
+    EXPECT_EQ(rows[9][1].sigType, SigTypeEnum::FPV);
+    EXPECT_EQ(history.getFreqScanResults().at(1)->getRssi(), -93);
+
+    const auto begin = Uptime::getMs();
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    history.acceptScan(resultsOf({{4900}, {4910}}));
+    EXPECT_GE(history.getHistoryLevels().back().at(0).timeMsg, begin + 20) << "milliseconds";
+    EXPECT_LT(history.getHistoryLevels().back().at(0).timeMsg, begin + 20000);
 }
 
 TEST(History, TellsColumnsApartByTheirCountAlone) {
-    History history;
-    history.acceptScan(resultsOf({{1000, -90}, {1010, -90}}));
-    history.acceptScan(resultsOf({{5000, -91}, {5010, -91}}));
+    History history(MasterFreqModeEnum::R_4900, 3);
+    history.acceptScan(resultsOf({{1000}, {1010}}));
+    history.acceptScan(resultsOf({{5000}, {5010}}));
     EXPECT_EQ(history.getSize(), 2);
     EXPECT_THAT(history.getHistoryFreqs(), ElementsAre(1000, 1010));
-    history.acceptScan(resultsOf({{5000, -92}, {5010, -92}, {5020, -92}}));
-    EXPECT_THAT(levelsOf(history), ElementsAre(-92));
+    history.acceptScan(resultsOf({{5000}, {5010}, {5020}}));
+    EXPECT_EQ(history.getSize(), 1);
     EXPECT_THAT(history.getHistoryFreqs(), ElementsAre(5000, 5010, 5020));
-    history.acceptScan({});
-    history.acceptScan({});
-    EXPECT_THAT(history.getHistoryLevels(), ElementsAre(IsEmpty(), IsEmpty()));
+    for (int scan = 0; scan < 4; ++scan)
+        history.acceptScan({});
+    EXPECT_THAT(history.getHistoryLevels(), AllOf(SizeIs(3), Each(IsEmpty())));
     EXPECT_THAT(history.getHistoryFreqs(), IsEmpty());
+    EXPECT_EQ(history.getMasterMode(), MasterFreqModeEnum::R_4900);
 }

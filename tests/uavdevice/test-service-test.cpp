@@ -1,94 +1,113 @@
 #include "simulator/test-service.h"
 
 #include "inbox.h"
+#include "msg-to-json-parser.h"
 #include "msg/all-messages.h"
 #include "wire-text.h"
 
 #include <gmock/gmock.h>
 
-namespace {
+/// The simulator in a time that passes in an instant, and what it waited for.
+class TestServiceThreads : public testing::Test {
+protected:
+    std::mutex mutex;
+    std::vector<long> pauses; // ms
+    Inbox inbox;
+    TestService service{[this](std::chrono::milliseconds time) {
+        const std::lock_guard lock(mutex);
+        pauses.push_back(time.count());
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }};
 
-std::shared_ptr<Msg> request(MsgTypeEnum type) {
-    return Msg::parseJson(R"({"type":")" + MsgType(type).name() + R"("})");
-}
+    TestServiceThreads() { service.addListener(inbox.listener); }
 
-/// The first message of this type that comes after the first `skipped` messages.
-template <typename Message>
-std::shared_ptr<Message> next(Inbox &inbox, MsgTypeEnum type, std::size_t skipped) {
-    for (;; ++skipped) {
-        const auto msg = inbox.at<Message>(skipped);
-        if (!msg || msg->getType() == type)
-            return msg;
+    std::shared_ptr<Msg> request(const std::string &type) {
+        return service.acceptMsg(Msg::parseJson(R"({"type":")" + type + R"("})"));
     }
-}
+    std::shared_ptr<Msg> scan(bool on) { return service.acceptMsg(share(ScanMsgBuilder().scan(on))); }
+    /// Stops the scan before it gives the pauses since the last call.
+    std::vector<long> takePauses() {
+        scan(false);
+        return std::exchange(pauses, {});
+    }
+};
 
-} // namespace
-
-TEST(TestService, FiresEveryAnswerAndReturnsSome) {
+TEST_F(TestServiceThreads, FiresEveryAnswerAndReturnsSome) {
+    const auto config = messageCast<ConfigMsg>(request("GET_CONFIG"));
+    EXPECT_EQ(config->getProto(), ProtoEnum::K7);
+    EXPECT_EQ(config->getHwVers() + config->getFwVers() + config->getBootVers(), "0.00.00.0");
+    EXPECT_EQ(config->getMd5Serial(), "000000");
+    EXPECT_EQ(messageCast<ConfigK7Msg>(request("GET_CONFIG_K7"))->getDispLvl(), 50);
+    inbox.take();
     struct Case {
-        MsgTypeEnum request, answer;
+        std::string request, answer;
         bool returned;
     };
-    TestService service;
-    Inbox inbox;
-    service.addListener(inbox.listener);
-    std::size_t count = 0;
-    for (const Case &c : {Case{MsgTypeEnum::GET_CONFIG, MsgTypeEnum::CONFIG, true},
-                          Case{MsgTypeEnum::SCAN, MsgTypeEnum::OK, true},
-                          Case{MsgTypeEnum::CONFIG_K7, MsgTypeEnum::OK, false},
-                          Case{MsgTypeEnum::GET_STATE, MsgTypeEnum::STATE, false},
-                          Case{MsgTypeEnum::GET_CONFIG_FREQ_CALIB, MsgTypeEnum::FAIL, false}}) {
-        SCOPED_TRACE(MsgType(c.request).name());
-        const auto returned = service.acceptMsg(request(c.request));
-        const auto fired = inbox.at<OkMsg>(count++);
-        ASSERT_TRUE(fired);
-        EXPECT_EQ(fired->getType(), c.answer);
-        EXPECT_EQ(returned, c.returned ? fired : nullptr);
-        EXPECT_TRUE(c.answer != MsgTypeEnum::OK || fired->getRespOn() == c.request);
+    for (const Case &c :
+         {Case{"GET_AI_PRIOR", R"({|"aiPrior" : "DEFAULT",|"type" : "AI_PRIOR"|})", true},
+          Case{"SCAN", R"({|"respOn" : "SCAN",|"type" : "OK"|})", true},
+          Case{"CONFIG", R"({|"respOn" : "CONFIG",|"type" : "OK"|})", false},
+          Case{"GET_CONFIG", R"({|"type" : "CONFIG"|})", true}, // as it was sent
+          Case{"CONFIG_K7", R"({|"respOn" : "CONFIG_K7",|"type" : "OK"|})", false},
+          Case{"GET_CONFIG_K7", R"({|"type" : "CONFIG_K7"|})", true},
+          Case{"AI_PRIOR", R"({|"respOn" : "AI_PRIOR",|"type" : "OK"|})", false},
+          Case{"GET_AI_PRIOR", R"({|"type" : "AI_PRIOR"|})", true},
+          Case{"TO_APP", R"({|"respOn" : "TO_APP",|"failMsg" : "test not implemented",|"type" : "FAIL"|})",
+               false}}) {
+        const auto returned = request(c.request);
+        const auto fired = inbox.take();
+        ASSERT_EQ(fired.size(), 1U) << c.request;
+        EXPECT_EQ(MsgToJsonParser::toJson(fired[0]), wire(c.answer));
+        EXPECT_EQ(returned, c.returned ? fired[0] : nullptr) << c.request;
     }
-    const auto fail = inbox.at<FailMsg>(count - 1);
-    EXPECT_EQ(fail->getRespOn(), MsgTypeEnum::GET_CONFIG_FREQ_CALIB);
-    EXPECT_EQ(fail->getFailMsg(), "test not implemented");
-
+    EXPECT_EQ(request("GET_STATE"), nullptr);
+    const int charge = inbox.next<StateMsg>()->getBattLvl();
+    EXPECT_TRUE(charge >= 0 && charge <= 100) << charge;
     EXPECT_EQ(service.acceptMsg(nullptr), nullptr);
-    service.removeListener(inbox.listener);
-    service.acceptMsg(request(MsgTypeEnum::GET_STATE));
-    EXPECT_EQ(inbox.size(), count);
 }
 
-TEST(TestService, KeepsTheSettingsThatItIsSent) {
-    TestService service;
-    const auto config =
-        std::static_pointer_cast<ConfigMsg>(service.acceptMsg(request(MsgTypeEnum::GET_CONFIG)));
-    ASSERT_TRUE(config);
-    EXPECT_EQ(config->getProto(), ProtoEnum::K7);
-    EXPECT_EQ(config->getFwVers() + config->getMd5Serial(), "0.0000000");
-
-    const std::pair<std::shared_ptr<Msg>, MsgTypeEnum> settings[] = {
-        {share(ConfigMsgBuilder().atten(3)), MsgTypeEnum::GET_CONFIG},
-        {share(AiPriorMsgBuilder().aiPrior(AiPriorEnum::CITY)), MsgTypeEnum::GET_AI_PRIOR},
-        {share(ConfigK7MsgBuilder().voiceEn(true)), MsgTypeEnum::GET_CONFIG_K7}};
-    for (const auto &[setting, reader] : settings) {
-        service.acceptMsg(setting);
-        EXPECT_EQ(service.acceptMsg(request(reader)), setting);
+TEST_F(TestServiceThreads, ScansAsItsSettingsSay) {
+    for (const auto &[mode, period] : {std::pair(DetModeEnum::ECO, 5000), {DetModeEnum::CONT, 500}}) {
+        service.acceptMsg(share(ConfigMsgBuilder().mode(mode).ranges({FreqModeEnum::STD_2400}).atten(10)));
+        EXPECT_TRUE(scan(true));
+        EXPECT_TRUE(scan(true)) << "the scan goes on undisturbed";
+        ASSERT_TRUE(inbox.next<ScanResultMsg>());
+        const auto results = inbox.next<ScanResultMsg>()->getFreqs();
+        ASSERT_EQ(results.size(), 15U);
+        EXPECT_EQ(results[0]->getRssi(), -105);
+        EXPECT_THAT(takePauses(), testing::Each(period));
+        inbox.take();
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        EXPECT_TRUE(inbox.take().empty()) << "stopped";
     }
+    // Settings change while it scans.
+    scan(true);
+    service.acceptMsg(
+        share(ConfigMsgBuilder().wifiDet(true).ranges(std::vector(500, FreqModeEnum::EXT_1200))));
+    service.acceptMsg(share(AiPriorMsgBuilder().aiPrior(AiPriorEnum::FIELD)));
+    inbox.take();
+    inbox.next<ScanResultMsg>();
+    const auto results = inbox.next<ScanResultMsg>()->getFreqs();
+    ASSERT_EQ(results.size(), 45500U);
+    const auto isWifi = [](const auto &result) { return result->getType() == SigTypeEnum::WIFI; };
+    EXPECT_NEAR(std::count_if(results.begin(), results.end(), isWifi) / 45500.0, 20 / 101.0, 0.02);
 }
 
-TEST(TestServiceThreads, ScansAndTurnsTheMask) {
-    TestService service;
-    Inbox inbox;
-    service.addListener(inbox.listener);
-    service.acceptMsg(share(ConfigMsgBuilder().proto(ProtoEnum::K7).mode(DetModeEnum::CONT)));
-    for (const bool scan : {true, true, false, false}) // the second of each changes nothing
-        EXPECT_TRUE(service.acceptMsg(share(ScanMsgBuilder().scan(scan))));
-    for (const bool mask : {true, false}) { // first on a stopped scanner, then on one that runs
-        const auto before = inbox.size();
-        EXPECT_EQ(service.acceptMsg(std::make_shared<SetMaskMsg>()), nullptr);
-        const auto result = next<MaskResultMsg>(inbox, MsgTypeEnum::MASK_RESULT, before);
-        ASSERT_TRUE(result);
-        EXPECT_TRUE(result->getMask());
-        const auto scan = next<ScanResultMsg>(inbox, MsgTypeEnum::SCAN_RESULT, inbox.size());
-        ASSERT_TRUE(scan);
-        EXPECT_EQ(scan->getMask(), mask);
+TEST_F(TestServiceThreads, TurnsTheMaskAndScansOn) {
+    for (const bool mask : {true, false}) { // first on a stopped scanner, then on one that scans
+        inbox.take();
+        EXPECT_EQ(request("SET_MASK"), nullptr);
+        EXPECT_TRUE(inbox.next<MaskResultMsg>()->getMask());
+        EXPECT_EQ(inbox.next<ScanResultMsg>()->getMask(), mask);
     }
+    const auto all = takePauses();
+    EXPECT_EQ(std::count(all.begin(), all.end(), 2000), 2);
+}
+
+TEST(ScannerThreads, ASecondStopInARowThrows) {
+    Scanner scanner(std::make_shared<MsgListener>([](auto) {}), [](auto) {});
+    scanner.stop(); // as long as it never ran
+    scanner.start();
+    scanner.stop();
+    EXPECT_THROW(scanner.stop(), std::system_error);
 }

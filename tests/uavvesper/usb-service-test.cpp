@@ -1,179 +1,227 @@
 #include "usb-service.h"
 
 #include "msg/all-messages.h"
+#include "pty-device.h"
+#include "scans.h"
 #include "signal-recorder.h"
+#include "wire-text.h"
 
 #include <QSignalSpy>
 #include <QTest>
 #include <gmock/gmock.h>
+#include <thread>
 
-using std::chrono::milliseconds;
+using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
 
-struct Signal {
-    float rssi;
-    SigTypeEnum type = SigTypeEnum::FPV;
-};
-
-std::shared_ptr<Msg> scanOf(const std::vector<Signal> &found) {
-    std::vector<std::shared_ptr<FreqScanResult>> freqs;
-    for (const auto &signal : found)
-        freqs.push_back(std::make_shared<FreqScanResult>(
-            FreqScanResultBuilder().freqMHz(2400).rssi(signal.rssi).type(signal.type).build()));
-    return std::make_shared<ScanResultMsg>(ScanResultMsgBuilder().freqs(freqs).mask(true).build());
-}
-
-/// Notes each request as "TYPE time-out" and replies as told, by the type of the request.
+/// Notes what it is asked for, each request as "TYPE time-out", and replies as told, by the type of the
+/// request.
 class FakeConnector : public SerialInterfaceConnector {
 public:
-    bool connectInterface() override { return true; }
-    void disconnect() override { notes.push_back("disconnect"); }
+    bool connectInterface() override {
+        note("connect");
+        return hasDevice;
+    }
+    void disconnect() override {
+        note("disconnect");
+        testing = false;
+    }
     void startTesting() override { testing = true; }
     void stopTesting() override { testing = false; }
     bool isTesting() override { return testing; }
-    void addListener(std::shared_ptr<MsgListener>) override { notes.push_back("listen"); }
-    void removeListener(std::shared_ptr<MsgListener>) override { notes.push_back("unlisten"); }
-    std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg, milliseconds timeout) override {
-        notes.push_back(MsgType(msg->getType()).name() + " " + std::to_string(timeout.count()));
+    void addListener(std::shared_ptr<MsgListener>) override { note("listen"); }
+    void removeListener(std::shared_ptr<MsgListener>) override { note("unlisten"); }
+    std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg,
+                                           std::chrono::milliseconds timeout) override {
+        note(MsgType(msg->getType()).name() + " " + std::to_string(timeout.count()));
         return replies[msg->getType()];
     }
-    std::vector<std::string> takeNotes() { return std::exchange(notes, {}); }
 
+    std::string take() { return std::exchange(notes, {}); }
+
+    bool hasDevice = true;
     std::map<MsgTypeEnum, std::shared_ptr<Msg>> replies;
 
 private:
-    bool testing = false;
-    std::vector<std::string> notes;
+    void note(const std::string &text) { notes += (notes.empty() ? "" : ", ") + text; }
+
+    std::atomic<bool> testing{false};
+    std::string notes; // by one thread at a time: the service waits for its attempts
 };
 
-class UsbServiceRequests : public testing::Test {
+const std::string FIRST_REQUESTS =
+    "GET_CONFIG 1000, listen, SCAN 200, GET_STATE 100, GET_AI_PRIOR 100, GET_CONFIG_K7 100";
+const std::string CONNECTING = "connect, " + FIRST_REQUESTS;
+const std::string DISCONNECTING = "SCAN 200, disconnect, unlisten";
+
+class UsbServiceThreads : public testing::Test {
 protected:
     std::unique_ptr<SerialInterfaceConnector> owned = std::make_unique<FakeConnector>();
-    FakeConnector &connector = static_cast<FakeConnector &>(*owned);
+    FakeConnector &line = static_cast<FakeConnector &>(*owned);
     UsbService service{std::move(owned)};
+    SignalRecorder recorder{&service}; // on this thread, wherever a signal is emitted
     QSignalSpy toasts{&service, &UsbService::toast};
     const std::shared_ptr<Msg> ok = std::make_shared<OkMsg>();
-    const std::shared_ptr<Msg> fail = std::make_shared<FailMsg>(FailMsgBuilder().failMsg("busy").build());
+    const std::shared_ptr<Msg> fail = share(FailMsgBuilder().failMsg("busy"));
 };
 
-class UsbServiceSignals : public testing::Test {
-protected:
-    /// The levels that `gotMaxFreqs` names for a scan, in order.
-    std::vector<float> strongest(const std::vector<Signal> &found) {
-        QSignalSpy maxFreqs(&service, &UsbService::gotMaxFreqs);
-        service.acceptMsg(scanOf(found));
-        EXPECT_EQ(maxFreqs.count(), 1);
-        const auto msg =
-            maxFreqs.value(0).value(0).value<MsgHolder>().getAs<ScanResultMsg>(MsgTypeEnum::SCAN_RESULT);
-        std::vector<float> levels;
-        for (const auto &result : msg->getFreqs())
-            levels.push_back(result->getRssi());
-        return levels;
-    }
+template <typename Signal, typename Gesture>
+bool hears(UsbService &service, Signal signal, Gesture gesture) {
+    bool heard = false;
+    const QObject receiver; // on this thread, wherever the signal is emitted
+    QObject::connect(&service, signal, &receiver, [&heard] { heard = true; });
+    gesture();
+    return QTest::qWaitFor([&heard] { return heard; }, 60000);
+}
 
-    UsbService service{nullptr, "/nonexistent"};
-};
+/// Presses the USB button until the device is found: on a busy machine it may miss the 100 ms that it has for
+/// an answer.
+bool connects(UsbService &service) {
+    for (int attempt = 0; attempt < 20 && !service.isUsbActive(); ++attempt)
+        EXPECT_TRUE(hears(service, &UsbService::usbStateChanged, [&] { service.startUsb(); }));
+    return service.isUsbActive();
+}
 
 } // namespace
 
-TEST_F(UsbServiceSignals, NamesTheStrongestSignalsOfAScan) {
-    EXPECT_THAT(strongest({{-100}, {-90}, {-95}, {-80}}), ElementsAre(-80, -90, -95));
-    EXPECT_THAT(strongest({{-100}, {-95}, {-90}, {-85}, {-80}}), ElementsAre(-80, -85, -90));
-    // What is not stronger than all of a list with room left is not appended.
-    EXPECT_THAT(strongest({{-80}, {-90}, {-95}}), ElementsAre(-80));
-    EXPECT_THAT(strongest({{-80}, {-80}}), ElementsAre(-80));
-    EXPECT_THAT(strongest({{-105}, {-110}, {-80, SigTypeEnum::NONE}}), IsEmpty());
-    EXPECT_THAT(strongest({{-104.5F}, {-90, SigTypeEnum::NONE}}), ElementsAre(-104.5F));
-}
-
-TEST_F(UsbServiceSignals, EachTypeHasItsSignals) {
-    SignalRecorder recorder(&service);
-    QSignalSpy battery(&service, &UsbService::gotBatteryState), mask(&service, &UsbService::gotMask);
-    for (const auto &msg :
-         std::vector<std::shared_ptr<Msg>>{nullptr, std::make_shared<OkMsg>(), std::make_shared<ConfigMsg>(),
-                                           std::make_shared<AiPriorMsg>(), std::make_shared<ConfigK7Msg>(),
-                                           std::make_shared<StateMsg>(StateMsgBuilder().battLvl(87).build())})
-        service.acceptMsg(msg);
-    EXPECT_EQ(recorder.take(), "gotConfig gotAiPrior gotConfigK7 gotBatteryState");
-    EXPECT_EQ(battery.value(0).value(0).toInt(), 87);
-    service.acceptMsg(scanOf({}));
-    EXPECT_EQ(recorder.take(), "gotScanResult gotMask") << "a scan without frequencies tells of the mask";
-    EXPECT_TRUE(mask.value(0).value(0).toBool());
-    service.acceptMsg(scanOf({{-90}}));
-    EXPECT_EQ(recorder.take(), "gotScanResult gotMask gotMaxFreqs");
-}
-
-TEST_F(UsbServiceRequests, AConnectionBeginsAndEndsInOrder) {
-    const QObject receiver;
-    int states = 0, configs = 0; // counted on this thread, wherever the signal is emitted
-    QObject::connect(
-        &service, &UsbService::usbStateChanged, &receiver, [&] { ++states; });
-    QObject::connect(&service, &UsbService::gotConfig, &receiver, [&] { ++configs; });
-    connector.replies[MsgTypeEnum::GET_CONFIG] = std::make_shared<ConfigMsg>();
-    service.startUsb();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return states == 1; }, 20000));
-    EXPECT_TRUE(service.isUsbActive());
-    EXPECT_FALSE(service.isBusy());
-    EXPECT_EQ(configs, 1);
-    EXPECT_THAT(connector.takeNotes(), ElementsAre("GET_CONFIG 1000", "listen", "SCAN 200", "GET_STATE 100",
-                                                   "GET_AI_PRIOR 100", "GET_CONFIG_K7 100"));
-    service.disconnect();
-    EXPECT_FALSE(service.isUsbActive());
+TEST_F(UsbServiceThreads, AConnectionBeginsAndEndsInOrder) {
+    line.replies[MsgTypeEnum::GET_CONFIG] = std::make_shared<ConfigMsg>();
     EXPECT_TRUE(service.isBusy());
-    EXPECT_EQ(states, 2);
-    EXPECT_THAT(connector.takeNotes(), ElementsAre("SCAN 200", "disconnect", "unlisten"));
+    service.startUsb();
+    service.startTesting(); // waits for the attempt, which finds the device
+    QCoreApplication::processEvents();
+    EXPECT_EQ(recorder.take(), "gotConfig busyChanged usbStateChanged");
+    EXPECT_TRUE(service.isUsbActive() && !service.isBusy() && !service.inTesting());
+    EXPECT_EQ(line.take(), CONNECTING);
+    service.disconnect();
+    EXPECT_EQ(recorder.take(), "busyChanged usbStateChanged");
+    EXPECT_TRUE(!service.isUsbActive() && service.isBusy());
+    EXPECT_EQ(line.take(), DISCONNECTING);
+
+    line.hasDevice = false;
+    service.startUsb();
+    service.disconnect(); // waits for the attempt, too
+    QCoreApplication::processEvents();
+    EXPECT_EQ(recorder.take(), "busyChanged usbStateChanged busyChanged usbStateChanged");
+    EXPECT_EQ(line.take(), "connect, disconnect");
 }
 
-TEST_F(UsbServiceRequests, AHolderIsSentOnlyToTheSlotOfItsType) {
-    const MsgHolder config(std::make_shared<ConfigMsg>()), aiPrior(std::make_shared<AiPriorMsg>()),
-        configK7(std::make_shared<ConfigK7Msg>());
-    for (const auto &holder : {MsgHolder(), config, aiPrior, configK7}) {
+TEST_F(UsbServiceThreads, TwoQuickPressesConnectOneAfterTheOther) {
+    service.startUsb();
+    service.startUsb();
+    service.shutDown(); // leaves no device scanning
+    EXPECT_EQ(line.take(), CONNECTING + ", " + DISCONNECTING + ", " + CONNECTING + ", " + DISCONNECTING);
+}
+
+TEST_F(UsbServiceThreads, TestModeTellsOfItselfFirst) {
+    for (const bool testing : {true, false}) {
+        testing ? service.startTesting() : service.disconnect();
+        EXPECT_EQ(service.inTesting(), testing);
+        EXPECT_EQ(recorder.take(), "testingChanged busyChanged usbStateChanged");
+        EXPECT_EQ(line.take(), testing ? FIRST_REQUESTS : DISCONNECTING);
+    }
+}
+
+TEST_F(UsbServiceThreads, AHolderIsSentOnlyToTheSlotOfItsType) {
+    for (const MsgHolder &holder :
+         {MsgHolder(), MsgHolder(std::make_shared<ConfigMsg>()), MsgHolder(std::make_shared<AiPriorMsg>()),
+          MsgHolder(std::make_shared<ConfigK7Msg>())}) {
         service.sendConfig(holder);
         service.sendAiPrior(holder);
         service.sendConfigK7(holder);
     }
-    EXPECT_THAT(connector.takeNotes(), ElementsAre("CONFIG 100", "AI_PRIOR 30", "CONFIG_K7 30"));
+    EXPECT_EQ(line.take(), "CONFIG 100, AI_PRIOR 30, CONFIG_K7 30");
 }
 
-TEST_F(UsbServiceRequests, TheMaskIsTheDevicesAnswer) {
-    const auto maskResult = [](bool mask) {
-        return std::make_shared<MaskResultMsg>(MaskResultMsgBuilder().mask(mask).build());
-    };
-    const std::vector<std::pair<std::shared_ptr<Msg>, bool>> replies = {
-        {nullptr, false}, {ok, false}, {maskResult(false), false}, {maskResult(true), true}, {fail, false}};
-    for (const auto &[reply, result] : replies) {
-        connector.replies[MsgTypeEnum::SET_MASK] = reply;
+TEST_F(UsbServiceThreads, TheMaskIsTheDevicesAnswer) {
+    for (const auto &[reply, result] : {std::pair<std::shared_ptr<Msg>, bool>(nullptr, false),
+                                        {ok, false},
+                                        {share(MaskResultMsgBuilder().mask(false)), false},
+                                        {share(MaskResultMsgBuilder().mask(true)), true},
+                                        {fail, false}}) {
+        line.replies[MsgTypeEnum::SET_MASK] = reply;
         EXPECT_EQ(service.setMask(), result);
+        EXPECT_EQ(line.take(), "SET_MASK 5");
     }
-    EXPECT_EQ(connector.takeNotes(), std::vector<std::string>(5, "SET_MASK 5"));
     ASSERT_EQ(toasts.count(), 1);
-    EXPECT_EQ(toasts.value(0).value(0).toString(), "Не удалось установить маску: busy");
+    EXPECT_EQ(toasts[0][0].toString(), "Не удалось установить маску: busy");
 }
 
-TEST_F(UsbServiceRequests, AFactoryResetReadsBackWhatTheDeviceTook) {
-    connector.replies = {{MsgTypeEnum::CONFIG, ok}, {MsgTypeEnum::CONFIG_K7, fail}};
-    service.resetToDefaults(static_cast<int>(ProtoEnum::K7)); // AI_PRIOR is not answered
-    EXPECT_THAT(connector.takeNotes(),
-                ElementsAre("CONFIG 5", "GET_CONFIG 100", "CONFIG_K7 5", "AI_PRIOR 5", "GET_CONFIG 100"));
+TEST_F(UsbServiceThreads, AFactoryResetReadsBackWhatTheDeviceTook) {
+    line.replies = {{MsgTypeEnum::CONFIG, ok}, {MsgTypeEnum::CONFIG_K7, fail}, {MsgTypeEnum::CONFIG_EW, ok}};
+    service.resetToDefaults(static_cast<int>(ProtoEnum::K7EW)); // AI_PRIOR is not answered
+    EXPECT_EQ(
+        line.take(),
+        "CONFIG 5, GET_CONFIG 100, CONFIG_K7 5, CONFIG_EW 5, GET_CONFIG_EW 100, AI_PRIOR 5, GET_CONFIG 100");
     ASSERT_EQ(toasts.count(), 1);
-    EXPECT_EQ(toasts.value(0).value(0).toString(), "Ошибка: busy");
-    for (const auto type : {MsgTypeEnum::CONFIG_K7, MsgTypeEnum::CONFIG_EW, MsgTypeEnum::AI_PRIOR})
-        connector.replies[type] = ok;
-    service.resetToDefaults(static_cast<int>(ProtoEnum::K7EW));
-    EXPECT_THAT(connector.takeNotes(),
-                ElementsAre("CONFIG 5", "GET_CONFIG 100", "CONFIG_K7 5", "GET_CONFIG_K7 100", "CONFIG_EW 5",
-                            "GET_CONFIG_EW 100", "AI_PRIOR 5", "GET_AI_PRIOR 100", "GET_CONFIG 100"));
+    EXPECT_EQ(toasts[0][0].toString(), "Ошибка: busy");
 }
 
-TEST_F(UsbServiceRequests, TestModeStartsOnlyWithoutADevice) {
-    service.startUsb();
-    service.startTesting(); // the attempt ends first, and it finds the device
+TEST_F(UsbServiceThreads, EachTypeOfMessageHasItsSignals) {
+    QSignalSpy battery(&service, &UsbService::gotBatteryState), mask(&service, &UsbService::gotMask),
+        strongest(&service, &UsbService::gotMaxFreqs);
+    const auto weak = scanOf({{1, -105}, {2, -110}});
+    const auto strong = scanOf({{1, -104}, {2, -103}, {3, -102}, {4, -101}}, true);
+    for (const auto &[msg, names] : {std::pair<std::shared_ptr<Msg>, const char *>(nullptr, ""),
+                                     {ok, ""},
+                                     {fail, ""},
+                                     {std::make_shared<ConfigMsg>(), "gotConfig"},
+                                     {std::make_shared<AiPriorMsg>(), "gotAiPrior"},
+                                     {std::make_shared<ConfigK7Msg>(), "gotConfigK7"},
+                                     {share(StateMsgBuilder().battLvl(87)), "gotBatteryState"},
+                                     {scanOf({}), "gotScanResult gotMask"},
+                                     {weak, "gotScanResult gotMask gotMaxFreqs"},
+                                     {strong, "gotScanResult gotMask gotMaxFreqs"}}) {
+        service.acceptMsg(msg);
+        EXPECT_EQ(recorder.take(), names);
+    }
+    EXPECT_EQ(battery[0][0].toInt(), 87);
+    EXPECT_FALSE(mask[1][0].toBool());
+    EXPECT_TRUE(mask[2][0].toBool());
+    const auto named = [&](int scan) { return strongest[scan][0].value<MsgHolder>().getAs<ScanResultMsg>(); };
+    EXPECT_THAT(named(0)->getFreqs(), IsEmpty());
+    ASSERT_EQ(named(1)->getFreqs().size(), 3U);
+    EXPECT_EQ(named(1)->getFreqs()[2]->getRssi(), -103);
+}
+
+TEST(UsbServiceConnectionThreads, ServeSeveralRequestersAndSurviveUnplugging) {
+    const SerialDirectory directory;
+    PtyDevice device(directory);
+    UsbService service(nullptr, directory.path());
+    ASSERT_TRUE(connects(service));
+    std::thread other([&] {
+        for (int i = 0; i < 20; ++i)
+            service.sendGetState();
+    });
+    for (int i = 0; i < 20; ++i)
+        service.sendGetConfig();
+    other.join();
+    EXPECT_TRUE(hears(service, &UsbService::gotScanResult, [] {}));
+    device.unplug(); // which shows only in what does not come, until the user presses
+    service.sendGetState();
     EXPECT_TRUE(service.isUsbActive());
-    EXPECT_FALSE(service.inTesting());
     service.disconnect();
-    service.startTesting();
-    EXPECT_TRUE(service.inTesting());
+    EXPECT_FALSE(service.isUsbActive());
+    device.plugIn();
+    ASSERT_TRUE(connects(service));
+    EXPECT_TRUE(hears(service, &UsbService::gotScanResult, [] {}));
+}
+
+TEST(UsbServiceConnectionThreads, EndInEveryStateAndLeaveNoDeviceScanning) {
+    const SerialDirectory directory;
+    PtyDevice device(directory);
+    for (const auto &beforeTheEnd : std::vector<std::function<void(UsbService &)>>{
+             [](auto &) {}, [](auto &service) { service.startUsb(); },
+             [](auto &service) { EXPECT_TRUE(connects(service)); },
+             [](auto &service) { service.startTesting(); }}) {
+        {
+            UsbService service(nullptr, directory.path());
+            beforeTheEnd(service);
+        }
+        EXPECT_TRUE(device.waitForOpen(false));
+        EXPECT_FALSE(device.isScanning());
+    }
 }

@@ -1,0 +1,26 @@
+#include "common/strongest-signals.h"
+
+#include "scans.h"
+
+#include <gtest/gtest.h>
+
+TEST(StrongestSignals, AreAtMostThreeTheStrongestFirst) {
+    const std::vector<std::pair<std::vector<float>, std::vector<float>>> cases = {
+        // levels of the scan and places of the named ones in it
+        {{-100, -90, -95, -80}, {3, 1, 2}},
+        {{-100, -90, -80, -85, -104}, {2, 3, 1}},
+        {{-90, -80, -80}, {1, 2, 0}},
+        {{-80, -90, -95}, {0}}, // what is stronger than none is not appended, even where there is room
+        {{-80, -80}, {0}},
+        {{-105, -110, -104.5F}, {2}}};
+    for (const auto &[levels, places] : cases) {
+        auto scan = resultsOf({{99, -60, SigTypeEnum::NONE}});
+        scan.push_back(nullptr);
+        for (std::size_t i = 0; i < levels.size(); ++i)
+            scan.push_back(resultsOf({{static_cast<float>(i), levels[i]}}).front());
+        std::vector<float> named;
+        for (const auto &result : strongestSignals(scan, 3, -105))
+            named.push_back(result->getFreqMHz());
+        EXPECT_EQ(named, places) << testing::PrintToString(levels);
+    }
+}
