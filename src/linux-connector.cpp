@@ -24,12 +24,9 @@ bool LinuxConnector::connectInterface() {
     try {
         if (!fs::exists(directory))
             return false;
-        for (const fs::directory_entry &entry : fs::directory_iterator(directory)) {
-            // Weakly, so that a link to a device that is gone fails to open like any other port, and does not
-            // hide the devices behind it.
-            if (entry.is_symlink() && probe(fs::weakly_canonical(directory / fs::read_symlink(entry))))
+        for (const fs::directory_entry &entry : fs::directory_iterator(directory))
+            if (entry.is_symlink() && probe(fs::canonical(directory / fs::read_symlink(entry))))
                 return true;
-        }
     } catch (const fs::filesystem_error &error) {
         report(error.what());
     }

@@ -24,8 +24,8 @@ public:
     ~LinuxConnector() override;
 
     /// Opens one device after the other and asks for its state. The first whose reply within 100 ms is a
-    /// STATE is taken; one that talks of something else meanwhile is passed over. A link that leads nowhere
-    /// ends the search.
+    /// STATE is taken; one that talks of something else meanwhile is passed over. On purpose: a link that
+    /// leads nowhere ends the search, like any other error of the file system.
     bool connectInterface() override;
     /// Does not interrupt a transaction on another thread, which ends in its time-out.
     void disconnect() override;

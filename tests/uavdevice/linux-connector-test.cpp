@@ -41,6 +41,11 @@ TEST_F(LinuxConnectorThreads, FindsNothingWhereNothingIs) {
     std::ofstream(directory.path() / "file") << "no link";
     EXPECT_FALSE(connector.connectInterface());
     EXPECT_THAT(reports, IsEmpty());
+    // A link that leads nowhere ends the search: of several there is one report.
+    for (const char *name : {"gone-1", "gone-2", "gone-3"})
+        fs::create_symlink("../nowhere/tty", directory.path() / name);
+    EXPECT_FALSE(connector.connectInterface());
+    EXPECT_THAT(reports, ElementsAre(testing::HasSubstr("nowhere/tty")));
     EXPECT_EQ(descriptors(), before);
 }
 
