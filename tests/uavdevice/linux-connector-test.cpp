@@ -36,7 +36,8 @@ TEST_F(LinuxConnectorThreads, FindsNothingWhereNothingIs) {
         return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
     };
     const auto before = descriptors();
-    EXPECT_FALSE(LinuxConnector(directory.path() / "missing").connectInterface());
+    const auto report = [this](const char *text) { reports.push_back(text); };
+    EXPECT_FALSE(LinuxConnector(directory.path() / "missing", report).connectInterface());
     fs::create_symlink("/dev/null", directory.path() / "null");
     std::ofstream(directory.path() / "file") << "no link";
     EXPECT_FALSE(connector.connectInterface());

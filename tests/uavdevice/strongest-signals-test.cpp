@@ -6,7 +6,6 @@
 
 TEST(StrongestSignals, AreAtMostThreeTheStrongestFirst) {
     const std::vector<std::pair<std::vector<float>, std::vector<float>>> cases = {
-        // levels of the scan and places of the named ones in it
         {{-100, -90, -95, -80}, {3, 1, 2}},
         {{-100, -90, -80, -85, -104}, {2, 3, 1}},
         {{-90, -80, -80}, {1, 2, 0}},

@@ -1,7 +1,5 @@
 #include "usb-tty.h"
 
-#include "inbox.h"
-#include "msg/all-messages.h"
 #include "pty-device.h"
 
 #include <ctime>
@@ -37,7 +35,6 @@ TEST_F(UsbTtyThreads, SetsTheLineUpAndLeavesTheRest) {
         EXPECT_EQ(now.c_oflag, line.c_oflag | OPOST | ONLCR);
         EXPECT_EQ(now.c_cc[VTIME], 10);
         EXPECT_EQ(now.c_cc[VMIN], 0);
-        EXPECT_EQ(cfgetospeed(&now), speed_t(B57600));
     }
 }
 
@@ -47,24 +44,18 @@ TEST_F(UsbTtyThreads, TellsWhyAPortDoesNotOpen) {
         tty.setPortName(port);
         EXPECT_FALSE(tty.openPort() || !tty.isClosed());
     }
-    std::fflush(stdout);
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "Error 2 from open: No such file or directory\n"
               "Error 25 from tcgetattr: Inappropriate ioctl for device\n");
 }
 
 TEST_F(UsbTtyThreads, ASecondPortTakesThePlaceOfTheFirst) {
-    Inbox inbox;
-    tty.addListener(inbox.listener);
     PtyDevice other(directory, ProtoEnum::K6, "usb-other");
     ASSERT_TRUE(tty.openPort());
     ASSERT_TRUE(device.waitForOpen(true));
     tty.setPortName(other.terminal());
     ASSERT_TRUE(tty.openPort());
     EXPECT_TRUE(device.waitForOpen(false));
-    const std::string longText(2000, 'x'); // more than one read brings
-    other.sendText(R"({"type":"FAIL","failMsg":")" + longText + "\"}\n");
-    EXPECT_EQ(inbox.next<FailMsg>()->getFailMsg(), longText);
     tty.serialClose();
     EXPECT_TRUE(other.waitForOpen(false));
 }
