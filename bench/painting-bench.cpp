@@ -122,8 +122,7 @@ public:
         this->setHistory(history);
         Recorder recorder;
         QPainter painter(&recorder);
-        painter.setFont(this->labelFont());
-        this->paintData(painter);
+        paintDrawing(this->data(), painter);
         painter.end();
         drawing = std::move(recorder.drawing);
     }

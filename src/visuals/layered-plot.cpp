@@ -1,6 +1,7 @@
 #include "visuals/layered-plot.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
+#include <QFontMetrics>
 #include <QPainter>
 
 LayeredPlot::LayeredPlot(QQuickItem *parent)
@@ -43,22 +44,15 @@ void LayeredPlot::paint(QPainter *painter) {
 
 void LayeredPlot::paintBackground() {
     const QSize size(static_cast<int>(boundingRect().width()), static_cast<int>(boundingRect().height()));
+    const QFontMetrics metrics(fontOfSize(textSize));
+    labelFont = {metrics.averageCharWidth(), metrics.ascent()};
     imageArea = layOut(size);
-    paintLayer(background, size, [this](QPainter &painter) {
-        if (!imageArea.isEmpty())
-            paintLegend(painter);
-    });
+    paintLayer(background, size, imageArea.isEmpty() ? Drawing() : legend());
 }
 
 void LayeredPlot::paintOnImage() {
-    paintLayer(image, imageArea.size(), [this](QPainter &painter) { paintData(painter); });
+    paintLayer(image, imageArea.size(), imageArea.isEmpty() ? Drawing() : data());
     emit imageReady();
-}
-
-QFont LayeredPlot::labelFont() const {
-    QFont font = QGuiApplication::font();
-    font.setPointSize(qMax(textSize, 1));
-    return font;
 }
 
 void LayeredPlot::componentComplete() {
@@ -88,8 +82,7 @@ void LayeredPlot::showData() {
     update();
 }
 
-template <typename PaintContent>
-void LayeredPlot::paintLayer(QPixmap &layer, const QSize &size, PaintContent paintContent) const {
+void LayeredPlot::paintLayer(QPixmap &layer, const QSize &size, const Drawing &drawing) const {
     if (layer.size() != size)
         layer = size.isEmpty() ? QPixmap() : QPixmap(size);
     if (layer.isNull())
@@ -97,6 +90,5 @@ void LayeredPlot::paintLayer(QPixmap &layer, const QSize &size, PaintContent pai
     layer.fill(backgroundColor);
     QPainter painter(&layer);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(labelFont());
-    paintContent(painter);
+    paintDrawing(drawing, painter);
 }

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "common/history-metatype.h"
+#include "visuals/drawing.h"
 
-#include <QColor>
-#include <QFont>
 #include <QPixmap>
 #include <QQuickPaintedItem>
 
@@ -48,20 +47,26 @@ signals:
 
 protected:
     static constexpr MasterFreqModeEnum NO_BAND = static_cast<MasterFreqModeEnum>(-1);
-    static constexpr int LEVEL_STEP_DB = 5; ///< spacing of the level labels
+
+    /// The labels' font, in pixels.
+    struct LabelFont {
+        int charW;  ///< average width of a character
+        int ascent; ///< from the base line up
+    };
 
     /// Works out the place of `image` in an item of this size, in pixels. The place may be empty: then
-    /// neither labels nor data are painted, so their painting need not mind an area without width or height.
-    virtual QRect layOut(const QSizeF &item) = 0;
-    /// Paints labels onto `background`, which is filled already; the painter has labelFont() set.
-    virtual void paintLegend(QPainter &painter) = 0;
-    /// Paints data onto `image`, which is filled already; (0, 0) is the plot area's corner, and the painter
-    /// has labelFont() set.
-    virtual void paintData(QPainter &painter) = 0;
+    /// neither labels nor data are asked for, so they need not mind an area without width or height.
+    virtual QRect layOut(const QSize &item) = 0;
+    /// The labels, in the item.
+    virtual Drawing legend() const = 0;
+    /// The data, in the plot area.
+    virtual Drawing data() const = 0;
 
     void paintBackground();
     void paintOnImage();
-    QFont labelFont() const;
+    Words words(int x, int baseLine, const QString &text, const QColor &color) const {
+        return {QPoint(x, baseLine), text, color, textSize};
+    }
 
     void componentComplete() override;
     void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
@@ -70,14 +75,14 @@ protected:
     QColor backgroundColor;
     int lineWidth = 2;
     int textSize = 10;
+    LabelFont labelFont{0, 0}; ///< known before layOut() is called
 
 private:
     Q_SIGNAL void imageReady();
 
     void rebuild();
     void showData();
-    template <typename PaintContent>
-    void paintLayer(QPixmap &layer, const QSize &size, PaintContent paintContent) const;
+    void paintLayer(QPixmap &layer, const QSize &size, const Drawing &drawing) const;
 
     QRect imageArea;
     QPixmap image;
