@@ -19,13 +19,9 @@ Drawing FreqPlot::legend() const {
     Drawing drawing;
     const int bottom = grid.height() + labelsHeight();
     for (const int level : LevelAxis::labels()) {
-        Words label =
-            words(level < -99 ? 0 : labelFont.charW,
-                  bottom - static_cast<int>(0.5 * textSize + LevelAxis::courseY(level, grid.height(), 0)),
-                  QString::number(level), textColor);
-        // In fonts with wide digits the longest labels would run under the picture.
-        label.room = leftPad() - label.place.x();
-        drawing.push_back(label);
+        const int above = LevelAxis::courseY(static_cast<float>(level), grid.height(), lineWidth);
+        drawing.push_back(levelLabel(level < -99 ? 0 : labelFont.charW,
+                                     bottom - static_cast<int>(0.5 * textSize + above), level));
     }
     return drawing;
 }

@@ -60,8 +60,10 @@ Drawing HistView::legend() const {
     Drawing drawing;
     if (historyFreqs.empty())
         return drawing;
-    for (const int level : LevelAxis::labels(MIN_LABEL_DB))
-        drawing.push_back(number(labelFont.charW, LevelAxis::blockY(level, rowHeight()) - textSize, level));
+    for (const int level : LevelAxis::labels(MIN_LABEL_DB)) {
+        const int top = LevelAxis::blockY(static_cast<float>(level), rowHeight()) - textSize;
+        drawing.push_back(levelLabel(labelFont.charW, top + labelFont.ascent, level));
+    }
     for (const Tick &tick : columnTicks(historyFreqs, grid.width(), labelFont.charW))
         if (tick.hasLabel)
             drawing.push_back(number(leftPad() + tick.labelX, grid.height(), tick.number));
