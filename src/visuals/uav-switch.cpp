@@ -3,24 +3,14 @@
 #include <QPainter>
 
 UavSwitch::UavSwitch(QQuickItem *parent)
-    : QQuickPaintedItem(parent) {
+    : UavSwitchItem(parent) {
     connect(
-        this, &UavSwitch::switchEnabledChanged, this, [this] { update(); });
-    connect(this, &UavSwitch::checkedChanged, this, [this] { update(); });
-}
-
-void UavSwitch::setSwitchEnabled(bool value) {
-    m_enabled = value;
-    emit switchEnabledChanged();
+        this, &UavSwitch::checkedChanged, this, [this] { update(); });
 }
 
 void UavSwitch::setChecked(bool value) {
     checked = value;
     emit checkedChanged();
-}
-
-void UavSwitch::paint(QPainter *painter) {
-    paintSwitch(painter, size());
 }
 
 void UavSwitch::drawChecked(QPainter *painter, int w, int h) {

@@ -3,11 +3,9 @@
 #include <QPainter>
 
 UavThreeSwitch::UavThreeSwitch(QQuickItem *parent)
-    : QQuickPaintedItem(parent) {
+    : UavSwitchItem(parent) {
     connect(
         this, &UavThreeSwitch::positionChanged, this, [this] { update(); });
-    connect(
-        this, &UavThreeSwitch::switchEnabledChanged, this, [this] { update(); });
     connect(this, &UavThreeSwitch::textChanged, this, [this] { update(); });
 }
 
@@ -16,18 +14,9 @@ void UavThreeSwitch::setText(const QString &value) {
     emit textChanged();
 }
 
-void UavThreeSwitch::setSwitchEnabled(bool value) {
-    m_enabled = value;
-    emit switchEnabledChanged();
-}
-
 void UavThreeSwitch::nextPosition() {
     position = position == SECOND ? OFF : static_cast<Position>(position + 1);
     emit positionChanged();
-}
-
-void UavThreeSwitch::paint(QPainter *painter) {
-    paintSwitch(painter, size());
 }
 
 void UavThreeSwitch::drawChecked(QPainter *painter, int w, int h) {
