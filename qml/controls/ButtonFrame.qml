@@ -29,7 +29,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: frame.radius
-        color: "darkgray"
+        color: themeData.pressedShadeColor
         opacity: 0.2
         visible: mouseArea.pressed
     }

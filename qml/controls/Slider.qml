@@ -30,14 +30,14 @@ Item {
             width: runner.x - 0.5 * runner.width || -1
             height: parent.height
             radius: height * 0.5
-            color: "#a4ebb6"
+            color: themeData.accentColor
         }
 
         Rectangle {
             width: parent.width - runner.x - 0.5 * runner.width
             height: parent.height
             radius: height * 0.5
-            color: "gray"
+            color: themeData.grooveColor
         }
     }
 
@@ -52,7 +52,7 @@ Item {
         width: parent.height / 2
         height: width
         radius: width * 0.5
-        color: "#a4ebb6"
+        color: themeData.accentColor
     }
 
     MouseArea {

@@ -17,7 +17,7 @@ Item {
         width: parent.width * 0.5
         height: width * 0.5
         radius: height * 0.5
-        color: item.checked ? "mediumseagreen" : "gray"
+        color: item.checked ? themeData.switchOnColor : themeData.grooveColor
     }
 
     Rectangle {
@@ -28,7 +28,7 @@ Item {
         width: bkg.height * 1.25
         height: width
         radius: width * 0.5
-        color: item.checked ? "#a4ebb6" : "white"
+        color: item.checked ? themeData.accentColor : themeData.switchOffKnobColor
 
         Behavior on x {
             SmoothedAnimation {

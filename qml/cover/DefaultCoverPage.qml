@@ -10,15 +10,6 @@ CoverElement {
     ListView {
         id: list
 
-        readonly property var typeColors: ({
-            " ----": "#93cddd",
-            "WIFI": "#00b050",
-            "DIG": "#ffc000",
-            "FPV": "#ff0000",
-            "BLOCK": "#cccccc",
-            "ALL": "#93cddd"
-        })
-
         anchors.fill: parent
         anchors.margins: Theme.paddingSmall
         spacing: Theme.paddingSmall
@@ -44,19 +35,19 @@ CoverElement {
             Rectangle {
                 width: parent.width
                 height: parent.height - freqText.height
-                color: list.typeColors[type]
+                color: decoration
 
                 Row {
                     anchors.centerIn: parent
                     spacing: list.spacing
 
                     Text {
-                        color: "black"
+                        color: themeData.darkTextColor
                         text: rssi
                     }
 
                     Text {
-                        color: "black"
+                        color: themeData.darkTextColor
                         text: type
                     }
                 }

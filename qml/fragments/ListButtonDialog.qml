@@ -58,7 +58,7 @@ Item {
             height: themeData.iconSizeMedium
             text: name
             textColor: themeData.darkTextColor
-            color: dialog.current === value ? "lightgray" : themeData.lightTextColor
+            color: dialog.current === value ? themeData.currentEntryColor : themeData.lightTextColor
             onClicked: {
                 dialog.selected(value)
                 dialog.end()

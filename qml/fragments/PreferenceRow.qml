@@ -33,7 +33,7 @@ Item {
 
             width: parent.width
             wrapMode: Text.WordWrap
-            color: "lightgray"
+            color: themeData.summaryTextColor
             font.pointSize: themeData.fontSizeSmall * 0.8
         }
     }

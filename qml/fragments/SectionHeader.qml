@@ -5,6 +5,6 @@ Text {
     anchors.right: parent.right
     anchors.leftMargin: themeData.fontSizeMedium
     wrapMode: Text.WordWrap
-    color: "#a4ebb6"
+    color: themeData.accentColor
     font.bold: true
 }

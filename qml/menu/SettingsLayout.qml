@@ -194,7 +194,7 @@ Item {
             fontSizeMode: Text.HorizontalFit
             minimumPointSize: 1
             font.pointSize: themeData.fontSizeLarge
-            color: "red"
+            color: themeData.testModeColor
             text: "TEST MODE"
             visible: usbService.isUsbActive && usbService.inTesting
         }

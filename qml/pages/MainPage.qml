@@ -98,9 +98,9 @@ Rectangle {
                 width: plots.width
                 height: rect.height
                 visible: false
-                backgroundColor: "#41505f"
+                backgroundColor: themeData.coursePlotBackground
                 textColor: themeData.lightTextColor
-                borderColor: "gray"
+                borderColor: themeData.gridColor
                 textSize: themeData.fontSizeTiny
                 lineWidth: themeData.fontSizeTiny * 0.2
                 lang: qsTr("language")
@@ -116,7 +116,7 @@ Rectangle {
                 visible: false
                 backgroundColor: themeData.darkTextColor
                 textColor: themeData.lightTextColor
-                borderColor: "gray"
+                borderColor: themeData.gridColor
                 textSize: themeData.fontSizeTiny
                 lineWidth: themeData.fontSizeTiny * 0.2
                 // The view's own property: the data come by setHistory alone.

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "common/sig-type-colors.h"
+
 #include <QObject>
 
 /// Every size and colour on the screen. Sizes follow the window's width and height, which the root document
@@ -18,6 +19,16 @@ class ThemeData : public QObject {
     Q_PROPERTY(QColor fpvColor READ getFpvColor NOTIFY changed)
     Q_PROPERTY(QColor barPlotBorder READ getBarPlotBorder NOTIFY changed)
     Q_PROPERTY(QColor maskColor READ getMaskColor NOTIFY changed)
+    Q_PROPERTY(QColor accentColor READ getAccentColor NOTIFY changed)
+    Q_PROPERTY(QColor gridColor READ getGridColor NOTIFY changed)
+    Q_PROPERTY(QColor coursePlotBackground READ getCoursePlotBackground NOTIFY changed)
+    Q_PROPERTY(QColor grooveColor READ getGrooveColor NOTIFY changed)
+    Q_PROPERTY(QColor switchOnColor READ getSwitchOnColor NOTIFY changed)
+    Q_PROPERTY(QColor switchOffKnobColor READ getSwitchOffKnobColor NOTIFY changed)
+    Q_PROPERTY(QColor pressedShadeColor READ getPressedShadeColor NOTIFY changed)
+    Q_PROPERTY(QColor summaryTextColor READ getSummaryTextColor NOTIFY changed)
+    Q_PROPERTY(QColor currentEntryColor READ getCurrentEntryColor NOTIFY changed)
+    Q_PROPERTY(QColor testModeColor READ getTestModeColor NOTIFY changed)
 
     Q_PROPERTY(int fontSizeTiny READ getFontSizeTiny NOTIFY sizeChanged)
     Q_PROPERTY(int fontSizeSmall READ getFontSizeSmall NOTIFY sizeChanged)
@@ -45,11 +56,26 @@ public:
     QColor getLightTextColor() const { return Qt::white; }
     QColor getDisabledTextColor() const { return Qt::darkGray; }
     QColor getDarkTextColor() const { return Qt::black; }
-    QColor getWifiColor() const { return QColor::fromRgba(0xff00b050); }
-    QColor getDigColor() const { return QColor::fromRgba(0xffffc000); }
-    QColor getFpvColor() const { return QColor::fromRgba(0xffff0000); }
+    QColor getWifiColor() const { return SigTypeColors::getColor(SigTypeEnum::WIFI); }
+    QColor getDigColor() const { return SigTypeColors::getColor(SigTypeEnum::DIG); }
+    QColor getFpvColor() const { return SigTypeColors::getColor(SigTypeEnum::FPV); }
     QColor getBarPlotBorder() const { return QColor::fromRgba(0xff6d7683); }
     QColor getMaskColor() const { return QColor(51, 166, 50); }
+    /// Of headings and of what can be set.
+    QColor getAccentColor() const { return QColor::fromRgba(0xffa4ebb6); }
+    /// Of the lines in the course plot and the persistence picture.
+    QColor getGridColor() const { return QColor::fromRgba(0xff808080); }
+    QColor getCoursePlotBackground() const { return QColor::fromRgba(0xff41505f); }
+    /// Of what a slider or a switch leaves unfilled.
+    QColor getGrooveColor() const { return QColor::fromRgba(0xff808080); }
+    QColor getSwitchOnColor() const { return QColor::fromRgba(0xff3cb371); }
+    QColor getSwitchOffKnobColor() const { return QColor::fromRgba(0xffffffff); }
+    /// Lies over a button that is held down.
+    QColor getPressedShadeColor() const { return QColor::fromRgba(0xffa9a9a9); }
+    QColor getSummaryTextColor() const { return QColor::fromRgba(0xffd3d3d3); }
+    /// Of the entry of a list that is in force.
+    QColor getCurrentEntryColor() const { return QColor::fromRgba(0xffd3d3d3); }
+    QColor getTestModeColor() const { return QColor::fromRgba(0xffff0000); }
 
     /// Font sizes in points.
     int getFontSizeTiny() const;
