@@ -38,8 +38,8 @@ QHash<int, QByteArray> HistoryListModel::roleNames() const {
 }
 
 void HistoryListModel::setConfig(MsgHolder holder) {
-    const auto config = holder.getAs<ConfigMsg>(MsgTypeEnum::CONFIG);
-    if (!config || static_cast<int>(config->getProto()) == proto)
+    const auto config = holder.getAs<ConfigMsg>();
+    if (!config)
         return;
     const auto bands = Proto(config->getProto()).getMasterModes();
     beginResetModel();
@@ -51,7 +51,7 @@ void HistoryListModel::setConfig(MsgHolder holder) {
 }
 
 void HistoryListModel::acceptScanResult(MsgHolder holder) {
-    const auto scan = holder.getAs<ScanResultMsg>(MsgTypeEnum::SCAN_RESULT);
+    const auto scan = holder.getAs<ScanResultMsg>();
     if (!scan)
         return;
     const auto freqs = scan->getFreqs();

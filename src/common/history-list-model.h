@@ -12,7 +12,7 @@ class HistoryListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    enum Role { MasterModeRole = Qt::UserRole, HistoryRole };
+    enum Role { MasterModeRole = Qt::UserRole, HistoryRole }; // No caller today.
 
     explicit HistoryListModel(QObject *parent = nullptr);
 
@@ -21,11 +21,15 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     /// Lays out the bands anew with empty histories; messages of another type are ignored.
+    /// On purpose: each CONFIG does, also one of the same generation. The screens start anew with what the
+    /// device now says it scans.
     Q_INVOKABLE void setConfig(MsgHolder holder);
-    /// Files a scan. A result goes to every band whose widest range holds it, limits included; a band without
-    /// results is given an empty scan. Messages of another type and scans without results are ignored.
+    /// Files a scan. A result goes to every band whose widest range holds it, limits included. Messages of
+    /// another type and scans without results are ignored.
+    /// On purpose: a band without results is given an empty scan, so that its views do not go on showing a
+    /// scan that is over.
     Q_INVOKABLE void acceptScanResult(MsgHolder holder);
-    /// A copy; raises std::out_of_range for a row that is none.
+    /// A copy; throws std::out_of_range for a row that is none.
     Q_INVOKABLE History getHistory(int row) const;
 
 signals:
@@ -38,6 +42,4 @@ private:
     };
 
     std::vector<_listData> m_data;
-    /// Equal to no generation, always: each CONFIG starts the histories and the screen's rows anew.
-    const int proto = -1;
 };

@@ -42,6 +42,7 @@ void AbstractUavSwitch::drawBorder(QPainter *painter, int w, int h) const {
     painter->setBrush(m_enabled ? textBack : bckgClr);
     painter->drawPolygon(label);
     painter->setPen(QPen(Qt::white, lineWidth));
+    // On purpose: not closed. The head covers that side.
     painter->drawPolyline(label);
 
     const QRect head(lineWidth, lineWidth, h, h);

@@ -56,7 +56,8 @@ Drawing BarScanResultPlot::data() const {
         drawing.push_back(bar);
     drawing.push_back(FilledRect{QRect(0, height - lineWidth, width, 2 * lineWidth), innerBorderColor});
     for (std::size_t i = 0; i < PLOT_LEVELS.size(); ++i) {
-        // Counted from the top, unlike the bars and the labels: the lines stand mirrored on purpose.
+        // On purpose: counted from the top, unlike the bars and the labels, so that the lines stand mirrored
+        // against the axis. They are where users know them.
         const int y = LevelAxis::barHeight(PLOT_LEVELS[i], height);
         // A dash without length would never get to the end of the line.
         drawing.push_back(DrawnLine{QLine(0, y, width, y), QColor::fromRgba(PLOT_COLORS[i]), lineWidth,

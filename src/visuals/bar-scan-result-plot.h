@@ -24,7 +24,7 @@ public:
     QColor getInnerBorderColor() const { return innerBorderColor; }
     void setInnerBorderColor(const QColor &color) { innerBorderColor = color; }
 
-    /// Raises std::out_of_range for a band with fewer than two frequencies.
+    /// Throws std::out_of_range for a band with fewer than two frequencies.
     void setHistory(History history) override;
 
 protected:

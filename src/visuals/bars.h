@@ -7,6 +7,7 @@
 #include <QSize>
 #include <vector>
 
-/// One bar for each result inside the band, in a plot of this size in pixels: from its frequency to the
-/// right, as high as its level, in the colour of its signal class.
+/// One bar for each result inside the band, in a plot of this size in pixels, in the colour of its class.
+/// On purpose: from its frequency to the right, not around it, and as high as its level without decimals.
+/// `visible` plays no part.
 std::vector<FilledRect> barsOf(const History::Scan &scan, const BandAxis &axis, const QSize &plot);

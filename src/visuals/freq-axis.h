@@ -14,13 +14,14 @@ struct BandAxis {
     float barWidth = 0; ///< from one frequency of the band to the next
 
     BandAxis() = default;
-    /// Raises std::out_of_range for a band that there is not, or with fewer than two frequencies.
+    /// Throws std::out_of_range for what is no band, or for one with fewer than two frequencies.
     explicit BandAxis(MasterFreqModeEnum band);
 
     bool holds(float freqMHz) const { return !(freqMHz < minFreq || freqMHz > maxFreq); }
     /// Pixels from the left end of an axis of this width; what lies outside stands at the end.
     int x(float freqMHz, int width) const;
-    /// The multiples of 200 MHz from the lower limit on and below the upper one.
+    /// The multiples of 200 MHz from the lower limit on.
+    /// On purpose: without the upper limit, whose label would stand outside of the plot.
     std::vector<int> labels() const;
 };
 

@@ -46,7 +46,7 @@ void FreqPlotModel::setScan(MsgHolder holder) {
     timer->start(CLEAR_AFTER_MS);
     beginResetModel();
     maxFreqs.clear();
-    if (const auto scan = holder.getAs<ScanResultMsg>(MsgTypeEnum::SCAN_RESULT)) {
+    if (const auto scan = holder.getAs<ScanResultMsg>()) {
         for (const auto &result : scan->getFreqs()) {
             if (maxFreqs.size() == MAX_FREQS_DISPLAYED)
                 break;

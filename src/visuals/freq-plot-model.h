@@ -8,8 +8,9 @@
 #include <vector>
 
 /// The strongest frequencies of the newest scan for the cover page: always three rows, blank ones where there
-/// are no more. Ten seconds without a scan clear it. Lives on the UI thread; needs no application object
-/// before the first scan.
+/// are no more. Lives on the UI thread; needs no application object before the first scan.
+/// On purpose: ten seconds without a scan clear it, and each further ten clear it again. The timer is simply
+/// never stopped.
 class FreqPlotModel : public QAbstractListModel {
     Q_OBJECT
 

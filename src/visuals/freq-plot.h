@@ -4,8 +4,7 @@
 #include "visuals/signal-course.h"
 
 /// How the level of a band's strongest classified signal went over the last scans: a line over time, now at
-/// the right edge, with the signal's frequency and class in words. Stronger levels lie lower, against the
-/// labels, on purpose.
+/// the right edge, with the signal's frequency and class in words.
 class FreqPlot : public GridPlot {
     Q_OBJECT
     Q_PROPERTY(QString lang READ getLang WRITE setLang)

@@ -5,15 +5,15 @@
 /// The persistence picture of a band's last scans: frequency to the right, level downwards, one block for
 /// each point of each scan in the colour of its signal class. The newest scan is opaque, older ones fade.
 ///
-/// Blocks stand by column and grid lines by frequency, so a band's frequencies are to be evenly spaced.
+/// On purpose: blocks stand by column and grid lines by frequency. A band's frequencies are evenly spaced.
 class HistView : public GridPlot {
     Q_OBJECT
 
 public:
     explicit HistView(QQuickItem *parent = nullptr);
 
-    /// A history without rows leaves the former picture in place. Raises std::out_of_range for a band that
-    /// there is not.
+    /// Throws std::out_of_range for what is no band.
+    /// On purpose: a history without rows leaves the former picture in place, until the next scan.
     void setHistory(History history) override;
 
 protected:
@@ -24,7 +24,7 @@ protected:
 private:
     Q_SIGNAL void freqsChanged();
 
-    /// Looks at the number of columns, the first and the last one.
+    /// On purpose: looks at the number of columns, the first and the last one alone. The axis needs no more.
     bool hasColumns(const std::vector<float> &freqs) const;
     /// Pixels for 1 dB: the grid has a row for each from the weak end to the strong one.
     int rowHeight() const;

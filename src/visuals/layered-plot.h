@@ -27,14 +27,14 @@ public:
 
     /// Width of grid lines and curves, in pixels.
     int getLineWidth() const { return lineWidth; }
-    /// Ignores 0: a width computed from a small font keeps the former one.
+    /// On purpose: ignores 0. A width computed from a small font keeps the former one.
     void setLineWidth(int width);
 
     /// Size of the labels, in points.
     int getTextSize() const { return textSize; }
     void setTextSize(int size);
 
-    /// An empty history of the band on show; what was set is not given back.
+    /// On purpose: an empty history of the band on show. What was set is not given back, as nobody reads it.
     History getHistory() const;
     Q_INVOKABLE virtual void setHistory(History history) = 0;
 

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// What a plot of one band needs to lay out its frequency axis. All in MHz.
+/// What a plot of one band needs to lay out its frequency axis. All in MHz. No caller today.
 class PlotData : public QObject {
     Q_OBJECT
     Q_PROPERTY(float minFreq READ getMinFreq WRITE setMinFreq NOTIFY changed)

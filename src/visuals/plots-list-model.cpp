@@ -33,7 +33,7 @@ bool PlotListModel::setData(const QModelIndex &index, const QVariant &value, int
     case PlotDataRole:
         return insert(index.row(), qobject_cast<PlotData *>(value.value<QObject *>()));
     case ConfigMsgRole:
-        if (const auto config = value.value<MsgHolder>().getAs<ConfigMsg>(MsgTypeEnum::CONFIG))
+        if (const auto config = value.value<MsgHolder>().getAs<ConfigMsg>())
             setConfigMsg(*config);
         else
             set({});
@@ -64,7 +64,7 @@ QHash<int, QByteArray> PlotListModel::roleNames() const {
 }
 
 void PlotListModel::setConfig(MsgHolder msg) {
-    if (const auto config = msg.getAs<ConfigMsg>(MsgTypeEnum::CONFIG))
+    if (const auto config = msg.getAs<ConfigMsg>())
         setConfigMsg(*config);
 }
 

@@ -8,7 +8,7 @@
 #include <QList>
 #include <QSharedPointer>
 
-/// The frequency axes of a generation's bands, one row each. Lives on the UI thread.
+/// The frequency axes of a generation's bands, one row each. Lives on the UI thread. No caller today.
 class PlotListModel : public QAbstractListModel {
     Q_OBJECT
 

@@ -61,6 +61,7 @@ bool RangesListModel::setData(const QModelIndex &index, const QVariant &value, i
     const auto end = qScopeGuard([this] { endResetModel(); });
     if (role == IntRangeRole)
         setRange(row, value.toInt());
+    // On purpose: a range runs on and is taken for a position too. No screen writes a range.
     if (role == IntRangeRole || role == ValueRangeRole)
         setPosition(row, value.toInt());
     return true;
@@ -94,7 +95,7 @@ QHash<int, QByteArray> RangesListModel::roleNames() const {
 }
 
 void RangesListModel::setConfig(MsgHolder msg) {
-    const auto config = msg.getAs<ConfigMsg>(MsgTypeEnum::CONFIG);
+    const auto config = msg.getAs<ConfigMsg>();
     if (!config)
         return;
     beginResetModel();

@@ -24,21 +24,25 @@ public:
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    /// Takes the first two roles. The last active band cannot be switched off: its first range is taken
-    /// instead.
+    /// Takes the first two roles.
+    /// On purpose: the last active band cannot be switched off, since a device needs one to scan. Its first
+    /// range is taken instead.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    /// On purpose: the first row has no flags and is edited all the same. The screens write without asking.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// Shows the bands of a CONFIG's generation and its active ranges; other messages are ignored. Raises
+    /// Shows the bands of a CONFIG's generation and its active ranges; other messages are ignored. Throws
     /// std::out_of_range for a range that is none of these bands'.
+    /// On purpose: the later of two ranges of one band wins, since a switch can show but one.
     Q_INVOKABLE void setConfig(MsgHolder msg);
     /// The active ranges as `FreqModeEnum` in the order of the bands.
     Q_INVOKABLE QList<int> getRanges() const;
     Q_INVOKABLE int getNumRanges() const;
 
 signals:
-    /// The user has switched a band. A CONFIG does not emit it, or it would be sent back.
+    /// The user has switched a band.
+    /// On purpose: a CONFIG does not emit it, or it would be sent back.
     void rangesChanged();
 
 private:

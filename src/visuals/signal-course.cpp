@@ -8,7 +8,8 @@ void SignalCourse::follow(const Rows &levels, const std::vector<float> &freqs) {
     if (levels.empty() || freqs.empty())
         return;
     const auto &newest = levels.back();
-    // Stays 0 where nothing is stronger than the first column, which so is never followed itself, on purpose.
+    // On purpose: the first column is never followed itself. It is what the others have to beat, and stays
+    // chosen where none does.
     std::size_t best = 0;
     for (std::size_t column = 1; column < newest.size(); ++column) {
         const auto &point = newest[column];
@@ -19,7 +20,7 @@ void SignalCourse::follow(const Rows &levels, const std::vector<float> &freqs) {
         return;
     freq = static_cast<int>(bounded(freqs.at(best)));
     sigType = newest[best].sigType;
-    // The oldest row is left out on purpose.
+    // On purpose: without the oldest row, which a full history drops next.
     for (auto row = levels.rbegin(); row != levels.rend() - 1 && row->at(best).sigType == sigType; ++row)
         points.push_back(row->at(best));
 }

@@ -17,7 +17,8 @@ struct SignalCourse {
     std::vector<History::_HistoryPoint> points; ///< newest first; empty where no signal is followed
 
     /// Picks the signal from the newest row and follows it back for as long as its class stays the same.
-    /// Without one, frequency and class stay as they were. `freqs` in MHz, one for each column.
+    /// On purpose: without one, frequency and class stay as they were. Nothing shows them without points.
+    /// `freqs` in MHz, one for each column.
     void follow(const Rows &levels, const std::vector<float> &freqs);
 
     /// From the oldest point to the newest, in milliseconds; 0 without points.

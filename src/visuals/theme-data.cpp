@@ -23,7 +23,7 @@ int ThemeData::getFontSizeMedium() const {
     return fontSize(0.02, 1.5);
 }
 int ThemeData::getFontSizeLarge() const {
-    return fontSize(0.025, 1.25);
+    return fontSize(0.025, 1.25); // On purpose: not 1.5. Headings are to fit a narrow window too.
 }
 
 int ThemeData::getIconSizeSmall() const {

@@ -88,26 +88,27 @@ public:
     int getIconSizeLarge() const;
     int getButtonSizeSmall() const;
     int getButtonSizeMedium() const;
-    int getButtonSizeLarge() const;
+    int getButtonSizeLarge() const; ///< No caller today.
 
     /// Height of the menu panel at the bottom of the window, in pixels.
     int getMenuHeight() const { return menuHeight; }
     void setMenuHeight(int height);
-    /// Stored without a signal.
+    /// On purpose: stored without a signal. No caller today.
     int getHelpFragmentHeight() const { return helpFragmentHeight; }
     void setHelpFragmentHeight(int height) { helpFragmentHeight = height; }
-    /// In pixels; stored without a signal, since the writer emits sizeChanged().
+    /// In pixels.
+    /// On purpose: stored without a signal. The writer emits sizeChanged().
     int getWindowWidth() const { return windowWidth; }
     void setWindowWidth(int width) { windowWidth = width; }
     int getWindowHeight() const { return windowHeight; }
     void setWindowHeight(int height) { windowHeight = height; }
 
 signals:
-    /// Never emitted: the colours are constant.
+    /// On purpose: never emitted. The colours are constant.
     void changed();
     void sizeChanged();
     void menuHeightChanged();
-    void helpFragmentHeightChanged();
+    void helpFragmentHeightChanged(); ///< On purpose: never emitted, as told above. No caller today.
 
 private:
     int fontSize(double share, double widthFactor) const;

@@ -18,11 +18,12 @@ public:
     QString getText() const { return text; }
     void setText(const QString &value);
     Position getPosition() const { return position; }
-    /// Emits nothing: only a step of the user does.
+    /// On purpose: emits nothing. Only a step of the user does, and what has taken it.
     void setPosition(Position value) { position = value; }
 
     /// Steps on, from the last position to OFF.
     Q_INVOKABLE void nextPosition();
+    /// No caller today.
     Q_INVOKABLE int numPosition() const { return position; }
 
 signals:
