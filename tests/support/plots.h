@@ -1,120 +1,102 @@
 #pragma once
 
 #include "common/history.h"
-#include "common/sig-type-colors.h"
-#include "visuals/grid-plot.h"
+#include "scans.h"
+#include "visuals/layered-plot.h"
 
-#include <QFontMetrics>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-
-/// What a point of a scan is; the first column is at 2400 MHz, each further one 10 MHz above.
-struct Signal {
-    float rssi;
-    SigTypeEnum type;
-};
-using Scan = std::vector<Signal>;
+#include <QRegularExpression>
 
 /// A history of these scans, oldest first, so many milliseconds apart.
-inline History historyOf(const std::vector<Scan> &scans, std::int64_t apartMs = 100, float firstMHz = 2400) {
-    History history(MasterFreqModeEnum::R_2400, History::DEFAULT_HISTORY_LEN);
+inline History historyOf(const std::vector<std::vector<Found>> &scans, int apartMs = 100,
+                         MasterFreqModeEnum band = MasterFreqModeEnum::R_2400) {
+    History history(band, History::DEFAULT_HISTORY_LEN);
     std::int64_t nowMs = 5000;
-    for (const Scan &scan : scans) {
-        History::Scan results;
-        for (const Signal &signal : scan) {
-            const float freq = firstMHz + 10.0f * static_cast<float>(results.size());
-            results.push_back(std::make_shared<FreqScanResult>(
-                FreqScanResultBuilder().freqMHz(freq).rssi(signal.rssi).type(signal.type).build()));
-        }
-        history.acceptScan(results, nowMs);
-        nowMs += apartMs;
-    }
+    for (const auto &scan : scans)
+        history.acceptScan(resultsOf(scan), nowMs += apartMs);
     return history;
 }
 
-/// A view of a history whose grid is 40 characters wide and has a height of its own choice, in pixels.
+/// How a shape looks and where it stands: "#ff0000:" and "0,298 400x4", "2px dash 0 #0000ff:" and
+/// "0,50 to 400,50", "10pt room 28 #eeeeee:" and "'-105' 0,317".
+using Told = std::pair<QString, QString>;
+inline QString nameOf(const QColor &color) {
+    return color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) + ":";
+}
+inline Told tell(const FilledRect &rect) {
+    const QRect &r = rect.place;
+    return {nameOf(rect.color), QString::asprintf("%d,%d %dx%d", r.x(), r.y(), r.width(), r.height())};
+}
+inline Told tell(const DrawnLine &line) {
+    const QLine &l = line.place;
+    return {QString("%1px dash %2 ").arg(line.width).arg(line.dash) + nameOf(line.color),
+            QString::asprintf("%d,%d to %d,%d", l.x1(), l.y1(), l.x2(), l.y2())};
+}
+inline Told tell(const Words &words) {
+    return {QString("%1pt room %2 ").arg(words.pointSize).arg(words.room) + nameOf(words.color),
+            QString("'%1' %2,%3").arg(words.text).arg(words.place.x()).arg(words.place.y())};
+}
+
+/// The shapes in order, and before those that look different how they look.
+inline QStringList told(const Drawing &drawing) {
+    QStringList all;
+    QString former;
+    for (const auto &shape : drawing) {
+        const auto [look, place] = std::visit([](const auto &known) { return tell(known); }, shape);
+        if (look != former)
+            all << look;
+        all << place;
+        former = look;
+    }
+    return all;
+}
+/// The same from a table.
+inline QStringList table(const QString &text) {
+    return text.trimmed().split(QRegularExpression("; |\\s*\n\\s*"));
+}
+
+/// A view whose labels have a font of its own, 7 pixels a character and 9 above the base line.
 template <typename Plot>
-class SizedGridPlot : public Plot {
+class Shown : public Plot {
 public:
-    static constexpr int TEXT = 10;
-
-    SizedGridPlot(int topPad, int gridHeight)
-        : charW(averageCharWidth(TEXT))
-        , origin(4 * charW, topPad)
-        , width(40 * charW)
-        , height(gridHeight) {
-        this->setBackgroundColor(Qt::black);
-        this->setTextColor(Qt::white);
-        this->setBorderColor(Qt::blue);
-        this->setTextSize(TEXT);
-        this->setSize(QSizeF(origin.x() + width, topPad + height + 2 * TEXT));
+    explicit Shown(const QSize &size = {100, 100}, int points = 10) {
+        this->setProperty("backgroundColor", QColor("#101010"));
+        this->setProperty("textColor", QColor("#eeeeee"));
+        this->setProperty("borderColor", QColor("#0000ff"));
+        this->setProperty("innerBorderColor", QColor("#0000ff"));
+        resize(size, points, 2);
+    }
+    void resize(const QSize &size, int points, int pixels) {
+        this->setSize(size);
+        this->setProperty("lineWidth", pixels);
+        this->setProperty("textSize", points);
     }
 
-    static int averageCharWidth(int textSize) {
-        QFont font = QGuiApplication::font();
-        font.setPointSize(qMax(textSize, 1));
-        return QFontMetrics(font).averageCharWidth();
-    }
+    using Plot::data;
+    using Plot::legend;
+    QStringList shapes() const { return told(legend()) + told(data()); }
 
     QImage picture() {
         QImage shown(this->boundingRect().size().toSize(), QImage::Format_RGB32);
-        shown.fill(Qt::magenta);
         QPainter painter(&shown);
         this->paint(&painter);
         return shown;
     }
 
-    /// The colour at a place of the grid.
-    QColor at(int x, int y) { return picture().pixelColor(origin + QPoint(x, y)); }
+    QRect plotArea; ///< the place of the data in the item
 
-    /// Where vertical lines of two pixels stand; all have to cross the line at 5 pixels from the top.
-    std::vector<int> columns() {
-        const QImage shown = picture();
-        const auto isGrid = [&](int x) {
-            return x < 0 || shown.pixelColor(origin + QPoint(x, 5)) == QColor(Qt::blue);
-        };
-        std::vector<int> found;
-        for (int x = 0; x < width; ++x)
-            if (isGrid(x) && isGrid(x - 1))
-                found.push_back(x);
-        return found;
+protected:
+    QRect layOut(const QSize &item) override {
+        this->labelFont = {7, 9};
+        return plotArea = Plot::layOut(item);
     }
-
-    /// Whether there is text somewhere in an area of the item.
-    bool hasText(const QRect &area) {
-        const QImage cut = picture().copy(area);
-        for (int y = 0; y < cut.height(); ++y)
-            for (int x = 0; x < cut.width(); ++x)
-                if (cut.pixelColor(x, y) == QColor(Qt::white))
-                    return true;
-        return false;
-    }
-    /// The line of labels below the grid.
-    QRect labels() const { return QRect(0, origin.y() + height, origin.x() + width, 2 * TEXT); }
-
-    const int charW;
-    const QPoint origin;
-    const int width;
-    const int height;
 };
 
-/// Shows histories in views that are too small for their labels; it has to come to an end.
-template <typename Plot>
-bool staysEmptyWithoutRoom(const std::vector<History> &histories) {
-    bool empty = true;
-    for (const int text : {0, 3, 20}) {
-        for (const int side : {1, 5, 40, 64}) {
-            SizedGridPlot<Plot> plot(0, 0);
-            plot.setTextSize(text);
-            plot.setSize(QSizeF(side, side));
-            for (const History &history : histories) {
-                plot.setHistory(history);
-                QImage background(side, side, QImage::Format_RGB32);
-                background.fill(Qt::black);
-                empty = empty && (side > 4 * plot.averageCharWidth(text) || plot.picture() == background);
-            }
-        }
-    }
-    return empty;
-}
+/// What a view shows in an item of a size.
+struct Standing {
+    QSize size;
+    int textSize;
+    int lineWidth;
+    const char *shapes;
+};

@@ -2,114 +2,70 @@
 
 #include "plots.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-using testing::Contains;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
+static constexpr auto NONE = SigTypeEnum::NONE, WIFI = SigTypeEnum::WIFI, DIG = SigTypeEnum::DIG;
+using Scans = std::vector<std::vector<Found>>;
 
-static constexpr SigTypeEnum NONE = SigTypeEnum::NONE;
-static constexpr SigTypeEnum WIFI = SigTypeEnum::WIFI;
-static constexpr SigTypeEnum DIG = SigTypeEnum::DIG;
-static const QColor CURVE = SigTypeColors::getColor(DIG);
-static const QColor BACKGROUND = Qt::black;
-static const QColor GRID = Qt::blue;
-
-/// Four pixels for each dB.
-class FreqPlotTest : public testing::Test {
-protected:
-    /// The square in front of the caption.
-    QColor swatch() { return plot.at(15, 15); }
-
-    SizedGridPlot<FreqPlot> plot{SizedGridPlot<FreqPlot>::TEXT, 120};
-};
-
-TEST_F(FreqPlotTest, DrawsTheStrongestSignalFromTheRowAfterTheOldestToNow) {
-    struct {
-        float before, now;
-        int yBefore, yNow;
-    } const cases[] = {{-88, -78, 68, 108}, {-78, -88, 108, 68}, {-110, -70, 0, 117}};
-    const int c = plot.charW;
-    for (const auto &[before, now, yBefore, yNow] : cases) {
-        std::vector<Scan> scans;
-        for (const float rssi : {-100.0f, before, before, now, now})
-            scans.push_back({{-99, NONE}, {-94, WIFI}, {rssi, DIG}, {-60, NONE}});
-        plot.setHistory(historyOf(scans));
-        EXPECT_EQ(plot.at(6 * c, yBefore), CURVE) << before;
-        EXPECT_EQ(plot.at(34 * c, yNow), CURVE) << now;
-        EXPECT_NE(plot.at(6 * c, yNow), CURVE) << now;
-        EXPECT_NE(plot.at(34 * c, yBefore), CURVE) << before;
-        EXPECT_EQ(swatch(), CURVE);
+TEST(FreqPlot, StandsAsToldInEverySizeAndLanguage) {
+    const std::pair<const char *, Standing> cases[] = {{"language", {{428, 150}, 10, 2, R"(
+        10pt room 28 #eeeeee:; '-105' 0,135; '-100' 0,115
+        10pt room 21 #eeeeee:; '-95' 7,95; '-90' 7,75; '-85' 7,55; '-80' 7,35; '-75' 7,15
+        2px dash 0 #0000ff:; 0,0 to 400,0; 0,20 to 400,20; 0,40 to 400,40; 0,60 to 400,60; 0,80 to 400,80
+        0,100 to 400,100; 0,120 to 400,120; 400,0 to 400,120; 10pt room 0 #eeeeee:; '0' 400,129
+        2px dash 0 #0000ff:; 200,0 to 200,120; 10pt room 0 #eeeeee:; '1' 196,129
+        #ffc000:; 10,10 10x10; 2px dash 0 #ffc000:; 400,108 to 200,68; 200,68 to 0,118
+        15pt room 0 #eeeeee:; '2420MHz DIG' 27,25)"}},
+                                                       {"ru", {{229, 123}, 21, 3, R"(
+        21pt room 28 #eeeeee:; '-105' 0,92; '-100' 0,82
+        21pt room 21 #eeeeee:; '-95' 7,72; '-90' 7,62; '-85' 7,52; '-80' 7,42; '-75' 7,32
+        3px dash 0 #0000ff:; 0,0 to 201,0; 0,10 to 201,10; 0,20 to 201,20; 0,30 to 201,30; 0,40 to 201,40
+        0,50 to 201,50; 0,60 to 201,60; 201,0 to 201,60; 21pt room 0 #eeeeee:; '0' 201,69
+        3px dash 0 #0000ff:; 101,0 to 101,60; 21pt room 0 #eeeeee:; '1' 97,69
+        #ffc000:; 21,21 21x21; 3px dash 0 #ffc000:; 201,54 to 100,34; 100,34 to 0,57
+        31pt room 0 #eeeeee:; '2420МГц DIG' 49,52)"}}};
+    Scans scans;
+    for (const float rssi : {-100.0f, -70.0f, -88.0f, -78.0f})
+        scans.push_back({{2400, -99, NONE}, {2410, -94, WIFI}, {2420, rssi, DIG}, {2430, -60, NONE}});
+    Shown<FreqPlot> plot;
+    plot.setHistory(historyOf(scans, 1000));
+    for (const auto &[lang, standing] : cases) {
+        plot.setProperty("lang", lang);
+        plot.resize(standing.size, standing.textSize, standing.lineWidth);
+        EXPECT_EQ(plot.shapes(), table(standing.shapes));
     }
+    plot.setHistory(historyOf(scans, 0));
+    EXPECT_EQ(told(plot.data()).mid(8),
+              table("#ffc000:; 21,21 21x21; 31pt room 0 #eeeeee:; '2420МГц DIG' 49,52"))
+        << "scans of one millisecond have neither axis nor curve";
+    plot.setHistory(History());
+    EXPECT_EQ(told(plot.data()).mid(7), table(R"(0,60 to 201,60; 0,0 to 0,60; 36,0 to 36,60; 72,0 to 72,60
+        108,0 to 108,60; 144,0 to 144,60; 180,0 to 180,60)"));
 }
 
-TEST_F(FreqPlotTest, CaptionNamesFrequencyAndClassInTheUnitOfTheLanguage) {
-    const QPoint place(20 + plot.charW, 25);
-    const QRect area(plot.origin + QPoint(place.x(), 8), QSize(plot.width - place.x(), 24));
-    const auto texts = [](const QImage &image) {
-        return image.createMaskFromColor(qRgb(255, 255, 255)).convertToFormat(QImage::Format_Mono);
+TEST(SignalCourse, FollowsTheStrongestSignalFromNowToTheRowAfterTheOldest) {
+    const auto scan = [](SigTypeEnum type, float rssi = -80) {
+        return std::vector<Found>{{2400, -105, NONE}, {2410.9f, rssi, type}};
     };
-    for (const auto &[lang, text] :
-         {std::pair("language", "2410MHz DIG"), {"RU", "2410MHz DIG"}, {"ru", "2410МГц DIG"}}) {
-        plot.setLang(lang);
-        plot.setHistory(historyOf({3, {{-99, NONE}, {-80, DIG}}}, 0));
-        QImage expected(plot.picture().size(), QImage::Format_RGB32);
-        expected.fill(Qt::black);
-        QPainter painter(&expected);
-        painter.setRenderHint(QPainter::Antialiasing);
-        QFont font = QGuiApplication::font();
-        font.setPointSize(15);
-        painter.setFont(font);
-        painter.setPen(Qt::white);
-        painter.drawText(plot.origin + place, QString(text));
-        EXPECT_EQ(texts(plot.picture().copy(area)), texts(expected.copy(area))) << lang;
+    const std::vector<std::tuple<const char *, Scans, std::size_t>> cases = {
+        {"all but the oldest row", {4, scan(DIG)}, 3},
+        {"no scan", {}, 0},
+        {"an empty scan", {{}}, 0},
+        {"nothing but the oldest row", {scan(DIG)}, 0},
+        {"another class before", {scan(DIG), scan(DIG), scan(WIFI), scan(DIG), scan(DIG)}, 2},
+        {"the first column is the strongest", {4, {{2400, -80}, {2410.9f, -80, DIG}}}, 0},
+        {"a first column without a class hides weaker ones", {4, {{2400, -80, NONE}, {2410.9f, -81}}}, 0},
+        {"the stronger of two", {4, {{2400, -99}, {2420, -82, WIFI}, {2410.9f, -81}, {2430, -82}}}, 3},
+        {"the first of two alike", {4, {{2400, -99}, {2410.9f, -81}, {2430, -81, WIFI}}}, 3},
+        {"no level above -95", {4, scan(DIG, -95)}, 0},
+        {"barely above -95", {4, scan(DIG, -94.9f)}, 3},
+        {"no class", {4, scan(NONE)}, 0}};
+    SignalCourse course;
+    for (const auto &[what, scans, points] : cases) {
+        const History history = historyOf(scans);
+        course.follow(history.getHistoryLevels(), history.getHistoryFreqs());
+        EXPECT_EQ(course.points.size(), points) << what;
+        EXPECT_EQ(course.freq, 2410) << what << ", where it stays as it was";
+        EXPECT_EQ(course.sigType, DIG) << what;
     }
-}
-
-TEST_F(FreqPlotTest, ShowsAnEmptyGridWhereNoSignalLasts) {
-    const std::vector<std::pair<const char *, std::vector<Scan>>> cases = {
-        {"no scan", {}},
-        {"the first column is the strongest", {4, {{-80, DIG}, {-80, DIG}, {-90, WIFI}}}},
-        {"a first column without a class hides weaker ones", {4, {{-80, NONE}, {-81, DIG}}}},
-        {"no level above -95", {4, {{-105, NONE}, {-95, DIG}}}},
-        {"no class", {4, {{-105, NONE}, {-80, NONE}}}},
-        {"another class before",
-         {{{-105, NONE}, {-80, DIG}}, {{-105, NONE}, {-80, WIFI}}, {{-105, NONE}, {-80, DIG}}}},
-        {"nothing but the oldest row before", {2, {{-105, NONE}, {-80, DIG}}}},
-        {"a scan without this band", {{{-105, NONE}, {-80, DIG}}, {}}}};
-    const int step = static_cast<int>(0.18 * plot.width);
-    for (const auto &[what, scans] : cases) {
-        plot.setHistory(historyOf({3, {{-105, NONE}, {-80, DIG}}}));
-        ASSERT_EQ(swatch(), CURVE);
-        plot.setHistory(historyOf(scans));
-        EXPECT_EQ(swatch(), BACKGROUND) << what;
-        EXPECT_THAT(plot.columns(), ElementsAreArray({0, step, 2 * step, 3 * step, 4 * step, 5 * step}))
-            << what;
-        for (int y = 0; y <= 120; ++y)
-            EXPECT_EQ(plot.at(step / 2, y) == GRID, y % 20 == 0 || y % 20 == 19) << what << ' ' << y;
-    }
-}
-
-TEST_F(FreqPlotTest, CountsSecondsInALongSpanAndMillisecondsInAShortOne) {
-    std::vector<int> tenths;
-    for (int i = 1; i < 10; ++i)
-        tenths.push_back(i * plot.width / 10);
-    const std::vector<std::pair<int, bool>> cases = {{500, true}, {1000, true}, {1001, false}, {10999, true}};
-    for (const auto &[spanMs, labelled] : cases) {
-        plot.setHistory(historyOf({3, {{-105, NONE}, {-80, DIG}}}, spanMs));
-        EXPECT_THAT(plot.columns(), ElementsAreArray(labelled ? tenths : std::vector<int>())) << spanMs;
-        EXPECT_EQ(plot.hasText(plot.labels().adjusted(plot.origin.x(), 0, 0, 0)), labelled) << spanMs;
-    }
-}
-
-TEST_F(FreqPlotTest, DrawsNoCurveOverASpanOfNothing) {
-    plot.setHistory(historyOf({4, {{-105, NONE}, {-78, DIG}}}, 0));
-    EXPECT_EQ(swatch(), CURVE);
-    EXPECT_EQ(plot.at(plot.width / 2, 108), BACKGROUND);
-    EXPECT_THAT(plot.columns(), IsEmpty());
-}
-
-TEST_F(FreqPlotTest, NeedsNoRoomAndNoData) {
-    EXPECT_TRUE(staysEmptyWithoutRoom<FreqPlot>({History(), historyOf({4, {{-105, NONE}, {-78, DIG}}}),
-                                                 historyOf({4, {{-105, NONE}, {1e30f, DIG}}})}));
 }

@@ -1,120 +1,65 @@
 #include "visuals/hist-view.h"
 
 #include "plots.h"
+#include "visuals/persistence-blocks.h"
 
 #include <QSignalSpy>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-using testing::ElementsAre;
+static constexpr auto FPV = SigTypeEnum::FPV, NONE = SigTypeEnum::NONE;
 
-static constexpr SigTypeEnum FPV = SigTypeEnum::FPV;
-static constexpr Signal BELOW = {-110, SigTypeEnum::NONE};
-static const QColor BLOCK = SigTypeColors::getColor(FPV);
-static const QColor BACKGROUND = Qt::black;
-
-/// Five pixels for each dB from -100 at the top; ten columns are four characters wide each.
-class HistViewTest : public testing::Test {
-protected:
-    /// The colour of a column on the row of a level.
-    QColor blockAt(int column, int level) {
-        return plot.at((4 * column + 1) * plot.charW, 5 * (level + 100) + 2);
+TEST(HistView, StandsAsToldInEverySize) {
+    const Standing cases[] = {{{128, 150}, 10, 2, R"(
+        10pt room 21 #eeeeee:; '-95' 7,24; '-90' 7,49; '-85' 7,74; '-80' 7,99; '-75' 7,124
+        10pt room 0 #eeeeee:; '2400' 14,139; '2450' 64,139
+        #e593cddd:; 0,-50 50x5; #e5ff0000:; 50,50 50x5; #93cddd:; 0,0 50x5; #ff0000:; 50,125 50x5
+        2px dash 0 #0000ff:; 0,25 to 100,25; 0,50 to 100,50; 0,75 to 100,75; 0,100 to 100,100
+        0,125 to 100,125; 0,0 to 0,130; 50,0 to 50,130; 100,0 to 100,130
+        0,0 to 100,0; 0,130 to 100,130; 0,0 to 0,130; 98,0 to 98,130)"},
+                              {{99, 120}, 20, 3, R"(
+        20pt room 21 #eeeeee:; '-95' 7,4; '-90' 7,19; '-85' 7,34; '-80' 7,49; '-75' 7,64
+        20pt room 0 #eeeeee:; '2400' 14,89; '2450' 49,89
+        #e593cddd:; 0,-30 35x3; #e5ff0000:; 35,30 35x3; #93cddd:; 0,0 35x3; #ff0000:; 35,75 35x3
+        3px dash 0 #0000ff:; 0,15 to 71,15; 0,30 to 71,30; 0,45 to 71,45; 0,60 to 71,60
+        0,75 to 71,75; 0,0 to 0,80; 35,0 to 35,80; 71,0 to 71,80
+        0,0 to 71,0; 0,80 to 71,80; 0,0 to 0,80; 68,0 to 68,80)"}};
+    Shown<HistView> plot;
+    plot.setHistory(
+        historyOf({{{2400, -110, NONE}, {2500, -90.7f, FPV}}, {{2400, -100, NONE}, {2500, -60, FPV}}}));
+    for (const auto &[size, textSize, lineWidth, shapes] : cases) {
+        plot.resize(size, textSize, lineWidth);
+        EXPECT_EQ(plot.shapes(), table(shapes));
     }
-
-    static Scan scanOf(std::size_t columns, std::size_t column, float rssi) {
-        Scan scan(columns, BELOW);
-        scan.at(column) = {rssi, FPV};
-        return scan;
-    }
-
-    SizedGridPlot<HistView> plot{0, 130};
-};
-
-TEST_F(HistViewTest, OlderScansFadeAndTheNewestIsOpaque) {
-    const std::vector<int> alphas = {25, 51, 76, 102, 127, 153, 178, 204, 229, 255};
-    for (const std::size_t rows : {3u, 10u, 13u}) {
-        std::vector<Scan> scans;
-        for (std::size_t row = 0; row < rows; ++row)
-            scans.push_back(scanOf(10, row % 10, -90));
-        plot.setHistory(historyOf(scans));
-        for (std::size_t age = 0; age < std::min<std::size_t>(rows, 10); ++age) {
-            const QColor color = blockAt(static_cast<int>((rows - 1 - age) % 10), -90);
-            EXPECT_NEAR(color.red(), alphas.at(9 - age), 1) << rows << ' ' << age;
-            EXPECT_EQ(color.green(), 0);
-        }
-    }
-}
-
-TEST_F(HistViewTest, LevelsRunDownwardsIn26Steps) {
-    const std::vector<std::pair<float, int>> cases = {{-100, -100}, {-95, -95}, {-90.7f, -90}, {-76, -76},
-                                                      {-75, -75},   {-60, -75}, {1e30f, -75}};
-    for (const auto &[rssi, level] : cases) {
-        plot.setHistory(historyOf({scanOf(10, 3, rssi)}));
-        for (int other = -100; other <= -75; ++other)
-            EXPECT_EQ(blockAt(3, other) == BLOCK, other == level) << rssi << ' ' << other;
-        EXPECT_EQ(blockAt(2, level), BACKGROUND);
-    }
-    for (const float rssi : {-101.0f, -1e30f}) {
-        plot.setHistory(historyOf({scanOf(10, 3, rssi)}));
-        for (int level = -100; level <= -75; ++level)
-            EXPECT_EQ(blockAt(3, level), BACKGROUND) << rssi;
-    }
-}
-
-TEST_F(HistViewTest, ColumnsDivideTheWidthAndLinesStandByFrequency) {
-    plot.setHistory(historyOf({scanOf(10, 2, -88)}));
-    EXPECT_EQ(blockAt(2, -88), BLOCK);
-    EXPECT_EQ(blockAt(3, -88), BACKGROUND);
-    EXPECT_THAT(plot.columns(), ElementsAre(0, plot.width * 50 / 90, plot.width - 2));
-    plot.setHistory(historyOf({scanOf(5, 1, -88)}));
-    EXPECT_EQ(blockAt(2, -88), BLOCK);
-    EXPECT_EQ(blockAt(3, -88), BLOCK);
-    EXPECT_EQ(blockAt(4, -88), BACKGROUND);
-}
-
-TEST_F(HistViewTest, LabelsABandBeforeItsFirstScan) {
-    EXPECT_FALSE(plot.hasText(plot.labels()));
-    plot.setHistory(plot.getHistory());
-    EXPECT_FALSE(plot.hasText(plot.labels())) << "still no band";
-    plot.setHistory(History(MasterFreqModeEnum::R_1200, History::DEFAULT_HISTORY_LEN));
-    EXPECT_TRUE(plot.hasText(plot.labels()));
-    EXPECT_TRUE(plot.hasText({0, 0, plot.origin.x(), plot.height}));
-}
-
-TEST_F(HistViewTest, PaintsLabelsAnewOnlyForOtherLimits) {
-    QSignalSpy repainted(&plot, SIGNAL(freqsChanged()));
-    const auto freqs = [&](const std::vector<float> &mhz) {
-        History history(MasterFreqModeEnum::R_2400, History::DEFAULT_HISTORY_LEN);
-        History::Scan scan;
-        for (const float freq : mhz)
-            scan.push_back(std::make_shared<FreqScanResult>(FreqScanResultBuilder().freqMHz(freq).build()));
-        history.acceptScan(scan);
-        plot.setHistory(history);
-        const int count = repainted.count();
-        repainted.clear();
-        return count;
-    };
-    EXPECT_EQ(freqs({2400, 2410, 2420}), 2) << "for the band and for its frequencies";
-    EXPECT_EQ(freqs({2400, 2415, 2420}), 0);
-    EXPECT_EQ(freqs({2390, 2415, 2420}), 1);
-    EXPECT_EQ(freqs({2390, 2415, 2430}), 1);
-    EXPECT_EQ(freqs({2390, 2430}), 1);
-}
-
-TEST_F(HistViewTest, KeepsThePictureWithoutRowsAndClearsItForAnEmptyScan) {
-    plot.setHistory(historyOf({scanOf(10, 3, -80)}));
-    const QImage shown = plot.picture();
-    plot.setHistory(History(MasterFreqModeEnum::R_2400, History::DEFAULT_HISTORY_LEN));
-    EXPECT_EQ(plot.picture(), shown);
+    plot.setHistory(historyOf({}));
+    EXPECT_EQ(plot.shapes(), table(cases[1].shapes)) << "a history without rows changes nothing";
     plot.setHistory(historyOf({{}}));
-    QImage background(shown.size(), shown.format());
-    background.fill(BACKGROUND);
-    EXPECT_EQ(plot.picture(), background);
+    EXPECT_EQ(plot.shapes(), QStringList()) << "an empty scan clears all";
 }
 
-TEST_F(HistViewTest, NeedsNoRoomAndNoRange) {
-    plot.setHistory(historyOf({scanOf(1, 0, -80)}));
-    EXPECT_EQ(blockAt(0, -80), BLOCK);
-    EXPECT_FALSE(plot.hasText(plot.labels()));
-    EXPECT_TRUE(staysEmptyWithoutRoom<HistView>(
-        {History(), historyOf({scanOf(1, 0, -80)}), historyOf({scanOf(99, 3, -80)})}));
+TEST(HistView, OlderScansFadeAndTheNewestIsOpaque) {
+    const int alphas[] = {25, 51, 76, 102, 127, 153, 178, 204, 229, 255};
+    for (int age = 0; age < 10; ++age)
+        EXPECT_EQ(fadedColor(FPV, age, 10), QColor(255, 0, 0, alphas[age])) << age;
+    EXPECT_FALSE(fadedColor(FPV, 10, 10) || fadedColor(FPV, -1, 10) || fadedColor(SigTypeEnum(6), 0, 10));
+    const auto rows = historyOf({13, {{2400, -90, FPV}}}).getHistoryLevels();
+    EXPECT_EQ(persistenceBlocks(rows, 10, 1, 100, 5).front().color.alpha(), 25);
+}
+
+TEST(HistView, PaintsLabelsAnewOnlyForOtherLimits) {
+    Shown<HistView> plot({130, 100});
+    QSignalSpy repainted(&plot, SIGNAL(freqsChanged()));
+    plot.setHistory(plot.getHistory());
+    EXPECT_EQ(plot.shapes(), QStringList()) << "still no band";
+    plot.setHistory(historyOf({}, 0, MasterFreqModeEnum::R_1200));
+    EXPECT_EQ(told(plot.legend()).mid(6), table("10pt room 0 #eeeeee:; '830' 18,89; '1330' 70,89"))
+        << "a band has its labels before its first scan";
+    const std::pair<std::vector<Found>, int> cases[] = {{{{2400}, {2410}, {2420}}, 3}, // band and limits
+                                                        {{{2400}, {2415}, {2420}}, 3},
+                                                        {{{2390}, {2415}, {2420}}, 4},
+                                                        {{{2390}, {2415}, {2430}}, 5},
+                                                        {{{2390}, {2430}}, 6}};
+    for (const auto &[scan, count] : cases) {
+        plot.setHistory(historyOf({scan}));
+        EXPECT_EQ(repainted.count(), count);
+    }
 }

@@ -1,0 +1,89 @@
+#include "plots.h"
+#include "visuals/bar-scan-result-plot.h"
+#include "visuals/freq-plot.h"
+#include "visuals/hist-view.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+TEST(Drawing, IsPaintedAsItIsTold) {
+    QImage canvas(60, 60, QImage::Format_RGB32);
+    canvas.fill(Qt::white);
+    QPainter painter(&canvas);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintDrawing({FilledRect{QRect(1, 2, 10, 5), Qt::red}, DrawnLine{QLine(0, 20, 60, 20), Qt::blue, 2, 3},
+                  Words{QPoint(20, 55), "-105", Qt::black, 12, 10}},
+                 painter);
+    const auto count = [&](const QRect &part, const QColor &color) {
+        int found = 0;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x)
+                found += canvas.pixelColor(x, y) == color;
+        return found;
+    };
+    EXPECT_EQ(count({1, 2, 10, 5}, Qt::red) + count(canvas.rect(), Qt::red), 100);
+    EXPECT_GT(count({0, 19, 60, 2}, Qt::blue), 60) << "dashes of 6 pixels with ends of one";
+    EXPECT_EQ(count({0, 19, 60, 2}, Qt::blue) + count({0, 19, 60, 2}, Qt::white), 120) << "and gaps of 4";
+    EXPECT_GE(count({0, 19, 60, 2}, Qt::white), 30);
+    EXPECT_LT(count({20, 40, 10, 16}, Qt::white), 150) << "words in their room";
+    EXPECT_EQ(count({31, 40, 29, 20}, Qt::white), 29 * 20) << "and not beyond it";
+}
+
+/// What holds for every view, whatever it shows.
+template <typename Plot>
+class LayeredPlotTest : public testing::Test {
+protected:
+    const History history = historyOf({4, {{2400, -99, SigTypeEnum::NONE}, {2500, -80}}});
+};
+using Views = testing::Types<BarScanResultPlot, FreqPlot, HistView>;
+TYPED_TEST_SUITE(LayeredPlotTest, Views);
+
+TYPED_TEST(LayeredPlotTest, ShowsLabelsAndDataHoweverTheyCame) {
+    const QSize size(300, 120);
+    Shown<TypeParam> plot(size);
+    plot.setHistory(this->history);
+    QImage expected(size, QImage::Format_RGB32);
+    QPainter painter(&expected);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(expected.rect(), QColor("#101010"));
+    paintDrawing(plot.legend(), painter);
+    painter.setClipRect(plot.plotArea);
+    painter.fillRect(plot.plotArea, QColor("#101010"));
+    painter.translate(plot.plotArea.topLeft());
+    paintDrawing(plot.data(), painter);
+    EXPECT_EQ(plot.picture(), expected);
+
+    Shown<TypeParam> resized({200, 80}), rescaled(size, 14);
+    resized.setHistory(this->history);
+    resized.setSize(size);
+    EXPECT_EQ(resized.picture(), expected);
+    rescaled.setHistory(this->history);
+    rescaled.resize(size, 10, 0); // a line of no width keeps the one it has
+    EXPECT_EQ(rescaled.picture(), expected);
+
+    Shown<TypeParam> hidden(size);
+    QSignalSpy painted(&hidden, SIGNAL(imageReady()));
+    hidden.setVisible(false);
+    hidden.setHistory(this->history);
+    EXPECT_EQ(painted.count(), 0);
+    hidden.setVisible(true);
+    EXPECT_EQ(hidden.picture(), expected);
+    hidden.setHistory(this->history);
+    EXPECT_EQ(painted.count(), 2);
+    const auto empty = hidden.property("history").template value<History>();
+    EXPECT_EQ(empty.getMasterMode(), MasterFreqModeEnum::R_2400);
+    EXPECT_EQ(empty.getSize(), 0) << "what was set is not given back";
+}
+
+TYPED_TEST(LayeredPlotTest, NeedsNoRoomAndNoRange) {
+    for (const int side : {1, 5, 40, 64}) {
+        for (const int textSize : {0, 3, 20}) {
+            Shown<TypeParam> plot({side, side}, textSize);
+            for (const History &shown : {History(), this->history, historyOf({3, {{2400, -80}}}),
+                                         historyOf({3, {{2400, -99}, {2500, 1e30f}}}, 0)}) {
+                plot.setHistory(shown);
+                EXPECT_EQ(plot.picture().pixelColor(0, 0), QColor("#101010")) << textSize << ' ' << side;
+            }
+        }
+    }
+}
