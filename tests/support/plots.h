@@ -18,42 +18,42 @@ inline History historyOf(const std::vector<std::vector<Found>> &scans, int apart
     return history;
 }
 
-/// How a shape looks and where it stands: "#ff0000:" and "0,298 400x4", "2px dash 0 #0000ff:" and
-/// "0,50 to 400,50", "10pt room 28 #eeeeee:" and "'-105' 0,317".
-using Told = std::pair<QString, QString>;
-inline QString nameOf(const QColor &color) {
-    return color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) + ":";
-}
-inline Told tell(const FilledRect &rect) {
-    const QRect &r = rect.place;
-    return {nameOf(rect.color), QString::asprintf("%d,%d %dx%d", r.x(), r.y(), r.width(), r.height())};
-}
-inline Told tell(const DrawnLine &line) {
-    const QLine &l = line.place;
-    return {QString("%1px dash %2 ").arg(line.width).arg(line.dash) + nameOf(line.color),
-            QString::asprintf("%d,%d to %d,%d", l.x1(), l.y1(), l.x2(), l.y2())};
-}
-inline Told tell(const Words &words) {
-    return {QString("%1pt room %2 ").arg(words.pointSize).arg(words.room) + nameOf(words.color),
-            QString("'%1' %2,%3").arg(words.text).arg(words.place.x()).arg(words.place.y())};
-}
-
-/// The shapes in order, and before those that look different how they look.
-inline QStringList told(const Drawing &drawing) {
-    QStringList all;
+/// The shapes in order, "0,298 400x4", "0,50 to 400,50", "'-105' 0,317", and before those that look different
+/// how they look: "#ff0000:", "2px dash 3 #c000ff00:", "10pt room 28 #eeeeee:".
+inline std::vector<std::string> told(const Drawing &drawing) {
+    std::vector<std::string> all;
     QString former;
-    for (const auto &shape : drawing) {
-        const auto [look, place] = std::visit([](const auto &known) { return tell(known); }, shape);
+    const auto tell = [&](const QString &kind, const QColor &color, const QString &place) {
+        const QString look = kind + color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) + ":";
         if (look != former)
-            all << look;
-        all << place;
-        former = look;
+            all.push_back((former = look).toStdString());
+        all.push_back(place.toStdString());
+    };
+    const auto text = [](QString format, const auto &...values) {
+        ((format = format.arg(values)), ...);
+        return format;
+    };
+    for (const auto &shape : drawing) {
+        if (const auto *rect = std::get_if<FilledRect>(&shape)) {
+            const QRect &r = rect->place;
+            tell("", rect->color, text("%1,%2 %3x%4", r.x(), r.y(), r.width(), r.height()));
+        } else if (const auto *line = std::get_if<DrawnLine>(&shape)) {
+            const QLine &l = line->place;
+            tell(text("%1px dash %2 ", line->width, line->dash), line->color,
+                 text("%1,%2 to %3,%4", l.x1(), l.y1(), l.x2(), l.y2()));
+        } else if (const auto *words = std::get_if<Words>(&shape)) {
+            tell(text("%1pt room %2 ", words->pointSize, words->room), words->color,
+                 text("'%1' %2,%3", words->text, words->place.x(), words->place.y()));
+        }
     }
     return all;
 }
 /// The same from a table.
-inline QStringList table(const QString &text) {
-    return text.trimmed().split(QRegularExpression("; |\\s*\n\\s*"));
+inline std::vector<std::string> table(const QString &text) {
+    std::vector<std::string> all;
+    for (const QString &shape : text.trimmed().split(QRegularExpression("; |\\s*\n\\s*")))
+        all.push_back(shape.toStdString());
+    return all;
 }
 
 /// A view whose labels have a font of its own, 7 pixels a character and 9 above the base line.
@@ -75,7 +75,12 @@ public:
 
     using Plot::data;
     using Plot::legend;
-    QStringList shapes() const { return told(legend()) + told(data()); }
+    std::vector<std::string> shapes() const {
+        Drawing all = legend();
+        for (const auto &shape : data())
+            all.push_back(shape);
+        return told(all);
+    }
 
     QImage picture() {
         QImage shown(this->boundingRect().size().toSize(), QImage::Format_RGB32);
@@ -93,10 +98,5 @@ protected:
     }
 };
 
-/// What a view shows in an item of a size.
-struct Standing {
-    QSize size;
-    int textSize;
-    int lineWidth;
-    const char *shapes;
-};
+/// What a view shows in an item of a size, with labels of so many points and lines of so many pixels.
+using Standing = std::tuple<QSize, int, int, const char *>;

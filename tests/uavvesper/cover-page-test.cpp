@@ -1,4 +1,4 @@
-#include "messages.h"
+#include "scans.h"
 #include "screen-driver.h"
 #include "usb-service.h"
 #include "visuals/freq-plot-model.h"
@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 /// The words on each row from top to bottom, the colour in the corner of the box and that of its last word.
-static QString rows(QQuickView &view) {
+static std::string rows(QQuickView &view) {
     ScreenDriver driver(view);
     const QImage picture = driver.picture();
     QMap<qreal, QString> rows;
@@ -23,7 +23,7 @@ static QString rows(QQuickView &view) {
         }
         rows[corner.y()] = row.simplified() + " " + color;
     }
-    return QStringList(rows.values()).join("; ");
+    return QStringList(rows.values()).join("; ").toStdString();
 }
 
 TEST(CoverPage, ShowsTheStrongestSignalsInTheirColours) {
@@ -37,19 +37,17 @@ TEST(CoverPage, ShowsTheStrongestSignalsInTheirColours) {
     view.setSource(QUrl("qrc:/qml/cover/DefaultCoverPage.qml"));
     view.show();
     EXPECT_EQ(view.rootObject()->objectName(), "defaultCover");
-    const QString blank = "#93cddd ----- ----dB ---- #000000";
-    EXPECT_EQ(rows(view), blank + "; " + blank + "; " + blank);
-    const std::pair<const char *, QString> cases[] = {
-        {R"({"type":"SCAN_RESULT","freqs":[{"freqMHz":5804.6,"rssi":-80.6,"type":"FPV"},
-            {"freqMHz":2440,"rssi":-85.4,"type":"DIG"}, {"freqMHz":2412.4,"rssi":-90,"type":"WIFI"},
-            {"freqMHz":2412,"rssi":-91,"type":"FPV"}]})",
-         "#ff0000 5805 -81dB FPV #000000; #ffc000 2440 -85dB DIG #000000; #00b050 2412 -90dB WIFI #000000"},
-        {R"({"type":"SCAN_RESULT","freqs":[{"freqMHz":5805,"rssi":-80,"type":"BLOCK"},
-            {"freqMHz":2440,"rssi":-85,"type":"ALL"}]})",
-         "#cccccc 5805 -80dB BLOCK #000000; #93cddd 2440 -85dB ALL #000000; " + blank},
-        {R"({"type":"GET_STATE"})", blank + "; " + blank + "; " + blank}};
-    for (const auto &[message, expected] : cases) {
-        emit service.gotMaxFreqs(held(message));
-        EXPECT_EQ(rows(view), expected);
-    }
+    const std::string blank = "#93cddd ----- ----dB ---- #000000",
+                      blanks = blank + "; " + blank + "; " + blank;
+    EXPECT_EQ(rows(view), blanks);
+    using Type = SigTypeEnum;
+    emit service.gotMaxFreqs(MsgHolder(scanOf(
+        {{5804.6f, -80.6f, Type::FPV}, {2440, -85.4f}, {2412.4f, -90, Type::WIFI}, {2412, -91, Type::FPV}})));
+    EXPECT_EQ(
+        rows(view),
+        "#ff0000 5805 -81dB FPV #000000; #ffc000 2440 -85dB DIG #000000; #00b050 2412 -90dB WIFI #000000");
+    emit service.gotMaxFreqs(MsgHolder(scanOf({{5805, -80, Type::BLOCK}, {2440, -85, Type::ALL}})));
+    EXPECT_EQ(rows(view), "#cccccc 5805 -80dB BLOCK #000000; #93cddd 2440 -85dB ALL #000000; " + blank);
+    emit service.gotMaxFreqs(MsgHolder());
+    EXPECT_EQ(rows(view), blanks);
 }
