@@ -18,42 +18,38 @@ inline History historyOf(const std::vector<std::vector<Found>> &scans, int apart
     return history;
 }
 
-/// The shapes in order, "0,298 400x4", "0,50 to 400,50", "'-105' 0,317", and before those that look different
-/// how they look: "#ff0000:", "2px dash 3 #c000ff00:", "10pt room 28 #eeeeee:".
-inline std::vector<std::string> told(const Drawing &drawing) {
-    std::vector<std::string> all;
-    QString former;
-    const auto tell = [&](const QString &kind, const QColor &color, const QString &place) {
-        const QString look = kind + color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) + ":";
-        if (look != former)
-            all.push_back((former = look).toStdString());
-        all.push_back(place.toStdString());
-    };
+/// The shapes of drawings in order, one a line, "0,298 400x4", "0,50 to 400,50", "'-105' 0,317", and before
+/// those that look different how they look: "#ff0000:", "2px dash 3 #c000ff00:", "10pt room 28 #eeeeee:".
+inline std::string told(const std::vector<Drawing> &drawings) {
+    QString all, former;
     const auto text = [](QString format, const auto &...values) {
         ((format = format.arg(values)), ...);
-        return format;
+        return format + "\n";
     };
-    for (const auto &shape : drawing) {
-        if (const auto *rect = std::get_if<FilledRect>(&shape)) {
-            const QRect &r = rect->place;
-            tell("", rect->color, text("%1,%2 %3x%4", r.x(), r.y(), r.width(), r.height()));
-        } else if (const auto *line = std::get_if<DrawnLine>(&shape)) {
-            const QLine &l = line->place;
-            tell(text("%1px dash %2 ", line->width, line->dash), line->color,
-                 text("%1,%2 to %3,%4", l.x1(), l.y1(), l.x2(), l.y2()));
-        } else if (const auto *words = std::get_if<Words>(&shape)) {
-            tell(text("%1pt room %2 ", words->pointSize, words->room), words->color,
-                 text("'%1' %2,%3", words->text, words->place.x(), words->place.y()));
-        }
-    }
-    return all;
+    const auto tell = [&](const QString &kind, const QColor &color, const QString &place) {
+        const QString look =
+            kind + color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb) + ":\n";
+        all += (look == former ? "" : look) + place;
+        former = look;
+    };
+    for (const Drawing &drawing : drawings)
+        for (const auto &shape : drawing)
+            if (const auto *rect = std::get_if<FilledRect>(&shape)) {
+                const QRect &r = rect->place;
+                tell("", rect->color, text("%1,%2 %3x%4", r.x(), r.y(), r.width(), r.height()));
+            } else if (const auto *line = std::get_if<DrawnLine>(&shape)) {
+                const QLine &l = line->place;
+                tell(QString("%1px dash %2 ").arg(line->width).arg(line->dash), line->color,
+                     text("%1,%2 to %3,%4", l.x1(), l.y1(), l.x2(), l.y2()));
+            } else if (const auto *words = std::get_if<Words>(&shape)) {
+                tell(QString("%1pt room %2 ").arg(words->pointSize).arg(words->room), words->color,
+                     text("'%1' %2,%3", words->text, words->place.x(), words->place.y()));
+            }
+    return all.toStdString();
 }
-/// The same from a table.
-inline std::vector<std::string> table(const QString &text) {
-    std::vector<std::string> all;
-    for (const QString &shape : text.trimmed().split(QRegularExpression("; |\\s*\n\\s*")))
-        all.push_back(shape.toStdString());
-    return all;
+/// The same from a table, where "; " stands for a line break too.
+inline std::string table(const QString &shapes) {
+    return (shapes.trimmed().replace(QRegularExpression("; |\\s*\n\\s*"), "\n") + "\n").toStdString();
 }
 
 /// A view whose labels have a font of its own, 7 pixels a character and 9 above the base line.
@@ -75,13 +71,7 @@ public:
 
     using Plot::data;
     using Plot::legend;
-    std::vector<std::string> shapes() const {
-        Drawing all = legend();
-        for (const auto &shape : data())
-            all.push_back(shape);
-        return told(all);
-    }
-
+    std::string shapes() const { return told({legend(), data()}); }
     QImage picture() {
         QImage shown(this->boundingRect().size().toSize(), QImage::Format_RGB32);
         QPainter painter(&shown);

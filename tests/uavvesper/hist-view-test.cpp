@@ -6,8 +6,7 @@
 #include <QSignalSpy>
 #include <gmock/gmock.h>
 
-using testing::IsEmpty;
-using testing::IsSupersetOf;
+using testing::HasSubstr;
 
 static constexpr auto FPV = SigTypeEnum::FPV, NONE = SigTypeEnum::NONE;
 
@@ -36,7 +35,7 @@ TEST(HistView, StandsAsToldInEverySize) {
     plot.setHistory(historyOf({}));
     EXPECT_EQ(plot.shapes(), table(std::get<3>(cases[1]))) << "a history without rows changes nothing";
     plot.setHistory(historyOf({{}}));
-    EXPECT_THAT(plot.shapes(), IsEmpty()) << "an empty scan clears all";
+    EXPECT_EQ(plot.shapes(), "") << "an empty scan clears all";
 }
 
 TEST(HistView, OlderScansFadeAndTheNewestIsOpaque) {
@@ -51,7 +50,7 @@ TEST(HistView, OlderScansFadeAndTheNewestIsOpaque) {
 TEST(HistView, HasTheLabelsOfTheBandAndThenOfItsScans) {
     Shown<HistView> plot({130, 100});
     plot.setHistory(plot.getHistory());
-    EXPECT_THAT(plot.shapes(), IsEmpty()) << "no band";
+    EXPECT_EQ(plot.shapes(), "") << "no band";
     QSignalSpy repainted(&plot, SIGNAL(freqsChanged()));
     const std::tuple<History, int, const char *> cases[] = {
         {historyOf({}, 0, MasterFreqModeEnum::R_1200), 1, "'830' 18,89; '1330' 70,89"},
@@ -62,7 +61,7 @@ TEST(HistView, HasTheLabelsOfTheBandAndThenOfItsScans) {
         {historyOf({{{2390}, {2440}}}), 6, "'2390' 14,89"}};
     for (const auto &[history, count, labels] : cases) {
         plot.setHistory(history);
-        EXPECT_THAT(plot.shapes(), IsSupersetOf(table(labels)));
+        EXPECT_THAT(plot.shapes(), HasSubstr(table(labels)));
         EXPECT_EQ(repainted.count(), count) << labels;
     }
 }
