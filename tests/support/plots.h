@@ -71,7 +71,10 @@ public:
 
     using Plot::data;
     using Plot::legend;
-    std::string shapes() const { return told({legend(), data()}); }
+    /// The labels, the place of the data in the item, and the data.
+    std::string shapes() const {
+        return told({legend(), {FilledRect{plotArea, this->backgroundColor}}, data()});
+    }
     QImage picture() {
         QImage shown(this->boundingRect().size().toSize(), QImage::Format_RGB32);
         QPainter painter(&shown);
@@ -79,7 +82,7 @@ public:
         return shown;
     }
 
-    QRect plotArea; ///< the place of the data in the item
+    QRect plotArea;
 
 protected:
     QRect layOut(const QSize &item) override {

@@ -12,7 +12,7 @@ using Scans = std::vector<std::vector<Found>>;
 TEST(FreqPlot, StandsAsToldInEverySizeAndLanguage) {
     const std::pair<const char *, Standing> cases[] = {{"language", {{428, 150}, 10, 2, R"(
         10pt room 28 #eeeeee:; '-105' 0,135; '-100' 0,115
-        10pt room 21 #eeeeee:; '-95' 7,95; '-90' 7,75; '-85' 7,55; '-80' 7,35; '-75' 7,15
+        10pt room 21 #eeeeee:; '-95' 7,95; '-90' 7,75; '-85' 7,55; '-80' 7,35; '-75' 7,15; #101010:; 28,10 400x140
         2px dash 0 #0000ff:; 0,0 to 400,0; 0,20 to 400,20; 0,40 to 400,40; 0,60 to 400,60; 0,80 to 400,80
         0,100 to 400,100; 0,120 to 400,120; 400,0 to 400,120; 10pt room 0 #eeeeee:; '0' 400,129
         2px dash 0 #0000ff:; 200,0 to 200,120; 10pt room 0 #eeeeee:; '1' 196,129
@@ -20,7 +20,7 @@ TEST(FreqPlot, StandsAsToldInEverySizeAndLanguage) {
         15pt room 0 #eeeeee:; '2420MHz DIG' 27,25)"}},
                                                        {"ru", {{229, 123}, 21, 3, R"(
         21pt room 28 #eeeeee:; '-105' 0,92; '-100' 0,82
-        21pt room 21 #eeeeee:; '-95' 7,72; '-90' 7,62; '-85' 7,52; '-80' 7,42; '-75' 7,32
+        21pt room 21 #eeeeee:; '-95' 7,72; '-90' 7,62; '-85' 7,52; '-80' 7,42; '-75' 7,32; #101010:; 28,21 201x102
         3px dash 0 #0000ff:; 0,0 to 201,0; 0,10 to 201,10; 0,20 to 201,20; 0,30 to 201,30; 0,40 to 201,40
         0,50 to 201,50; 0,60 to 201,60; 201,0 to 201,60; 21pt room 0 #eeeeee:; '0' 201,69
         3px dash 0 #0000ff:; 101,0 to 101,60; 21pt room 0 #eeeeee:; '1' 97,69
@@ -42,7 +42,7 @@ TEST(FreqPlot, StandsAsToldInEverySizeAndLanguage) {
         plot.shapes(),
         EndsWith(table("0,60 to 201,60; #ffc000:; 21,21 21x21; 31pt room 0 #eeeeee:; '2420МГц DIG' 49,52")))
         << "scans of one millisecond have neither axis nor curve";
-    plot.setHistory(History());
+    plot.setHistory(historyOf({scans[2], scans[3]})); // a single point, without the oldest row
     EXPECT_THAT(plot.shapes(), EndsWith(table(R"(0,60 to 201,60; 0,0 to 0,60; 36,0 to 36,60; 72,0 to 72,60
         108,0 to 108,60; 144,0 to 144,60; 180,0 to 180,60)")));
 }

@@ -52,11 +52,14 @@ TYPED_TEST(LayeredPlotTest, ShowsLabelsAndDataHoweverTheyCame) {
     EXPECT_EQ(plot.picture(), expected);
 
     Shown<TypeParam> resized({200, 80}), rescaled(size, 14);
+    resized.setHistory(historyOf({3, {{2400, -99}, {2450, -90}}}));
     resized.setHistory(this->history);
     resized.setSize(size);
     EXPECT_EQ(resized.picture(), expected);
+    rescaled.setProperty("textColor", QColor(Qt::red));
     rescaled.setHistory(this->history);
     rescaled.resize(size, 10, 0); // a line of no width keeps the one it has
+    rescaled.setProperty("textColor", QColor("#eeeeee"));
     EXPECT_EQ(rescaled.picture(), expected);
 
     Shown<TypeParam> hidden(size);
