@@ -42,10 +42,8 @@ Drawing FreqPlot::data() const {
     }
     const QColor color = SigTypeColors::getColor(course.sigType);
     drawing.push_back(FilledRect{QRect(textSize, textSize, textSize, textSize), color});
-    // Scans of one and the same millisecond have no curve.
-    if (course.spanMs() > 0)
-        for (const QLine &line : course.curve(grid, lineWidth))
-            drawing.push_back(DrawnLine{line, color, lineWidth});
+    for (const QLine &line : course.curve(grid, lineWidth))
+        drawing.push_back(DrawnLine{line, color, lineWidth});
     drawing.push_back(caption());
     return drawing;
 }

@@ -30,11 +30,14 @@ std::int64_t SignalCourse::spanMs() const {
 }
 
 std::vector<QLine> SignalCourse::curve(const QSize &grid, int lineWidth) const {
+    std::vector<QLine> lines;
+    const std::int64_t span = spanMs();
+    if (span <= 0)
+        return lines;
     const auto place = [&](const History::_HistoryPoint &point) {
-        return QPoint(static_cast<int>(grid.width() * (point.timeMsg - points.back().timeMsg) / spanMs()),
+        return QPoint(static_cast<int>(grid.width() * (point.timeMsg - points.back().timeMsg) / span),
                       LevelAxis::courseY(point.rssi, grid.height(), lineWidth));
     };
-    std::vector<QLine> lines;
     for (std::size_t i = 1; i < points.size(); ++i)
         lines.emplace_back(place(points[i - 1]), place(points[i]));
     return lines;

@@ -24,6 +24,6 @@ struct SignalCourse {
     /// From the oldest point to the newest, in milliseconds; 0 without points.
     std::int64_t spanMs() const;
     /// The curve in a grid of this size in pixels, from the newest point at the right edge to the oldest.
-    /// Needs a span.
+    /// Scans of one and the same millisecond have none.
     std::vector<QLine> curve(const QSize &grid, int lineWidth) const;
 };
