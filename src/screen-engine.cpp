@@ -38,6 +38,9 @@ ScreenEngine::ScreenEngine(ServiceObjects &objects)
     context.setContextProperty("historyModel", &historyModel);
     context.setContextProperty("version", version);
     QObject::connect(&engine, &QQmlApplicationEngine::quit, qApp, &QCoreApplication::quit);
+    // The documents' own handlers run when the engine ends, after the event loop.
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &engine,
+                     [&service = objects.usbService] { service.shutDown(); });
 }
 
 ScreenEngine::~ScreenEngine() {

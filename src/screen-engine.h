@@ -17,7 +17,7 @@
 void registerTypes();
 
 /// The documents and all that they name: the engine, the settings front-ends and the history model. Lives on
-/// the UI thread, between the application object and the event loop's end.
+/// the UI thread, and ends before the application object. When the event loop ends, the connection does.
 class ScreenEngine {
 public:
     explicit ScreenEngine(ServiceObjects &objects);
