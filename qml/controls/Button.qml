@@ -6,19 +6,18 @@ ButtonFrame {
     property alias iconSource: icon.source
     property alias text: label.text
     property alias textColor: label.color
-    property alias textSize: label.font.pointSize
+    property alias textSize: label.font.pointSize // No caller today.
 
-    Text {
+    FittedText {
         id: label
 
         anchors.fill: parent
         anchors.margins: button.radius * 0.5
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
-        // Words too long for the button take several lines and are set smaller, not cut.
+        // Words too long for one line take several first.
         wrapMode: Text.WordWrap
         fontSizeMode: Text.Fit
-        minimumPointSize: 1
         font.pointSize: themeData.fontSizeSmall
         color: button.currentTextColor
     }

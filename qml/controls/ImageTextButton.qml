@@ -5,8 +5,8 @@ ButtonFrame {
 
     property alias iconSource: icon.source
     property alias text: label.text
-    property alias textColor: label.color
-    property alias textSize: label.font.pointSize
+    property alias textColor: label.color // No caller today.
+    property alias textSize: label.font.pointSize // No caller today.
 
     Row {
         id: row
@@ -25,16 +25,14 @@ ButtonFrame {
             opacity: button.iconOpacity
         }
 
-        Text {
+        FittedText {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
             width: row.width - icon.width - row.spacing - button.radius
             height: button.iconSize
             verticalAlignment: Text.AlignVCenter
-            // A word too long for the button is set smaller, not cut.
             fontSizeMode: Text.Fit
-            minimumPointSize: 1
             font.pointSize: themeData.fontSizeSmall
             color: button.currentTextColor
         }

@@ -7,6 +7,7 @@ Item {
     id: fragment
 
     property alias open: customDrawer.visible
+    // On purpose: the mode that the settings call "Standard" is "Base" here.
     readonly property var modeWords: ({
         ECO: qsTr("Efficient"), BASE: qsTr("Base"), AUTO: qsTr("Automatic"), CONT: qsTr("Continuous")
     })
@@ -32,11 +33,8 @@ Item {
         font.pointSize: themeData.fontSizeSmall
     }
 
-    component InfoText: Text {
+    component InfoText: FittedText {
         width: infoLabels.width
-        // A text too long for the line is set smaller, not cut.
-        fontSizeMode: Text.HorizontalFit
-        minimumPointSize: 1
         // What the device calls its versions is shown as it is.
         textFormat: Text.PlainText
         color: themeData.lightTextColor
@@ -62,7 +60,7 @@ Item {
             id: dataTable
 
             width: parent.width
-            // Spelled so, and no such property exists: that is no number, and the grid is as high as its content.
+            // On purpose: no property is spelled so. That gives no number, and the grid is as high as its content.
             height: lb_mode.heigh * rows
             columns: 2
             flow: Grid.LeftToRight
@@ -107,7 +105,7 @@ Item {
             DataText { text: qsTr("Indication brightness: ") }
             DataText { text: fragment.setting(confHndlr.indLedLvl) }
 
-            // The level of the sound, on purpose.
+            // On purpose: every device has a level of the sound, only some have headphones.
             DataText { text: qsTr("Headphones volume: ") }
             DataText { text: fragment.setting(confHndlr.indSndLvl) }
 

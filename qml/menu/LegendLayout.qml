@@ -1,5 +1,7 @@
 import QtQuick 2.0
 
+import "../controls"
+
 Item {
     id: legendLayout
 
@@ -30,14 +32,11 @@ Item {
             border.color: themeData.strokeColor
             color: usbService.isUsbActive ? fills[index] : "transparent"
 
-            Text {
+            FittedText {
                 anchors.fill: parent
                 anchors.margins: parent.border.width
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
-                // A word too long for its field is set smaller, not cut.
-                fontSizeMode: Text.HorizontalFit
-                minimumPointSize: 1
                 font.pointSize: themeData.iconSizeSmall
                 font.bold: true
                 color: themeData.lightTextColor

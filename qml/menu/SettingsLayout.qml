@@ -35,6 +35,11 @@ Item {
             ListView {
                 id: ranges
 
+                // Takes the bands of a CONFIG; the sizes here follow their number.
+                function setConf(msg) {
+                    masterModes.setConfig(msg)
+                }
+
                 function commit() {
                     confHndlr.ranges = masterModes.getRanges()
                     confHndlr.changed()
@@ -48,7 +53,7 @@ Item {
                 model: masterModes
 
                 Component.onCompleted: {
-                    usbService.gotConfig.connect(masterModes.setConfig)
+                    usbService.gotConfig.connect(setConf)
                     masterModes.rangesChanged.connect(commit)
                 }
 
@@ -189,10 +194,8 @@ Item {
             }
         }
 
-        Text {
+        FittedText {
             width: row.width - x
-            fontSizeMode: Text.HorizontalFit
-            minimumPointSize: 1
             font.pointSize: themeData.fontSizeLarge
             color: themeData.testModeColor
             text: "TEST MODE"
