@@ -10,7 +10,7 @@ Item {
     // True on the mobile platform, which has its own icon theme.
     property bool vesper: false
 
-    signal shareClicked
+    signal shareClicked // No caller today.
 
     // Opens or closes a drawer; only one is open.
     function toggle(drawer, other) {
@@ -18,6 +18,7 @@ Item {
         drawer.open = !drawer.open
     }
 
+    // On purpose: the desktop's window makes the same connections.
     Component.onCompleted: {
         usbService.gotConfig.connect(confHndlr.accept)
         confHndlr.gotMsg.connect(usbService.sendConfig)

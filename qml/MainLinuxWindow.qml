@@ -22,7 +22,8 @@ ApplicationWindow {
         themeData.sizeChanged()
     }
 
-    // The contents make the same connections: a message is accepted twice and an edit is sent twice.
+    // On purpose: the contents, which the mobile platform shows in a window of its own, make the same connections.
+    // So a message is accepted twice and an edit is sent twice.
     Component.onCompleted: {
         usbService.gotConfig.connect(confHndlr.accept)
         confHndlr.gotMsg.connect(usbService.sendConfig)

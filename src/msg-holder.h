@@ -13,7 +13,7 @@ public:
     explicit MsgHolder(std::shared_ptr<Msg> message)
         : msg(std::move(message)) {}
 
-    void setMsg(std::shared_ptr<Msg> message) { msg = std::move(message); }
+    void setMsg(std::shared_ptr<Msg> message) { msg = std::move(message); } ///< No caller today.
     std::shared_ptr<Msg> getMsg() const { return msg; }
 
     /// The held message as its own class; null if nothing or another type is held.

@@ -63,6 +63,7 @@ Item {
         property real realValue: slider.value
 
         function getValue(x) {
+            // On purpose: the value counts from 0, not from the minimum. The sliders of the screens all begin at 0.
             slider.value = Math.round(x / xStep) * slider.stepSize
             realValue = slider.minimumValue
                     + (slider.maximumValue - slider.minimumValue) * x / (width - runner.width)

@@ -19,6 +19,7 @@ Item {
             setHeight(configK7)
             setHeight(iface)
         } else {
+            // A hidden row keeps its implicit height, so these are not measured.
             configK7.height = 0
             iface.height = ifaceHeader.implicitHeight + indLedLvl.implicitHeight + iface.spacing
         }
@@ -79,7 +80,7 @@ Item {
     DrawerFrame {
         id: customDrawer
 
-        readonly property real lineSize: themeData.fontSizeSmall * 1.5
+        readonly property real lineSize: themeData.fontSizeSmall * 1.5 // No caller today.
         readonly property real headerSize: themeData.fontSizeLarge
 
         radius: themeData.fontSizeSmall
@@ -120,7 +121,7 @@ Item {
             id: configK7
 
             anchors.top: detect.bottom
-            // Spelled so, and no such size exists: the section follows without a gap.
+            // On purpose: no size is spelled so, and the section follows without a gap.
             anchors.topMargin: themeData.fontSizeSmalll
             width: parent.width
             spacing: themeData.fontSizeMedium

@@ -6,7 +6,7 @@ PreferenceRow {
     id: row
 
     property alias value: slider.value
-    property alias min: slider.minimumValue
+    property alias min: slider.minimumValue // No caller today.
     property alias max: slider.maximumValue
     property alias step: slider.stepSize
     property alias setting: mirrored.setting

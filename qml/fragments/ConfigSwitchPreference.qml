@@ -5,12 +5,12 @@ import "../controls"
 PreferenceRow {
     id: row
 
-    property alias checked: toggle.checked
+    property alias checked: toggle.checked // No caller today.
     property alias setting: mirrored.setting
     property alias handler: mirrored.handler
     property alias absent: mirrored.absent
 
-    signal clicked
+    signal clicked // No caller today.
 
     reserved: toggle.width + themeData.fontSizeSmall
 

@@ -13,6 +13,7 @@ Item {
     // The value of the entry that was chosen.
     signal selected(var index)
 
+    // On purpose: the animation, which has no target, is begun and completed at once, so the list vanishes at once.
     function end() {
         disappear.start()
         disappear.complete()

@@ -119,7 +119,7 @@ Rectangle {
                 borderColor: themeData.gridColor
                 textSize: themeData.fontSizeTiny
                 lineWidth: themeData.fontSizeTiny * 0.2
-                // The view's own property: the data come by setHistory alone.
+                // On purpose: bound to itself, as the view's own property. The data come by setHistory alone.
                 history: history
                 Component.onCompleted: plots.histViews[index] = histView
             }

@@ -6,11 +6,11 @@
 #include <exception>
 
 /// An object of class `Object` as the screens may call it. Qt's declarative engine cannot carry a C++
-/// exception: one that a method or setter raises ends that call here, with an error line, instead of the
+/// exception: one that a method or setter throws ends that call here, with an error line, instead of the
 /// process. C++ callers go past this boundary and see the exception.
 ///
 /// The engine reads properties and runs the overrides of models without passing here, so those must not
-/// raise.
+/// throw.
 template <typename Object>
 class Guarded : public Object {
 public:

@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <vector>
 
-/// Holds the user's choice among the AI modes of the device's generation and sends it. It does not follow the
-/// device: what the device says of its mode does not move the choice. Lives on the UI thread.
+/// Holds the user's choice among the AI modes of the device's generation and sends it. Lives on the UI
+/// thread.
 ///
 /// An empty list of modes, which only K1 has, reads as `NONE`, and nothing is sent for it.
 class AiPriorHandler : public QObject {
@@ -21,24 +21,25 @@ class AiPriorHandler : public QObject {
 public:
     explicit AiPriorHandler(QObject *parent = nullptr);
 
-    /// The short display name of the chosen mode.
+    /// The short display name of the chosen mode. No caller today.
     QString shortName() const;
 
     int getProto() const { return static_cast<int>(proto); }
-    /// A generation other than the one in use brings its own modes and chooses the first. Raises
+    /// A generation other than the one in use brings its own modes and chooses the first. Throws
     /// std::out_of_range for a number that is no generation.
     void setProto(int value);
 
     /// Chooses the next mode without sending.
     Q_INVOKABLE void nextAiPrior();
-    /// Chooses a mode by its wire name and sends. A mode that the generation does not have leaves the choice
-    /// alone, which is sent all the same; an unknown name does nothing.
+    /// Chooses a mode by its wire name and sends; an unknown name does nothing. On purpose: a mode that the
+    /// generation does not have leaves the choice alone, which is sent all the same.
     Q_INVOKABLE void setAiPrior(QString aiPrior);
     /// The wire name of the chosen mode.
     Q_INVOKABLE QString enumAiPrior() const;
 
 public slots:
-    /// Has the screens read the choice again when the device tells its mode.
+    /// Has the screens read the choice again when the device tells its mode. On purpose: the choice is the
+    /// user's, and the mode that the device tells does not move it.
     void accept(MsgHolder holder);
 
 signals:
@@ -46,7 +47,7 @@ signals:
     void changed();
     void gotMsg(MsgHolder msg);
     void aiChanged();
-    void protoChanged();
+    void protoChanged(); ///< No caller today.
 
 private:
     AiPriorEnum selected() const;

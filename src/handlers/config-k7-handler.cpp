@@ -25,7 +25,7 @@ QString ConfigK7Handler::enumMode() const {
 }
 
 void ConfigK7Handler::accept(MsgHolder holder) {
-    const auto received = holder.getAs<ConfigK7Msg>(MsgTypeEnum::CONFIG_K7);
+    const auto received = holder.getAs<ConfigK7Msg>();
     if (!received)
         return;
     CONFIG_K7_PROPERTIES(MIRRORED_ACCEPT)

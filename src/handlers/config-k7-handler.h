@@ -26,7 +26,7 @@ class ConfigK7Handler : public QObject {
 public:
     explicit ConfigK7Handler(QObject *parent = nullptr);
 
-    /// Setters store and emit nothing; they raise std::out_of_range for a number that is no enumerator.
+    /// Setters store and emit nothing; they throw std::out_of_range for a number that is no enumerator.
     CONFIG_K7_PROPERTIES(MIRRORED_ACCESSORS)
 
     /// Sets the mode of the headset jack by its wire name and sends; an unknown name does nothing.
@@ -39,12 +39,13 @@ public slots:
     void accept(MsgHolder holder);
 
 signals:
-    /// The user has edited something. Always sent: on older generations its controls are out of reach.
+    /// The user has edited something. On purpose: sent always, also before the device has told its settings;
+    /// on generations without them the controls are out of reach.
     void changed();
     /// To be sent. The holder shares the live settings.
     void gotMsg(MsgHolder msg);
     CONFIG_K7_PROPERTIES(MIRRORED_SIGNAL)
-    void stringModeChanged();
+    void stringModeChanged(); ///< No caller today.
 
 private:
     void commit();

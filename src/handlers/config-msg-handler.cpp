@@ -57,7 +57,7 @@ QString ConfigMsgHandler::enumMode() const {
 }
 
 void ConfigMsgHandler::accept(MsgHolder holder) {
-    const auto received = holder.getAs<ConfigMsg>(MsgTypeEnum::CONFIG);
+    const auto received = holder.getAs<ConfigMsg>();
     if (!received)
         return;
     CONFIG_PROPERTIES(MIRRORED_ACCEPT, MIRRORED_ACCEPT)

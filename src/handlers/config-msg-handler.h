@@ -40,11 +40,11 @@ class ConfigMsgHandler : public QObject {
 public:
     explicit ConfigMsgHandler(QObject *parent = nullptr);
 
-    /// Setters raise std::out_of_range for a number that is no enumerator. An empty list of ranges is
+    /// Setters throw std::out_of_range for a number that is no enumerator. An empty list of ranges is
     /// ignored: a device always has one.
     CONFIG_PROPERTIES(MIRRORED_ACCESSORS, MIRRORED_ACCESSORS)
 
-    /// The display name of the detection mode.
+    /// The display name of the detection mode. No caller today.
     QString stringMode() const;
     /// The name of the sensitivity step.
     QString getSens() const;
@@ -65,7 +65,7 @@ signals:
     void changed();
     /// To be sent. The holder shares the live settings.
     void gotMsg(MsgHolder msg);
-    void accepted();
+    void accepted(); ///< No caller today.
     CONFIG_PROPERTIES(MIRRORED_SIGNAL, MIRRORED_SIGNAL)
     void sensChanged();
     void stringModeChanged();

@@ -49,7 +49,7 @@ Screen toScreen(const Field &field) {
     }
 }
 
-/// Raises std::out_of_range for a number that is no enumerator of the field's enumeration.
+/// Throws std::out_of_range for a number that is no enumerator of the field's enumeration.
 template <typename Field, typename Screen>
 Field fromScreen(const Screen &value) {
     if constexpr (std::is_same_v<Screen, QString>) {
