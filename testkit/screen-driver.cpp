@@ -1,5 +1,6 @@
 #include "screen-driver.h"
 
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -7,36 +8,125 @@
 
 namespace {
 
-void collect(QQuickItem *item, const ScreenDriver::Wanted &wanted, QVector<QQuickItem *> &found) {
+/// Items of documents have a class name such as "Button_QMLTYPE_3".
+bool isA(const QQuickItem &item, const QString &element) {
+    for (const QMetaObject *meta = item.metaObject(); meta; meta = meta->superClass())
+        if (QString(meta->className()).section('_', 0, 0) == element)
+            return true;
+    return element.isEmpty();
+}
+
+QString pictureOn(const QQuickItem &item, const char *property) {
+    return item.property(property).toUrl().fileName();
+}
+
+bool shows(const QQuickItem &item, const QString &word) {
+    const QStringList shown{item.property("text").toString(), item.property("title").toString(),
+                            pictureOn(item, "iconSource")};
+    const QRegularExpression pattern(QRegularExpression::wildcardToRegularExpression(word));
+    return word.isEmpty() || shown.contains(word) || shown.indexOf(pattern) >= 0;
+}
+
+QString colorOf(const QVariant &value) {
+    const auto color = value.value<QColor>();
+    return color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb);
+}
+
+void collect(QQuickItem *item, const std::function<void(QQuickItem *)> &take) {
     if (!item->isVisible())
         return;
-    if (wanted(*item))
-        found.append(item);
+    take(item);
     for (QQuickItem *child : item->childItems())
-        collect(child, wanted, found);
+        collect(child, take);
 }
 
 } // namespace
 
-QVector<QQuickItem *> ScreenDriver::findAll(const Wanted &wanted) const {
+QVector<QQuickItem *> ScreenDriver::findAll(const QString &element, const QString &word,
+                                            const QQuickItem *in) const {
     QVector<QQuickItem *> found;
-    collect(window.contentItem(), wanted, found);
+    collect(window.contentItem(), [&](QQuickItem *item) {
+        if (isA(*item, element) && shows(*item, word) && (!in || in == item || in->isAncestorOf(item)))
+            found.append(item);
+    });
     return found;
 }
 
-QQuickItem *ScreenDriver::find(const Wanted &wanted) const {
-    return findAll(wanted).value(0);
+std::string ScreenDriver::words(const QString &element) const {
+    std::string words;
+    if (const QQuickItem *item = find(element))
+        for (const QQuickItem *text : findAll("QQuickText", {}, item))
+            if (const QString word = text->property("text").toString(); !word.isEmpty())
+                words += word.toStdString() + '|';
+    return words;
 }
 
-bool ScreenDriver::isA(const QQuickItem &item, const QString &element) {
-    return QString(item.metaObject()->className()).section('_', 0, 0) == element;
+std::string ScreenDriver::look(const QQuickItem &item) const {
+    QStringList looks;
+    for (const QQuickItem *part : findAll({}, {}, &item)) {
+        QString look;
+        if (isA(*part, "QQuickText") && !part->property("text").toString().isEmpty()) {
+            const auto font = part->property("font").value<QFont>();
+            look = QString("'%1' %2 %3")
+                       .arg(part->property("text").toString(), colorOf(part->property("color")));
+            look = look.arg(font.pointSizeF()) + (font.bold() ? " bold" : "");
+        } else if (isA(*part, "QQuickImage") && !pictureOn(*part, "source").isEmpty()) {
+            look = pictureOn(*part, "source") + ' ' + QString::fromStdString(place(*part, &item));
+        } else if (isA(*part, "QQuickRectangle") && part->property("color").value<QColor>().alpha() > 0) {
+            look = colorOf(part->property("color"));
+            const auto *border = part->property("border").value<QObject *>();
+            if (const double width = border->property("width").toReal(); width > 1)
+                look += '/' + colorOf(border->property("color")) + QString(":%1").arg(width);
+            if (const double radius = part->property("radius").toReal(); radius > 0)
+                look += QString(" r%1").arg(radius);
+            if (const auto rect = place(*part, &item); rect != place(item, &item))
+                look += ' ' + QString::fromStdString(rect);
+        } else if (part->property("switchEnabled").isValid() && part->childItems().isEmpty()) {
+            const QVariant position = part->property("position"), checked = part->property("checked");
+            look =
+                QString("'%1' %2/%3 %4 %5")
+                    .arg(part->property("text").toString(), part->property("textSize").toString(),
+                         part->property("lineWidth").toString(), colorOf(part->property("backgroundColor")))
+                    .arg((position.isValid() ? position : checked).toInt());
+            look += part->property("switchEnabled").toBool() ? "" : " dead";
+        } else {
+            continue;
+        }
+        double opacity = 1;
+        for (const QQuickItem *each = part; each; each = each->parentItem())
+            opacity *= each->opacity();
+        looks += opacity < 1 ? look + QString(" *%1").arg(opacity) : look;
+    }
+    return looks.join(", ").toStdString();
 }
 
-QQuickItem *ScreenDriver::control(const QString &wordOrPicture) const {
-    return find([&](const QQuickItem &item) {
-        const bool hasPicture = item.property("iconSource").toUrl().fileName() == wordOrPicture;
-        return hasPicture || item.property("text").toString() == wordOrPicture;
-    });
+std::vector<std::string> ScreenDriver::looks(const QString &element, const QString &in) const {
+    picture();
+    std::vector<std::string> looks;
+    for (const QQuickItem *item : findAll(element, {}, find(in)))
+        looks.push_back(place(*item) + ' ' + look(*item));
+    return looks;
+}
+
+std::string ScreenDriver::place(const QQuickItem &item, const QQuickItem *in) {
+    const QRectF rect = item.mapRectToItem(in, {0, 0, item.width(), item.height()});
+    const auto rounded = [](double value) { return qRound(value * 10) / 10.0; };
+    return QString("%1x%2+%3+%4")
+        .arg(rounded(rect.width()))
+        .arg(rounded(rect.height()))
+        .arg(rounded(rect.x()))
+        .arg(rounded(rect.y()))
+        .toStdString();
+}
+
+bool ScreenDriver::isInView(const QQuickItem &item, const QQuickItem &in) {
+    const QRectF rect = item.mapRectToItem(&in, {0, 0, item.width(), item.height()});
+    return QRectF(0, 0, in.width(), in.height()).contains(rect);
+}
+
+void ScreenDriver::resize(const QSize &size) {
+    window.resize(size);
+    picture();
 }
 
 QPoint ScreenDriver::middleOf(const QQuickItem &item) {
@@ -56,8 +146,7 @@ void ScreenDriver::drag(QPoint from, QPoint to) {
 }
 
 bool ScreenDriver::scrollDown(const QQuickItem &item) {
-    const QQuickItem *flickable = find(
-        [&](const QQuickItem &each) { return isA(each, "QQuickFlickable") && item.isAncestorOf(&each); });
+    const QQuickItem *flickable = find("QQuickFlickable", {}, &item);
     return flickable && waitFor([&] {
                drag(item.mapToScene({2, item.height() * 0.9}).toPoint(),
                     item.mapToScene({2, item.height() * 0.1}).toPoint());

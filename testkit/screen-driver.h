@@ -16,16 +16,33 @@ public:
     explicit ScreenDriver(QQuickWindow &shownWindow)
         : window(shownWindow) {}
 
-    using Wanted = std::function<bool(const QQuickItem &)>;
-
-    /// The visible items that are wanted, parents before children. Items of documents have a class name such
-    /// as "Button_QMLTYPE_3"; `isA(item, "Button")` takes it for a Button.
-    QVector<QQuickItem *> findAll(const Wanted &wanted) const;
+    /// The visible items of an element, in another item if there is one, parents before children. An element is
+    /// known by the name of its document or its class ("Button", "UavSwitch"), also where others are made of it.
+    /// An item is known by its word or its picture ("usb" for qrc:/icons/usb), and "AI: *" stands for all words
+    /// that begin so. Empty stands for any.
+    QVector<QQuickItem *> findAll(const QString &element, const QString &word = {},
+                                  const QQuickItem *in = nullptr) const;
     /// The first of them; null if there is none.
-    QQuickItem *find(const Wanted &wanted) const;
-    static bool isA(const QQuickItem &item, const QString &element);
-    /// The visible control with this word on it, or this picture ("usb" for qrc:/icons/usb).
-    QQuickItem *control(const QString &wordOrPicture) const;
+    QQuickItem *find(const QString &element, const QString &word = {}, const QQuickItem *in = nullptr) const {
+        return findAll(element, word, in).value(0);
+    }
+    QQuickItem *control(const QString &word) const { return find({}, word); }
+
+    /// Everything written in the first item of an element, in its order, each followed by '|'.
+    std::string words(const QString &element) const;
+    /// What is drawn in an item, in its order: rectangles by colour/border and place, pictures by name and
+    /// place, texts with colour and size, painted switches with size of text/line, colour and position. The
+    /// place is left out where it is that of the item, an opacity where it is 1.
+    std::string look(const QQuickItem &item) const;
+    /// Place and look of each visible item of an element in the first of another, once all are in their
+    /// places.
+    std::vector<std::string> looks(const QString &element, const QString &in) const;
+    /// "WxH+X+Y", in the window or another item, in pixels to a tenth.
+    static std::string place(const QQuickItem &item, const QQuickItem *in = nullptr);
+    /// Whether all of an item is inside another, which may scroll it.
+    static bool isInView(const QQuickItem &item, const QQuickItem &in);
+
+    void resize(const QSize &size);
 
     /// The middle of an item, in the window.
     static QPoint middleOf(const QQuickItem &item);

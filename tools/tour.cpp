@@ -5,8 +5,6 @@
 #include "screen-driver.h"
 #include "screen-engine.h"
 #include "service-objects.h"
-#include "visuals/layered-plot.h"
-#include "visuals/uav-switch.h"
 #include "visuals/uav-three-switch.h"
 
 #include <QDir>
@@ -17,7 +15,7 @@
 
 namespace {
 
-/// Raised with a sentence for the user when a step of the tour can't be made.
+/// Thrown with a sentence for the user when a step of the tour can't be made.
 struct TourError {
     QString text;
 };
@@ -65,13 +63,10 @@ private:
         waitFor([this] { return objects.usbService.isUsbActive(); }, "The simulator does not start.");
     }
 
-    void press(const QString &wordOrPicture) { driver.click(control(wordOrPicture)); }
+    void press(const QString &wordOrPicture) { driver.click(element({}, shown(wordOrPicture))); }
 
     /// The view that each band shows.
-    QVector<QQuickItem *> views() const {
-        return driver.findAll(
-            [](const QQuickItem &item) { return qobject_cast<const LayeredPlot *>(&item); });
-    }
+    QVector<QQuickItem *> views() const { return driver.findAll("LayeredPlot"); }
 
     /// One swipe to the left on each band.
     void swipeAllBands() {
@@ -99,14 +94,9 @@ private:
 
     /// Clicks the switches of these bands until they stand so.
     void step(const QStringList &bands, UavThreeSwitch::Position position) {
-        for (const QString &band : bands) {
-            const auto isBand = [&](const QQuickItem &item) {
-                const auto *control = qobject_cast<const UavThreeSwitch *>(&item);
-                return control && control->getText().startsWith(band) && control->getPosition() != position;
-            };
-            while (const QQuickItem *control = driver.find(isBand))
-                driver.click(*control);
-        }
+        for (const QString &band : bands)
+            while (element("UavThreeSwitch", band + '*').property("position").toInt() != position)
+                driver.click(element("UavThreeSwitch", band + '*'));
     }
 
     void visitHelp() {
@@ -151,9 +141,7 @@ private:
             return ScreenDriver::waitFor([this] { return !views().isEmpty(); }, 2000);
         };
         waitFor(connect, "The detector on the serial line is not found.");
-        driver.click(*driver.find([](const QQuickItem &item) {
-            return qobject_cast<const UavSwitch *>(&item) && item.property("text") == "Wi-Fi";
-        }));
+        driver.click(element("UavSwitch", "Wi-Fi"));
         for (const auto &results : fieldScene(generation)) {
             device.sendScan(results);
             waitForScans(1);
@@ -192,18 +180,10 @@ private:
             throw TourError{otherwise};
     }
 
-    const QQuickItem &control(const QString &wordOrPicture) const {
-        const QQuickItem *found = driver.control(shown(wordOrPicture));
+    const QQuickItem &element(const QString &name, const QString &wordOrPicture = {}) const {
+        const QQuickItem *found = driver.find(name, wordOrPicture);
         if (!found)
-            throw TourError{"No control on the screen shows: " + wordOrPicture};
-        return *found;
-    }
-
-    const QQuickItem &element(const QString &name) const {
-        const QQuickItem *found =
-            driver.find([&](const QQuickItem &item) { return ScreenDriver::isA(item, name); });
-        if (!found)
-            throw TourError{"Not on the screen: " + name};
+            throw TourError{"Not on the screen: " + name + ' ' + wordOrPicture};
         return *found;
     }
 

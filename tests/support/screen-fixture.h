@@ -1,12 +1,15 @@
 #pragma once
 
-#include "messages.h"
+#include "msg-to-json-parser.h"
 #include "pty-device.h"
 #include "screen-driver.h"
 #include "screen-engine.h"
 #include "service-objects.h"
 
+#include <QDir>
+#include <QPointer>
 #include <QTest>
+#include <QTimer>
 #include <gmock/gmock.h>
 #include <memory>
 #include <mutex>
@@ -40,9 +43,12 @@ private:
 /// The application's window as a user has it, and a device to plug in. A warning of Qt's fails the test.
 class ScreenFixture : public testing::Test {
 protected:
-    ScreenFixture() {
+    explicit ScreenFixture(const QString &workingDirectory = ".") {
+        const QString usual = QDir::currentPath();
+        QDir::setCurrent(workingDirectory);
         screens = std::make_unique<ScreenEngine>(objects);
         screens->load();
+        QDir::setCurrent(usual);
         window = qobject_cast<QQuickWindow *>(screens->qmlEngine().rootObjects().value(0));
         if (!window || !QTest::qWaitForWindowExposed(window))
             throw std::runtime_error("the window does not show");
@@ -58,18 +64,26 @@ protected:
         QObject::connect(&service, &UsbService::usbStateChanged, window, [this] { ++stateChanges; });
     }
 
-    /// Ends as the application does.
+    /// Ends as the application does: a device that is connected is told to stop its scan.
     void TearDown() override {
-        objects.usbService.shutDown();
+        if (window) {
+            QTimer::singleShot(0, window, &QWindow::close);
+            EXPECT_EQ(QCoreApplication::exec(), 0);
+        }
+        EXPECT_FALSE(device && (!device->waitForOpen(false) || device->isScanning()));
         screens.reset();
         EXPECT_THAT(QtWarnings::take(), testing::IsEmpty());
     }
 
-    /// Plugs in a device in place of the one before. It scans only when it is given a period.
+    /// Plugs in a device in place of the one before, which scans only when it is given a period.
     void plugIn(ProtoEnum generation) {
         device.reset();
         device.emplace(directory, generation);
         device->setScanPeriod(std::chrono::milliseconds(0));
+    }
+    void connectTo(ProtoEnum generation) {
+        plugIn(generation);
+        connectByButton();
     }
 
     /// Presses the USB button until the screens have the device's settings: on a busy machine the device may
@@ -91,9 +105,9 @@ protected:
     bool isConnected() const { return objects.usbService.isUsbActive(); }
 
     /// Clicks the visible control with this word or picture on it.
-    void click(const QString &wordOrPicture) {
-        const QQuickItem *control = driver->control(wordOrPicture);
-        ASSERT_NE(control, nullptr) << qPrintable(wordOrPicture);
+    void click(const QString &word, const QString &element = {}) {
+        const QQuickItem *control = driver->find(element, word);
+        ASSERT_NE(control, nullptr) << qPrintable(word);
         driver->click(*control);
     }
 
@@ -104,6 +118,22 @@ protected:
         drainWire();
         auto texts = device->requests();
         texts.pop_back();
+        return texts;
+    }
+
+    /// The texts that set these settings of the connected device ("CONFIG indLedLvl, CONFIG_K7 dispLvl") to a
+    /// value in JSON. Each is on the wire twice: the documents' connections to the service are doubled.
+    std::vector<std::string> edits(const QString &settings, const QString &value) const {
+        std::vector<std::string> texts;
+        for (const QString &setting : settings.split(", ")) {
+            const std::string type = setting.section(' ', 0, 0).toStdString();
+            auto message = device->settingsOf(type);
+            std::string error;
+            message["type"] = type;
+            message[setting.section(' ', 1).toStdString()] = json11::Json::parse(value.toStdString(), error);
+            texts.insert(texts.end(), 2,
+                         MsgToJsonParser::toJson(Msg::parseJson(json11::Json(message).dump())));
+        }
         return texts;
     }
 
@@ -120,7 +150,7 @@ protected:
     ServiceObjects objects{directory.path()};
     QtWarnings warnings;
     std::unique_ptr<ScreenEngine> screens;
-    QQuickWindow *window = nullptr;
+    QPointer<QQuickWindow> window;
     std::optional<ScreenDriver> driver;
 
 private:

@@ -1,209 +1,133 @@
 #include "screen-fixture.h"
-#include "wire-text.h"
 
 using namespace testing;
 
-static const std::string CONFIG =
-    wire(R"({|"proto" : "K7",|"indLed" : true,|"indSnd" : true,|"indVibro" : false,|"indLedLvl" : 50,|)"
-         R"("indSndLvl" : 100,|"mode" : "AUTO",|"wifiDet" : false,|"uavDet" : true,|)"
-         R"("ranges" : [|"STD_1200",|"EXT_2400",|"EXT_5800"|],|"hwVers" : "7.1",|"fwVers" : "2.30",|)"
-         R"("bootVers" : "1.4",|"md5Serial" : "5d41",|"atten" : 6,|"type" : "CONFIG"|})");
-
-static std::string configWith(const std::string &part, const std::string &other) {
-    std::string config = CONFIG;
-    const std::string old = wire(part);
-    return config.replace(config.find(old), old.size(), wire(other));
-}
-
-static std::string configWithRanges(const std::string &ranges) {
-    return configWith(R"("STD_1200",|"EXT_2400",|"EXT_5800")", ranges);
-}
+static const std::string LIVE = " #81909f/#000000:2 r12.8, ", DEAD = " #81909f/#808080:2 r12.8, ";
 
 class SettingsRowTest : public ScreenFixture {
 protected:
-    void connectTo(ProtoEnum generation) {
-        plugIn(generation);
-        connectByButton();
-    }
-
-    static bool isControl(const QQuickItem &item) {
-        return ScreenDriver::isA(item, "UavThreeSwitch") || ScreenDriver::isA(item, "UavSwitch") ||
-               ScreenDriver::isA(item, "Button");
-    }
-
-    /// The switch or button whose word begins so: bands and buttons change the rest of it.
     const QQuickItem &control(const QString &word) const {
-        const QQuickItem *found = driver->find([&](const QQuickItem &item) {
-            return isControl(item) && item.property("text").toString().startsWith(word);
-        });
-        return found ? *found : throw std::runtime_error("no control shows " + word.toStdString());
+        return *driver->find({}, word, driver->find("SettingsLayout"));
     }
-
-    void press(const QString &word) { driver->click(control(word)); }
-
-    /// What a person sees of a control: its word, and the disc of a switch.
-    static std::string look(const QQuickItem &item, const QImage &picture) {
-        const std::string text = item.property("text").toString().toStdString();
-        if (ScreenDriver::isA(item, "Button"))
-            return item.isEnabled() ? text : text + " dead";
-        const auto isColor = [&](const QPointF &point, const char *color) {
-            return picture.pixelColor(item.mapToScene(point).toPoint()) == QColor(color);
-        };
-        const int line = item.property("lineWidth").toInt();
-        const qreal h = item.height() - 2 * line;
-        const qreal start = 0.25 * h - 2 * line, end = 0.875 * h, middle = (start + end) / 2;
-        const bool upper = isColor({middle, start + (end - start) / 4}, "#41709a");
-        const bool lower = isColor({middle, end - (end - start) / 4}, "#41709a");
-        if (!isColor({item.width() * 0.95, h * 0.85}, "#5b9bd5"))
-            return text + (upper || lower ? " greyed with a disc" : " dead");
-        return text + (upper ? lower ? " full" : " upper half" : lower ? " half" : " off");
+    std::vector<std::string> row(const QString &element) const {
+        return driver->looks(element, "SettingsLayout");
     }
-
-    std::string look(const QString &word) const {
-        const QImage picture = driver->picture(); // before the search: it brings the window up to date
-        return look(control(word), picture);
-    }
-
-    std::vector<std::string> bands() const {
-        std::vector<std::string> looks;
-        const QImage picture = driver->picture();
-        for (const QQuickItem *band : driver->findAll(
-                 [](const QQuickItem &item) { return ScreenDriver::isA(item, "UavThreeSwitch"); }))
-            looks.push_back(look(*band, picture));
-        return looks;
+    /// The words of the bands and their positions.
+    std::string bands() const {
+        QString bands;
+        for (const QQuickItem *band : driver->findAll("UavThreeSwitch"))
+            bands += band->property("text").toString() + ':' +
+                     QString::number(band->property("position").toInt()) + ' ';
+        return bands.toStdString();
     }
 };
 
-TEST_F(SettingsRowTest, SendsEachEditTwiceAndFollowsTheDevice) {
-    struct Edit {
-        const char *control;
-        const char *part, *edited; // of the CONFIG
-        const char *before, *after;
-    };
-    const Edit edits[] = {
-        {"1.2", "STD_1200", "EXT_1200", "1.2 half", "1.2+ full"},
-        {"2.4", R"("EXT_2400",|)", "", "2.4+ full", "2.4 off"},
-        {"4.9", R"("EXT_5800")", R"("STD_4900",|"EXT_5800")", "4.9 off", "4.9 half"},
-        {"Sound", R"("indSnd" : true)", R"("indSnd" : false)", "Sound full", "Sound off"},
-        {"Vibro", R"("indVibro" : false)", R"("indVibro" : true)", "Vibro off", "Vibro full"},
-        {"Wi-Fi", R"("wifiDet" : false)", R"("wifiDet" : true)", "Wi-Fi off", "Wi-Fi full"},
-        {"Dig", R"("uavDet" : true)", R"("uavDet" : false)", "Dig full", "Dig off"},
-        {"Sens", R"("atten" : 6)", R"("atten" : 3)", "Sens: Low", "Sens: Mid"},
-    };
+TEST_F(SettingsRowTest, ShowsWhatWorksAndSendsEachEdit) {
+    EXPECT_THAT(row("UavSwitch"), ElementsAre("160x40+7.5+810 'Sound' 20/1 #81909f 0 dead",
+                                              "160x40+7.5+857.5 'Vibro' 20/1 #81909f 0 dead",
+                                              "160x40+7.5+905 'Wi-Fi' 20/1 #81909f 0 dead",
+                                              "160x40+7.5+952.5 'Dig' 20/1 #81909f 0 dead"));
+    EXPECT_THAT(row("Button"), ElementsAre("160x64+175+810" + DEAD + "'Sens: ?\?\?' #808080 15",
+                                           "160x64+175+889" + DEAD + "'AI: None' #808080 15"));
     connectTo(ProtoEnum::K7);
-    for (const Edit &edit : edits) {
-        SCOPED_TRACE(edit.control);
-        EXPECT_THAT(sentBy([&] { deviceSays(CONFIG); }), IsEmpty());
-        EXPECT_EQ(look(edit.control), edit.before);
-        const std::string edited = configWith(edit.part, edit.edited);
-        EXPECT_THAT(sentBy([&] { press(edit.control); }), ElementsAre(edited, edited));
-        EXPECT_EQ(look(edit.control), edit.after) << "with the device's OK";
-        deviceSays(CONFIG);
-        EXPECT_EQ(look(edit.control), edit.before);
-    }
-}
+    EXPECT_THAT(row("UavThreeSwitch"),
+                ElementsAre("160x40+7.5+810 '1.2' 15/1 #81909f 1", "160x40+7.5+857.5 '2.4+' 15/1 #81909f 2",
+                            "160x40+7.5+905 '4.9+' 15/1 #81909f 2",
+                            "160x40+7.5+952.5 '5.8+' 15/1 #81909f 2"));
+    const auto live =
+        ElementsAre("160x40+175+810 'Sound' 20/1 #81909f 1", "160x40+175+857.5 'Vibro' 20/1 #81909f 0",
+                    "160x40+175+905 'Wi-Fi' 20/1 #81909f 0", "160x40+175+952.5 'Dig' 20/1 #81909f 1");
+    EXPECT_THAT(row("UavSwitch"), live);
+    EXPECT_THAT(row("Button"), ElementsAre("160x64+342.5+810" + LIVE + "'Sens: High' #ffffff 15",
+                                           "160x64+342.5+889" + LIVE + "'AI: Default' #ffffff 15"));
 
-TEST_F(SettingsRowTest, KeepsTheChosenAiModeWhateverTheDeviceSays) {
-    const std::string field = wire(R"({|"aiPrior" : "FIELD",|"type" : "AI_PRIOR"|})");
-    connectTo(ProtoEnum::K7);
-    EXPECT_EQ(look("AI"), "AI: Default");
-    EXPECT_THAT(sentBy([&] { press("AI"); }), ElementsAre(field, field));
-    EXPECT_EQ(look("AI"), "AI: Field");
-    for (const std::string &said : {CONFIG, std::string(R"({"type":"AI_PRIOR","aiPrior":"CITY"})")}) {
-        EXPECT_THAT(sentBy([&] { deviceSays(said); }), IsEmpty());
-        EXPECT_EQ(look("AI"), "AI: Field");
-    }
-}
-
-TEST_F(SettingsRowTest, OutlivesAConfigWithRangesOfNoBandAndKeepsTheLastBandOn) {
-    connectTo(ProtoEnum::K6);
-    const auto k6 = [](const std::string &ranges) {
-        const std::string config = configWithRanges(ranges);
-        return "{\n\"proto\" : \"K6" + config.substr(config.find("K7") + 2);
+    struct {
+        const char *control, *setting, *value, *look;
+    } const clicks[] = {
+        {"1.2", "CONFIG ranges", R"(["EXT_1200","EXT_2400","EXT_4900","EXT_5800"])", "'1.2+' 15/1 #81909f 2"},
+        {"1.2+", "CONFIG ranges", R"(["EXT_2400","EXT_4900","EXT_5800"])", "'1.2' 15/1 #81909f 0"},
+        {"2.4+", "CONFIG ranges", R"(["EXT_4900","EXT_5800"])", "'2.4' 15/1 #81909f 0"},
+        {"5.8+", "CONFIG ranges", R"(["EXT_4900"])", "'5.8' 15/1 #81909f 0"},
+        {"4.9+", "CONFIG ranges", R"(["STD_4900"])", "'4.9' 15/1 #81909f 1"}, // the last band stays on
+        {"1.2", "CONFIG ranges", R"(["STD_1200","STD_4900"])", "'1.2' 15/1 #81909f 1"},
+        {"Sound", "CONFIG indSnd", "false", "'Sound' 20/1 #81909f 0"},
+        {"Vibro", "CONFIG indVibro", "true", "'Vibro' 20/1 #81909f 1"},
+        {"Wi-Fi", "CONFIG wifiDet", "true", "'Wi-Fi' 20/1 #81909f 1"},
+        {"Dig", "CONFIG uavDet", "false", "'Dig' 20/1 #81909f 0"},
+        {"Dig", "CONFIG uavDet", "true", "'Dig' 20/1 #81909f 1"},
+        {"Sens: *", "CONFIG atten", "6", "'Sens: Low' #ffffff 15"},
+        {"Sens: *", "CONFIG atten", "3", "'Sens: Mid' #ffffff 15"},
+        {"Sens: *", "CONFIG atten", "0", "'Sens: High' #ffffff 15"},
+        {"AI: *", "AI_PRIOR aiPrior", R"("FIELD")", "'AI: Field' #ffffff 15"},
+        {"AI: *", "AI_PRIOR aiPrior", R"("CITY")", "'AI: City' #ffffff 15"},
+        {"AI: *", "AI_PRIOR aiPrior", R"("DEFAULT")", "'AI: Default' #ffffff 15"},
+        {"AI: *", "AI_PRIOR aiPrior", R"("FIELD")", "'AI: Field' #ffffff 15"},
     };
-    for (const auto &[ranges, logged] :
-         {std::pair(R"("EXT_2400",|"CUSTOM")", "[ERROR] [RangesListModel] no band has the range CUSTOM\n"),
-          {R"("STD_1200",|"EXT_2400")", "[ERROR] [RangesListModel] no band has the range STD_1200\n"},
-          {"", ""}}) {
-        internal::CaptureStdout();
-        EXPECT_THAT(sentBy([&] { deviceSays(k6(ranges)); }), IsEmpty());
-        EXPECT_EQ(internal::GetCapturedStdout(), logged);
+    for (const auto &[word, setting, value, look] : clicks) {
+        const auto expected = edits(setting, value);
+        const QQuickItem &item = control(word);
+        EXPECT_THAT(sentBy([&] { driver->click(item); }), ElementsAreArray(expected)) << setting << value;
+        EXPECT_THAT(driver->look(control(word[0] < '9' ? QString(word).left(3) + '*' : word)),
+                    EndsWith(look));
     }
-    EXPECT_THAT(bands(), ElementsAre("2.4 off", "4.9 off", "5.8 off"));
-    for (const auto &[range, shown] : {std::pair(R"("STD_2400")", "2.4 half"),
-                                       {R"("EXT_2400")", "2.4+ full"},
-                                       {R"("STD_2400")", "2.4 half"}}) {
-        EXPECT_THAT(sentBy([&] { press("2.4"); }), ElementsAre(k6(range), k6(range)));
-        EXPECT_THAT(bands(), ElementsAre(shown, "4.9 off", "5.8 off"));
-    }
-    deviceSays(CONFIG);
-    EXPECT_THAT(bands(), ElementsAre("1.2 half", "2.4+ full", "4.9 off", "5.8+ full"));
-}
+    EXPECT_THAT(
+        sentBy([this] {
+            deviceSays(R"({"type":"AI_PRIOR","aiPrior":"CITY"})");
+            deviceSays(
+                R"({"type":"CONFIG","proto":"K7","indSnd":true,"uavDet":true,"ranges":["STD_1200"],"atten":5})");
+        }),
+        IsEmpty());
+    EXPECT_THAT(row("UavSwitch"), live) << "switches that were touched follow the device again";
+    EXPECT_EQ(bands(), "1.2:1 2.4:0 4.9:0 5.8:0 ");
+    EXPECT_EQ(driver->words("SettingsLayout"), "Sens: ???|AI: Field|");
 
-TEST_F(SettingsRowTest, FollowsTheGeneration) {
-    const std::string none = wire(R"({|"aiPrior" : "NONE",|"type" : "AI_PRIOR"|})");
-    connectTo(ProtoEnum::K1);
-    EXPECT_THAT(bands(), ElementsAre("2.4+ full", "4.9+ full", "5.8+ full"));
-    EXPECT_EQ(look("AI"), "AI: None");
-    EXPECT_THAT(sentBy([&] { press("AI"); }), ElementsAre(none, none));
-    EXPECT_EQ(look("AI"), "AI: None");
-    for (const auto &[generation, bandCount, mode] : {std::tuple(ProtoEnum::K6, 3u, "AI: Default"),
-                                                      {ProtoEnum::K7EW, 4u, "AI: Default"},
-                                                      {ProtoEnum::K7, 4u, "AI: Default"},
-                                                      {ProtoEnum::K1, 3u, "AI: None"}}) {
-        disconnectByButton();
-        connectTo(generation);
-        EXPECT_THAT(bands(), SizeIs(bandCount));
-        EXPECT_EQ(look("AI"), mode);
-    }
-    EXPECT_THAT(sentBy([&] { press("AI"); }), IsEmpty())
-        << "a generation without modes behind one that has them";
-    EXPECT_EQ(look("AI"), "AI: None");
-}
-
-TEST_F(SettingsRowTest, IsDeadWithoutAConnection) {
-    const auto looks = [this] {
-        auto all = bands();
-        for (const char *word : {"Sound", "Vibro", "Wi-Fi", "Dig", "Sens", "AI"})
-            all.push_back(look(word));
-        return all;
-    };
-    EXPECT_THAT(looks(), AllOf(SizeIs(6), Each(EndsWith(" dead"))));
-    connectTo(ProtoEnum::K7);
-    deviceSays(CONFIG);
-    EXPECT_THAT(looks(), AllOf(SizeIs(10), Each(Not(EndsWith(" dead")))));
-    EXPECT_EQ(driver->control("TEST MODE"), nullptr);
     disconnectByButton();
-    const auto dead = looks();
-    EXPECT_THAT(dead, AllOf(SizeIs(10), Each(EndsWith(" dead"))));
-    for (const std::string &shown : dead)
-        press(QString::fromStdString(shown.substr(0, shown.rfind(' '))));
-    EXPECT_EQ(looks(), dead);
-    EXPECT_TRUE(control("Sound").property("checked").toBool());
+    const auto dead = row("UavSwitch"), deadBands = row("UavThreeSwitch"), deadButtons = row("Button");
+    EXPECT_THAT(dead, Each(EndsWith(" dead")));
+    EXPECT_THAT(deadBands, AllOf(SizeIs(4), Each(EndsWith(" dead"))));
+    EXPECT_THAT(deadButtons, Each(HasSubstr(DEAD)));
+    for (const QString word : {"1.2", "Sound", "Vibro", "Wi-Fi", "Dig", "Sens: *", "AI: *"})
+        driver->click(control(word));
+    EXPECT_EQ(row("UavSwitch"), dead);
+    EXPECT_EQ(row("UavThreeSwitch"), deadBands);
+    EXPECT_EQ(row("Button"), deadButtons);
 }
 
-TEST_F(SettingsRowTest, FitsEveryWindowAndTellsTestMode) {
-    for (int i = 0; i < 12; ++i)
-        click("info");
-    const auto paintedBand = [this](int windowHeight) {
-        window->resize(800, windowHeight);
-        const QImage picture = driver->picture();
-        const QQuickItem &band = control("2.4");
-        return picture.copy(band.mapRectToScene(band.boundingRect()).toRect());
+TEST_F(SettingsRowTest, FollowsTheGenerationAndOutlivesRangesOfNoBand) {
+    connectTo(ProtoEnum::K1);
+    EXPECT_THAT(sentBy([this] { click("AI: None"); }),
+                ElementsAreArray(edits("AI_PRIOR aiPrior", R"("NONE")")));
+    struct {
+        const char *generation, *ranges, *bands, *words, *logged;
+    } const configs[] = {
+        {"K6", R"("STD_2400","EXT_5800")", "2.4:1 4.9:0 5.8+:2 ", "Sens: High|AI: Default|", ""},
+        {"K6", R"("EXT_2400","CUSTOM")", "2.4+:2 4.9:0 5.8:0 ", "Sens: High|AI: Default|",
+         "no band has the range CUSTOM"},
+        {"K6", R"("STD_1200","EXT_2400")", "2.4:0 4.9:0 5.8:0 ", "Sens: High|AI: Default|",
+         "no band has the range STD_1200"},
+        {"K7EW", R"("EXT_1200")", "1.2+:2 2.4:0 4.9:0 5.8:0 ", "Sens: High|AI: Default|", ""},
+        {"K1", R"("STD_4900")", "2.4:0 4.9:1 5.8:0 ", "Sens: High|AI: None|", ""},
+        {"K7", "", "1.2:0 2.4:0 4.9:0 5.8:0 ", "Sens: High|AI: Default|", ""},
     };
-    const QImage painted = paintedBand(1000), withLargerText = paintedBand(1400);
-    EXPECT_EQ(withLargerText.size(), painted.size());
-    EXPECT_FALSE(withLargerText == painted);
-    const auto isInside = [this](const QQuickItem &item) {
-        return QRectF(QPointF(), window->size()).contains(item.mapRectToScene(item.boundingRect()));
-    };
-    for (const QSize size : {QSize(300, 400), QSize(2560, 1440), QSize(300, 1440), QSize(1440, 400)}) {
-        window->resize(size);
-        driver->picture();
-        for (const char *word : {"1.2", "5.8", "Sound", "Dig", "Sens", "AI"})
-            EXPECT_TRUE(isInside(control(word))) << word << " " << size.width();
-        EXPECT_TRUE(isInside(*driver->control("TEST MODE"))) << size.width();
+    for (const auto &[generation, ranges, shown, words, logged] : configs) {
+        internal::CaptureStdout();
+        const std::string config =
+            std::string(R"({"type":"CONFIG","proto":")") + generation + R"(","ranges":[)" + ranges + "]}";
+        EXPECT_THAT(sentBy([&] { deviceSays(config); }), IsEmpty());
+        EXPECT_THAT(internal::GetCapturedStdout(),
+                    *logged ? HasSubstr(std::string("[ERROR] [RangesListModel] ") + logged)
+                            : HasSubstr(logged));
+        EXPECT_EQ(bands(), shown);
+        EXPECT_EQ(driver->words("SettingsLayout"), words);
     }
-    click("usb");
-    EXPECT_EQ(driver->control("TEST MODE"), nullptr);
+}
+
+TEST_F(SettingsRowTest, FitsEveryWindow) {
+    connectTo(ProtoEnum::K7);
+    for (const QSize size : {QSize(300, 400), QSize(2560, 1440), QSize(300, 1440), QSize(1440, 400)}) {
+        driver->resize(size);
+        for (const char *word : {"1.2", "5.8+", "Sound", "Dig", "Sens: *", "AI: *"})
+            EXPECT_TRUE(ScreenDriver::isInView(control(word), *window->contentItem()))
+                << word << " " << size.width();
+    }
 }

@@ -1,71 +1,81 @@
+#include "screen-fixture.h"
+
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTranslator>
-#include <gmock/gmock.h>
 
-using testing::Gt;
-using testing::IsEmpty;
+using namespace testing;
 
-namespace {
-
-QString contentOf(const QString &path) {
+static QString contentOf(const QString &path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
     return QString::fromUtf8(file.readAll());
 }
 
-struct Word {
-    QByteArray document;
-    QByteArray source;
-};
-
-/// The words of the documents that can be translated, in the documents' order.
-QVector<Word> wordsOfTheScreens() {
-    static const QRegularExpression call(R"(qsTr\((["'])(.*?)(?<!\\)\1\))");
-    QVector<Word> words;
+TEST(Translation, HasEveryWordOfTheScreensAndTheManualsExplainThem) {
+    QTranslator russian;
+    ASSERT_TRUE(russian.load("UavVesper-ru", RUSSIAN_DIR, QString(), QString()));
+    const QString english = contentOf(MANUALS_SOURCE_DIR "/manual.en.md");
+    const QString inRussian = contentOf(MANUALS_SOURCE_DIR "/manual.ru.md");
+    const QRegularExpression call(R"(qsTr\((["'])(.*?)(?<!\\)\1\))");
+    int words = 0;
     for (QDirIterator it(":/qml", {"*.qml"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
         const QString document = contentOf(it.next());
-        for (auto calls = call.globalMatch(document); calls.hasNext();)
-            words.append({it.fileInfo().baseName().toUtf8(), calls.next().captured(2).toUtf8()});
+        for (auto calls = call.globalMatch(document); calls.hasNext(); ++words) {
+            const QString word = calls.next().captured(2);
+            const QString translated = russian.translate(it.fileInfo().baseName().toUtf8(), word.toUtf8());
+            EXPECT_FALSE(translated.isEmpty()) << qPrintable(word);
+            // No word to see, and a word of the mobile platform alone.
+            if (word == "language" || word == "Share")
+                continue;
+            EXPECT_TRUE(english.contains(word.trimmed())) << qPrintable(word);
+            EXPECT_TRUE(inRussian.contains(translated.trimmed())) << qPrintable(translated);
+        }
     }
-    return words;
+    EXPECT_GT(words, 50);
+    for (const char *manual : {":/manuals/help_K6.pdf", ":/manuals/help_K7.pdf"})
+        EXPECT_TRUE(contentOf(manual).startsWith("%PDF-")) << manual;
 }
 
-struct Translation : testing::Test {
-    Translation() { EXPECT_TRUE(russian.load("UavVesper-ru", RUSSIAN_DIR, QString(), QString())); }
-
-    QString inRussian(const Word &word) const { return russian.translate(word.document, word.source); }
-
-    QTranslator russian;
+/// The screens as somebody sees them who starts them where the Russian words lie.
+class RussianScreensTest : public ScreenFixture {
+protected:
+    RussianScreensTest()
+        : ScreenFixture(RUSSIAN_DIR) {}
 };
 
-} // namespace
-
-TEST_F(Translation, HoldsEveryWordOfTheScreens) {
-    const auto words = wordsOfTheScreens();
-    EXPECT_THAT(words.size(), Gt(0));
-    for (const Word &word : words)
-        EXPECT_FALSE(inRussian(word).isEmpty()) << word.document.data() << ": " << word.source.data();
-}
-
-TEST_F(Translation, AndTheManualsExplainEveryWord) {
-    const QString english = contentOf(MANUALS_SOURCE_DIR "/manual.en.md");
-    const QString inRussianManual = contentOf(MANUALS_SOURCE_DIR "/manual.ru.md");
-    // No word to see, and a word of the mobile platform alone.
-    const QByteArrayList exempt{"language", "Share"};
-    for (const Word &word : wordsOfTheScreens()) {
-        if (exempt.contains(word.source))
-            continue;
-        EXPECT_TRUE(english.contains(word.source.trimmed())) << word.source.data();
-        EXPECT_TRUE(inRussianManual.contains(inRussian(word).trimmed())) << qPrintable(inRussian(word));
+TEST_F(RussianScreensTest, SpeakRussian) {
+    std::set<QString> seen;
+    const auto look = [&] {
+        driver->picture();
+        for (const QQuickItem *item : driver->findAll({}))
+            seen.insert(item->property("text").toString());
+    };
+    driver->resize({800, 2200});
+    connectTo(ProtoEnum::K7);
+    look();
+    click("Маска");
+    look();
+    click("info");
+    look();
+    click("Руководство");
+    look();
+    driver->clickAt({1, 1});
+    click("cfg");
+    look();
+    for (const QQuickItem *dialog : driver->findAll("ConfigPreference")) {
+        driver->click(*dialog);
+        look();
+        driver->clickAt({1, 1});
+        EXPECT_TRUE(ScreenDriver::waitFor([this] { return !driver->find("ListButtonDialog"); }));
     }
-}
-
-TEST(Manuals, AreInTheProgram) {
-    for (const char *file : {":/manuals/help_K6.pdf", ":/manuals/help_K7.pdf"}) {
-        QFile manual(file);
-        ASSERT_TRUE(manual.open(QIODevice::ReadOnly)) << file;
-        EXPECT_TRUE(manual.readAll().startsWith("%PDF-")) << file;
-    }
+    for (const char *word : {"Ждите", "Заводские настройки", "ЦИФРА", "Звук", "Вибро", "Цифра", "Чувств: Выс",
+                             "ИИ: Оптим", "Базовый", "Вкл", "Прошивка: 2.30", "Обнаружение", "Режим «Город»",
+                             "Поздний (-88)", "Управление РЭБ", "Отключение дисплея"})
+        EXPECT_EQ(seen.count(word), 1U) << word;
+    const QRegularExpression russian("[а-яА-Я]|^(Wi-Fi|FPV|Kelvane [67]|[0-9.+%-]*)$");
+    for (const QString &word : seen)
+        EXPECT_TRUE(word.contains(russian)) << qPrintable(word);
+    EXPECT_EQ(driver->find("BarScanResultPlot")->parentItem()->childItems()[1]->property("lang"), "ru");
 }
