@@ -64,31 +64,33 @@ std::string ScreenDriver::words(const QString &element) const {
 std::string ScreenDriver::look(const QQuickItem &item) const {
     QStringList looks;
     for (const QQuickItem *part : findAll({}, {}, &item)) {
+        const auto value = [part](const char *name) { return part->property(name); };
+        QString where = QString::fromStdString(place(*part, &item));
+        if (qAbs(part->mapToItem(&item, {0, part->height() / 2}).y() - item.height() / 2) < 1)
+            where = where.section('+', 0, 1) + '=';
         QString look;
-        if (isA(*part, "QQuickText") && !part->property("text").toString().isEmpty()) {
-            const auto font = part->property("font").value<QFont>();
-            look = QString("'%1' %2 %3")
-                       .arg(part->property("text").toString(), colorOf(part->property("color")));
+        if (isA(*part, "QQuickText") && !value("text").toString().isEmpty()) {
+            const auto font = value("font").value<QFont>();
+            look = QString("'%1' %2 %3").arg(value("text").toString(), colorOf(value("color")));
             look = look.arg(font.pointSizeF()) + (font.bold() ? " bold" : "");
         } else if (isA(*part, "QQuickImage") && !pictureOn(*part, "source").isEmpty()) {
-            look = pictureOn(*part, "source") + ' ' + QString::fromStdString(place(*part, &item));
-        } else if (isA(*part, "QQuickRectangle") && part->property("color").value<QColor>().alpha() > 0) {
-            look = colorOf(part->property("color"));
-            const auto *border = part->property("border").value<QObject *>();
+            look = pictureOn(*part, "source") + ' ' + where;
+        } else if (isA(*part, "QQuickRectangle") && value("color").value<QColor>().alpha() > 0) {
+            look = colorOf(value("color"));
+            const auto *border = value("border").value<QObject *>();
             if (const double width = border->property("width").toReal(); width > 1)
                 look += '/' + colorOf(border->property("color")) + QString(":%1").arg(width);
-            if (const double radius = part->property("radius").toReal(); radius > 0)
+            if (const double radius = value("radius").toReal(); radius > 0)
                 look += QString(" r%1").arg(radius);
-            if (const auto rect = place(*part, &item); rect != place(item, &item))
-                look += ' ' + QString::fromStdString(rect);
-        } else if (part->property("switchEnabled").isValid() && part->childItems().isEmpty()) {
-            const QVariant position = part->property("position"), checked = part->property("checked");
-            look =
-                QString("'%1' %2/%3 %4 %5")
-                    .arg(part->property("text").toString(), part->property("textSize").toString(),
-                         part->property("lineWidth").toString(), colorOf(part->property("backgroundColor")))
-                    .arg((position.isValid() ? position : checked).toInt());
-            look += part->property("switchEnabled").toBool() ? "" : " dead";
+            if (part->size() != item.size())
+                look += ' ' + where;
+        } else if (value("switchEnabled").isValid() && part->childItems().isEmpty()) {
+            const QVariant position = value("position").isValid() ? value("position") : value("checked");
+            look = QString("'%1' %2/%3 %4 %5")
+                       .arg(value("text").toString(), value("textSize").toString(),
+                            value("lineWidth").toString(), colorOf(value("backgroundColor")))
+                       .arg(position.toInt());
+            look += value("switchEnabled").toBool() ? "" : " dead";
         } else {
             continue;
         }
@@ -100,11 +102,11 @@ std::string ScreenDriver::look(const QQuickItem &item) const {
     return looks.join(", ").toStdString();
 }
 
-std::vector<std::string> ScreenDriver::looks(const QString &element, const QString &in) const {
+std::string ScreenDriver::looks(const QString &element, const QString &in) const {
     picture();
-    std::vector<std::string> looks;
+    std::string looks;
     for (const QQuickItem *item : findAll(element, {}, find(in)))
-        looks.push_back(place(*item) + ' ' + look(*item));
+        looks += '\n' + place(*item) + ' ' + look(*item);
     return looks;
 }
 
@@ -126,6 +128,7 @@ bool ScreenDriver::isInView(const QQuickItem &item, const QQuickItem &in) {
 
 void ScreenDriver::resize(const QSize &size) {
     window.resize(size);
+    waitFor([&] { return window.contentItem()->size() == size; });
     picture();
 }
 
@@ -143,6 +146,16 @@ void ScreenDriver::drag(QPoint from, QPoint to) {
     for (int i = 1; i <= steps; ++i)
         QTest::mouseMove(&window, from + (to - from) * i / steps);
     QTest::mouseRelease(&window, Qt::LeftButton, {}, to);
+}
+
+void ScreenDriver::slide(const QQuickItem &slider, double value, bool letGo) {
+    const double runner = slider.height() / 2, way = slider.width() - runner;
+    const double x = runner / 2 + way * value / slider.property("maximumValue").toDouble();
+    const QPoint to = slider.mapToScene({x, runner}).toPoint();
+    QTest::mousePress(&window, Qt::LeftButton, {}, middleOf(slider));
+    QTest::mouseMove(&window, to);
+    if (letGo)
+        QTest::mouseRelease(&window, Qt::LeftButton, {}, to);
 }
 
 bool ScreenDriver::scrollDown(const QQuickItem &item) {

@@ -16,10 +16,10 @@ public:
     explicit ScreenDriver(QQuickWindow &shownWindow)
         : window(shownWindow) {}
 
-    /// The visible items of an element, in another item if there is one, parents before children. An element is
-    /// known by the name of its document or its class ("Button", "UavSwitch"), also where others are made of it.
-    /// An item is known by its word or its picture ("usb" for qrc:/icons/usb), and "AI: *" stands for all words
-    /// that begin so. Empty stands for any.
+    /// The visible items of an element, in another item if there is one, parents before children. An element
+    /// is known by the name of its document or its class ("Button", "UavSwitch"), also where others are made
+    /// of it. An item is known by its word or its picture ("usb" for qrc:/icons/usb), and "AI: *" stands for
+    /// all words that begin so. Empty stands for any.
     QVector<QQuickItem *> findAll(const QString &element, const QString &word = {},
                                   const QQuickItem *in = nullptr) const;
     /// The first of them; null if there is none.
@@ -31,12 +31,13 @@ public:
     /// Everything written in the first item of an element, in its order, each followed by '|'.
     std::string words(const QString &element) const;
     /// What is drawn in an item, in its order: rectangles by colour/border and place, pictures by name and
-    /// place, texts with colour and size, painted switches with size of text/line, colour and position. The
-    /// place is left out where it is that of the item, an opacity where it is 1.
+    /// place, texts with colour and size, painted switches with size of text/line, colour and position. A
+    /// place is left out where it is that of the item, and ends in '=' in the item's middle; an opacity is
+    /// left out where it is 1.
     std::string look(const QQuickItem &item) const;
     /// Place and look of each visible item of an element in the first of another, once all are in their
-    /// places.
-    std::vector<std::string> looks(const QString &element, const QString &in) const;
+    /// places. A line break stands before each.
+    std::string looks(const QString &element, const QString &in) const;
     /// "WxH+X+Y", in the window or another item, in pixels to a tenth.
     static std::string place(const QQuickItem &item, const QQuickItem *in = nullptr);
     /// Whether all of an item is inside another, which may scroll it.
@@ -50,6 +51,9 @@ public:
     void clickAt(QPoint point);
     /// Presses at one point, moves there in steps, and releases at the other.
     void drag(QPoint from, QPoint to);
+
+    /// Presses a slider in its middle, drags its runner to a value, and lets it go, or does not.
+    void slide(const QQuickItem &slider, double value, bool letGo = true);
 
     /// Drags what scrolls in an item up, at the left edge, where no control is, until its end is in view;
     /// false if it does not come.

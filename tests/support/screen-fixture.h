@@ -11,18 +11,20 @@
 #include <QTest>
 #include <QTimer>
 #include <gmock/gmock.h>
-#include <memory>
 #include <mutex>
 #include <optional>
-#include <stdexcept>
 
 /// Keeps what Qt warns of, on any thread, while it lives. One at a time.
 class QtWarnings {
 public:
-    QtWarnings() { qInstallMessageHandler(keep); }
+    QtWarnings() {
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+            const std::lock_guard lock(mutex);
+            if (type != QtDebugMsg && type != QtInfoMsg)
+                texts.push_back(text.toStdString());
+        });
+    }
     ~QtWarnings() { qInstallMessageHandler(nullptr); }
-    QtWarnings(const QtWarnings &) = delete;
-    QtWarnings &operator=(const QtWarnings &) = delete;
 
     static std::vector<std::string> take() {
         const std::lock_guard lock(mutex);
@@ -30,12 +32,6 @@ public:
     }
 
 private:
-    static void keep(QtMsgType type, const QMessageLogContext &, const QString &text) {
-        const std::lock_guard lock(mutex);
-        if (type != QtDebugMsg && type != QtInfoMsg)
-            texts.push_back(text.toStdString());
-    }
-
     static inline std::mutex mutex;
     static inline std::vector<std::string> texts;
 };
@@ -54,14 +50,15 @@ protected:
             throw std::runtime_error("the window does not show");
         driver.emplace(*window);
         // Made behind the documents' own connections: what is counted, the screens have taken.
-        const auto count = [this](MsgTypeEnum type) { return [this, type] { ++taken[type]; }; };
-        const UsbService &service = objects.usbService;
-        QObject::connect(&service, &UsbService::gotConfig, window, count(MsgTypeEnum::CONFIG));
-        QObject::connect(&service, &UsbService::gotAiPrior, window, count(MsgTypeEnum::AI_PRIOR));
-        QObject::connect(&service, &UsbService::gotConfigK7, window, count(MsgTypeEnum::CONFIG_K7));
-        QObject::connect(&service, &UsbService::gotBatteryState, window, count(MsgTypeEnum::STATE));
-        QObject::connect(&service, &UsbService::gotScanResult, window, count(MsgTypeEnum::SCAN_RESULT));
-        QObject::connect(&service, &UsbService::usbStateChanged, window, [this] { ++stateChanges; });
+        const auto count = [this](auto signal, MsgTypeEnum type) {
+            QObject::connect(&objects.usbService, signal, window, [this, type] { ++taken[type]; });
+        };
+        count(&UsbService::gotConfig, MsgTypeEnum::CONFIG);
+        count(&UsbService::gotAiPrior, MsgTypeEnum::AI_PRIOR);
+        count(&UsbService::gotConfigK7, MsgTypeEnum::CONFIG_K7);
+        count(&UsbService::gotBatteryState, MsgTypeEnum::STATE);
+        count(&UsbService::gotScanResult, MsgTypeEnum::SCAN_RESULT);
+        count(&UsbService::usbStateChanged, MsgTypeEnum::OK);
     }
 
     /// Ends as the application does: a device that is connected is told to stop its scan.
@@ -75,28 +72,28 @@ protected:
         EXPECT_THAT(QtWarnings::take(), testing::IsEmpty());
     }
 
-    /// Plugs in a device in place of the one before, which scans only when it is given a period.
+    /// Plugs in a device in place of the one before, which scans only when it is told what.
     void plugIn(ProtoEnum generation) {
         device.reset();
         device.emplace(directory, generation);
         device->setScanPeriod(std::chrono::milliseconds(0));
     }
-    void connectTo(ProtoEnum generation) {
-        plugIn(generation);
-        connectByButton();
-    }
-
     /// Presses the USB button until the screens have the device's settings: on a busy machine the device may
     /// answer too late for an attempt.
     void connectByButton() {
         const int known = taken[MsgTypeEnum::CONFIG];
-        for (int presses = 0; !isConnected() || taken[MsgTypeEnum::CONFIG] == known; ++presses) {
-            ASSERT_LT(presses, 50) << "no connection";
-            const int seen = stateChanges;
+        for (int presses = 0; presses < 50 && (!isConnected() || taken[MsgTypeEnum::CONFIG] == known);
+             ++presses) {
+            const int seen = taken[MsgTypeEnum::OK];
             click("usb");
-            ASSERT_TRUE(ScreenDriver::waitFor([&] { return stateChanges > seen; }));
+            ScreenDriver::waitFor([&] { return taken[MsgTypeEnum::OK] > seen; });
         }
+        ASSERT_TRUE(isConnected());
         drainWire();
+    }
+    void connectTo(ProtoEnum generation) {
+        plugIn(generation);
+        connectByButton();
     }
     void disconnectByButton() {
         click("usb");
@@ -105,10 +102,9 @@ protected:
     bool isConnected() const { return objects.usbService.isUsbActive(); }
 
     /// Clicks the visible control with this word or picture on it.
-    void click(const QString &word, const QString &element = {}) {
-        const QQuickItem *control = driver->find(element, word);
-        ASSERT_NE(control, nullptr) << qPrintable(word);
-        driver->click(*control);
+    void click(const QString &word) {
+        ASSERT_TRUE(driver->control(word)) << qPrintable(word);
+        driver->click(*driver->control(word));
     }
 
     /// The texts that reach the connected device because of a gesture.
@@ -120,15 +116,14 @@ protected:
         texts.pop_back();
         return texts;
     }
-
     /// The texts that set these settings of the connected device ("CONFIG indLedLvl, CONFIG_K7 dispLvl") to a
     /// value in JSON. Each is on the wire twice: the documents' connections to the service are doubled.
     std::vector<std::string> edits(const QString &settings, const QString &value) const {
         std::vector<std::string> texts;
+        std::string error;
         for (const QString &setting : settings.split(", ")) {
             const std::string type = setting.section(' ', 0, 0).toStdString();
             auto message = device->settingsOf(type);
-            std::string error;
             message["type"] = type;
             message[setting.section(' ', 1).toStdString()] = json11::Json::parse(value.toStdString(), error);
             texts.insert(texts.end(), 2,
@@ -165,6 +160,5 @@ private:
         }));
     }
 
-    std::map<MsgTypeEnum, int> taken; // messages, on the UI thread
-    int stateChanges = 0;
+    std::map<MsgTypeEnum, int> taken; // messages on the UI thread; OK stands for a change of the connection
 };

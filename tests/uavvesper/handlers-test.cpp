@@ -8,127 +8,110 @@
 
 #include <gmock/gmock.h>
 
-using namespace testing;
-
-/// A settings front-end, with what it emits and what it sends: each text as it is at that moment, since the
-/// message goes on living.
+/// A settings front-end, with an eye on what it emits and sends.
 template <typename Handler>
-struct Watched {
+struct Watched : Handler {
     Watched() {
         QObject::connect(
-            &handler, &Handler::gotMsg,
-            [this](const MsgHolder &holder) { sent.push_back(MsgToJsonParser::toJson(holder.getMsg())); });
+            this, &Handler::gotMsg,
+            [this](const MsgHolder &holder) {
+                sent = " " +
+                       MsgToJsonParser::toJson(holder.getMsg()); // as it is now: the message goes on living
+            });
     }
-    Handler handler;
-    SignalRecorder recorder{&handler};
-    std::vector<std::string> sent;
+    /// The signals that a call brings about, and what is sent.
+    template <typename Call, typename... Arguments>
+    std::string by(Call call, Arguments... arguments) {
+        std::invoke(call, *this, arguments...);
+        return recorder.take() + std::exchange(sent, {});
+    }
+    void shows(const std::vector<std::pair<const char *, QVariant>> &properties) const {
+        for (const auto &[name, value] : properties)
+            EXPECT_EQ(this->property(name), value) << name;
+    }
+
+    SignalRecorder recorder{this};
+    std::string sent;
 };
 
-static const std::string CONFIG = wire(
-    R"({|"proto" : "K7",|"indLed" : true,|"indSnd" : false,|"indVibro" : true,|"indLedLvl" : 11,|"indSndLvl" : 22,|)"
-    R"("mode" : "CONT",|"wifiDet" : true,|"uavDet" : false,|"ranges" : [|"EXT_1200",|"STD_5800"|],|"hwVers" : "h1",|)"
-    R"("fwVers" : "f2",|"bootVers" : "b3",|"md5Serial" : "m4",|"atten" : 3,|"type" : "CONFIG"|})");
-static const std::string BURST =
-    "protoChanged indLedChanged indSndChanged indVibroChanged indLedLvlChanged indSndLvlChanged "
-    "stringModeChanged modeChanged wifiDetChanged uavDetChanged rangesChanged hwVersChanged fwVersChanged "
-    "bootVersChanged md5SerialChanged sensChanged attenChanged";
-
 TEST(Handlers, MirrorTheConfigAndSendItOnceTheDeviceHasToldItsRanges) {
-    Watched<ConfigMsgHandler> watched;
-    auto &[handler, recorder, sent] = watched;
-    emit handler.changed();
-    handler.setStringMode("AUTO");
-    EXPECT_THAT(sent, IsEmpty());
-    recorder.take();
-    handler.nextSens();
-    EXPECT_EQ(recorder.take(), "sensChanged");
-    const std::vector<std::pair<const char *, QVariant>> initial = {
-        {"sens", "LOW"}, {"atten", 6}, {"indLedLvl", 75}, {"indSndLvl", 100}, {"enumMode", "AUTO"}};
-    for (const auto &[name, value] : initial)
-        EXPECT_EQ(handler.property(name), value) << name;
-
-    handler.accept(held(CONFIG));
-    EXPECT_EQ(recorder.take(), BURST);
-    const std::vector<std::pair<const char *, QVariant>> shown = {
-        {"proto", 2},       {"indLed", true},   {"indSnd", false}, {"indVibro", true},
-        {"indLedLvl", 11},  {"indSndLvl", 22},  {"mode", 3},       {"stringMode", "Непрерывный"},
-        {"wifiDet", 1},     {"uavDet", 0},      {"hwVers", "h1"},  {"fwVers", "f2"},
-        {"atten", 3},       {"bootVers", "b3"}, {"sens", "MID"},   {"enumMode", "CONT"},
-
-        {"md5Serial", "m4"}};
-    for (const auto &[name, value] : shown)
-        EXPECT_EQ(handler.property(name), value) << name;
+    using H = ConfigMsgHandler;
+    std::string config = wire(
+        R"({|"proto" : "K7",|"indLed" : true,|"indSnd" : false,|"indVibro" : true,|"indLedLvl" : 11,|)"
+        R"("indSndLvl" : 22,|"mode" : "CONT",|"wifiDet" : true,|"uavDet" : false,|"ranges" : [|"EXT_1200",|)"
+        R"("STD_5800"|],|"hwVers" : "h1",|"fwVers" : "f2",|"bootVers" : "b3",|"md5Serial" : "m4",|)"
+        R"("atten" : 3,|"type" : "CONFIG"|})");
+    const std::string burst =
+        "protoChanged indLedChanged indSndChanged indVibroChanged indLedLvlChanged indSndLvlChanged "
+        "stringModeChanged modeChanged wifiDetChanged uavDetChanged rangesChanged hwVersChanged "
+        "fwVersChanged "
+        "bootVersChanged md5SerialChanged sensChanged attenChanged";
+    Watched<H> handler;
+    EXPECT_EQ(handler.by(&H::changed), "changed");
+    EXPECT_EQ(handler.by(&H::setStringMode, "AUTO"), "changed");
+    EXPECT_EQ(handler.by(&H::nextSens), "sensChanged");
+    handler.shows(
+        {{"sens", "LOW"}, {"atten", 6}, {"indLedLvl", 75}, {"indSndLvl", 100}, {"enumMode", "AUTO"}});
+    EXPECT_EQ(handler.by(&H::accept, held(config)), burst);
+    handler.shows(
+        {{"stringMode", "Непрерывный"}, {"sens", "MID"}, {"mode", 3}, {"wifiDet", 1}, {"atten", 3}});
     EXPECT_EQ(handler.getRanges(), (QList<int>{1, 6}));
-    handler.setRanges({});
-    handler.setIndLedLvl(12);
-    handler.setUavDet(7);
-    handler.setStringMode("auto");
-    handler.accept(MsgHolder());
-    handler.accept(held(R"({"type":"CONFIG_K7"})"));
-    EXPECT_EQ(recorder.take(), "");
-    emit handler.changed();
-    EXPECT_EQ(recorder.take(), "gotMsg " + BURST + " changed") << "the handler hears changed first";
-    std::string edited = CONFIG;
-    edited.replace(edited.find("11"), 2, "12");
-    edited.replace(edited.rfind("false"), 5, "true");
-    EXPECT_THAT(sent, ElementsAre(edited));
+    EXPECT_EQ(handler.by(&H::setRanges, QList<int>()), "");
+    EXPECT_EQ(handler.by(&H::setIndLedLvl, 12), "");
+    EXPECT_EQ(handler.by(&H::setUavDet, 7), "");
+    EXPECT_EQ(handler.by(&H::setStringMode, "auto"), "");
+    EXPECT_EQ(handler.by(&H::accept, MsgHolder()), "");
+    EXPECT_EQ(handler.by(&H::accept, held(R"({"type":"CONFIG_K7"})")), "");
+    config.replace(config.find("11"), 2, "12").replace(config.rfind("false"), 5, "true");
+    EXPECT_EQ(handler.by(&H::changed), "gotMsg " + burst + " changed " + config) << "it hears changed first";
     EXPECT_THROW(handler.setMode(4), std::out_of_range);
 }
 
 TEST(Handlers, MirrorTheConfigOfK7AndSendItAlways) {
+    using H = ConfigK7Handler;
     const std::string config = wire(
-        R"({|"voiceEn" : true,|"dispLvl" : 50,|"dispOffTime" : 30,|"indHeadLvl" : 25,|"indHeadMode" : "OFF",|)"
+        R"({|"voiceEn" : true,|"dispLvl" : 50,|"dispOffTime" : 30,|"indHeadLvl" : 25,|"indHeadMode" : "SOUND",|)"
         R"("btEn" : true,|"btPowerDbm" : -4,|"voiceDbLvl" : -94,|"type" : "CONFIG_K7"|})");
-    const std::string burst =
-        "voiceEnChanged dispLvlChanged dispOffTimeChanged indHeadLvlChanged indHeadModeChanged "
-        "btEnChanged btPowerDbmChanged voiceDbLvlChanged";
-    Watched<ConfigK7Handler> watched;
-    auto &[handler, recorder, sent] = watched;
-    emit handler.changed();
-    EXPECT_EQ(recorder.take(), "gotMsg " + burst + " changed");
-    handler.accept(held(config));
-    EXPECT_EQ(recorder.take(), burst);
-    EXPECT_EQ(handler.property("voiceDbLvl"), -94);
-    handler.accept(MsgHolder());
-    handler.accept(held(R"({"type":"CONFIG"})"));
-    handler.setMode("sound");
-    EXPECT_EQ(recorder.take(), "");
-    emit handler.changed();
-    handler.setMode("SOUND");
-    EXPECT_EQ(handler.enumMode(), "SOUND");
-    EXPECT_THAT(
-        sent, ElementsAre(wire(R"({|"indHeadLvl" : 0,|"type" : "CONFIG_K7"|})"), config, HasSubstr("SOUND")));
+    const std::string burst = "voiceEnChanged dispLvlChanged dispOffTimeChanged indHeadLvlChanged "
+                              "indHeadModeChanged btEnChanged btPowerDbmChanged voiceDbLvlChanged";
+    Watched<H> handler;
+    EXPECT_EQ(handler.by(&H::changed),
+              "gotMsg " + burst + wire(R"( changed {|"indHeadLvl" : 0,|"type" : "CONFIG_K7"|})"));
+    EXPECT_EQ(handler.by(&H::accept, held(config)), burst);
+    EXPECT_EQ(handler.by(&H::accept, MsgHolder()), "");
+    EXPECT_EQ(handler.by(&H::accept, held(R"({"type":"CONFIG"})")), "");
+    EXPECT_EQ(handler.by(&H::setMode, "sound"), "");
+    EXPECT_EQ(handler.by(&H::setMode, "SOUND"), "gotMsg " + burst + " changed " + config);
+    handler.shows({{"voiceDbLvl", -94}, {"btPowerDbm", -4}});
 }
 
 TEST(Handlers, KeepTheAiModeThatTheUserChose) {
+    using H = AiPriorHandler;
     enum { K1, K6, K7 };
-    Watched<AiPriorHandler> watched;
-    auto &[handler, recorder, sent] = watched;
-    handler.setProto(K1);
-    EXPECT_EQ(recorder.take(), "");
-    handler.nextAiPrior();
-    EXPECT_EQ(handler.property("enumAiPrior"), "NONE");
-    EXPECT_EQ(handler.property("shortName"), "Нет");
-    emit handler.changed();
-    EXPECT_EQ(recorder.take(), "aiChanged gotMsg changed");
-    EXPECT_THAT(sent, ElementsAre(wire(R"({|"aiPrior" : "NONE",|"type" : "AI_PRIOR"|})")));
-
-    handler.setProto(K6);
-    handler.setProto(K1);
-    handler.nextAiPrior();
-    handler.setAiPrior("FIELD");
-    EXPECT_EQ(handler.enumAiPrior(), "NONE") << "a generation without modes behind one that has them";
-    EXPECT_EQ(sent.size(), 1U);
+    const auto sends = [](const std::string &mode) {
+        return wire(R"({|"aiPrior" : ")" + mode + R"(",|"type" : "AI_PRIOR"|})");
+    };
+    Watched<H> handler;
+    EXPECT_EQ(handler.by(&H::setProto, K1), "");
+    EXPECT_EQ(handler.by(&H::nextAiPrior), "aiChanged");
+    EXPECT_EQ(handler.by(&H::changed), "gotMsg changed " + sends("NONE"));
+    handler.shows({{"enumAiPrior", "NONE"}, {"shortName", "Нет"}});
+    EXPECT_EQ(handler.by(&H::setProto, K6), "aiChanged");
+    EXPECT_EQ(handler.by(&H::setProto, K1), "aiChanged");
+    EXPECT_EQ(handler.by(&H::nextAiPrior), "aiChanged");
+    EXPECT_EQ(handler.by(&H::setAiPrior, "FIELD"), "aiChanged changed")
+        << "no modes, behind a generation that has some";
+    handler.shows({{"enumAiPrior", "NONE"}});
     EXPECT_THROW(handler.setProto(4), std::out_of_range);
-    handler.setProto(K7);
-    recorder.take();
-    for (const char *name : {"CITY", "AUTO", "city"})
-        handler.setAiPrior(name);
-    handler.setProto(K7);
-    handler.accept(held(R"({"type":"AI_PRIOR","aiPrior":"FIELD"})"));
-    handler.accept(held(R"({"type":"CONFIG"})"));
-    EXPECT_EQ(recorder.take(), "aiChanged gotMsg changed aiChanged gotMsg changed aiChanged");
-    EXPECT_EQ(handler.enumAiPrior(), "CITY") << "AUTO is no mode of any generation, city no mode at all";
-    handler.setProto(K6);
-    EXPECT_EQ(handler.enumAiPrior(), "DEFAULT") << "the first of another generation";
+    EXPECT_EQ(handler.by(&H::setProto, K7), "aiChanged");
+    EXPECT_EQ(handler.by(&H::setAiPrior, "CITY"), "aiChanged gotMsg changed " + sends("CITY"));
+    EXPECT_EQ(handler.by(&H::setAiPrior, "AUTO"), "aiChanged gotMsg changed " + sends("CITY"))
+        << "no mode of any generation";
+    EXPECT_EQ(handler.by(&H::setAiPrior, "city"), "");
+    EXPECT_EQ(handler.by(&H::setProto, K7), "");
+    EXPECT_EQ(handler.by(&H::accept, held(R"({"type":"AI_PRIOR","aiPrior":"FIELD"})")), "aiChanged");
+    EXPECT_EQ(handler.by(&H::accept, held(R"({"type":"CONFIG"})")), "");
+    handler.shows({{"enumAiPrior", "CITY"}, {"proto", K7}});
+    EXPECT_EQ(handler.by(&H::setProto, K6), "aiChanged");
+    handler.shows({{"enumAiPrior", "DEFAULT"}});
 }

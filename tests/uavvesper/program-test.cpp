@@ -1,74 +1,58 @@
-#include "screen-driver.h"
 #include "screen-fixture.h"
 
 #include <QFile>
 #include <QProcess>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <csignal>
 
 using namespace testing;
 
-/// The built program, started as a user starts it. The platform writes each picture of the window into the
-/// working directory and says so.
+/// The built program as a user starts it. The platform writes each picture of the window into the working
+/// directory and says so.
 TEST(Program, ShowsItsWindowInTheLanguageOfTheDirectoryAndEndsWhenToldTo) {
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        std::signal(number, SIG_DFL); // whatever the tests were started with
     struct {
-        QStringList command; // in front of the program
+        const char *command; // in front of the program
         int signal;
-        unsigned long ignored; // signals by bit
-        const char *dpi;
+        int ignored;
+        int dpi;
         bool russian;
-        QSize size;
-    } const starts[] = {
-        {{}, SIGINT, 0, "96", false, {800, 1000}},
-        {{}, SIGTERM, 0, "96", true, {800, 1000}},
-        {{}, SIGHUP, 0, "192", false, {1600, 2000}},
-        // A session without a terminal takes the device for one; what a script ignores stays ignored.
-        {{"setsid"}, SIGTERM, 1UL << (SIGHUP - 1), "96", false, {800, 1000}},
-        {{"sh", "-c", "trap '' INT; exec \"$@\"", "sh"},
-         SIGTERM,
-         1UL << (SIGINT - 1),
-         "96",
-         false,
-         {800, 1000}}};
-    QImage english, russian;
-    for (const auto &[command, signal, ignored, dpi, inRussian, size] : starts) {
-        SCOPED_TRACE(signal);
+    } const starts[] = {{"env", SIGINT, 0, 96, false},
+                        {"env", SIGHUP, 0, 192, false},
+                        // Without a terminal of its own the program would take the device for one.
+                        {"setsid", SIGTERM, SIGHUP, 96, false},
+                        {"nohup", SIGTERM, SIGHUP, 96, true}};
+    QImage pictures[2];
+    for (const auto &[command, signal, ignored, dpi, russian] : starts) {
+        SCOPED_TRACE(command);
         const QTemporaryDir directory;
-        if (inRussian)
+        if (russian)
             QFile::copy(RUSSIAN_DIR "/UavVesper-ru.qm", directory.filePath("UavVesper-ru.qm"));
-        for (const int number : {SIGINT, SIGTERM, SIGHUP})
-            std::signal(number, SIG_DFL); // whatever the tests were started with
         QProcess program;
-        auto environment = QProcessEnvironment::systemEnvironment();
-        for (const auto &[name, value] : {std::pair("QT_DEBUG_BACKINGSTORE", "1"),
-                                          {"QT_FONT_DPI", dpi},
-                                          {"ASAN_OPTIONS", "detect_leaks=0"}})
-            environment.insert(name, value);
-        environment.insert("XDG_CACHE_HOME", directory.path());
-        program.setProcessEnvironment(environment);
         program.setWorkingDirectory(directory.path());
         program.setProcessChannelMode(QProcess::MergedChannels);
-        const QStringList line = command + QStringList{PROGRAM, "-platform", "minimal:enable_fonts"};
-        program.start(line[0], line.mid(1));
+        program.start("env", {"XDG_CACHE_HOME=" + directory.path(), "QT_FONT_DPI=" + QString::number(dpi),
+                              "QT_DEBUG_BACKINGSTORE=1", "ASAN_OPTIONS=detect_leaks=0", command, PROGRAM,
+                              "-platform", "minimal:enable_fonts"});
         QByteArray output;
         while (!output.contains("output0000.png") && program.waitForReadyRead(60000))
             output += program.readAll();
         QFile status(QString("/proc/%1/status").arg(program.processId()));
-        ASSERT_TRUE(status.open(QIODevice::ReadOnly)) << output.data();
-        const QString signalLine = QString(status.readAll()).section("SigIgn:", 1).section('\n', 0, 0);
-        EXPECT_EQ(signalLine.trimmed().toULong(nullptr, 16) &
-                      (1UL << (SIGHUP - 1) | 1UL << (SIGINT - 1) | 1UL << (SIGTERM - 1)),
-                  ignored);
+        EXPECT_TRUE(status.open(QIODevice::ReadOnly)) << output.data();
+        const auto mask = QString(status.readAll()).section("SigIgn:\t", 1).left(16).toULong(nullptr, 16);
+        for (const int number : {SIGINT, SIGTERM, SIGHUP})
+            EXPECT_EQ(mask >> (number - 1) & 1, number == ignored) << number;
         ::kill(static_cast<pid_t>(program.processId()), signal);
         EXPECT_TRUE(program.waitForFinished());
         EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(program.exitCode(), 0);
-        const QImage picture(directory.filePath("output0000.png"));
-        EXPECT_EQ(picture.size(), size);
-        (inRussian ? russian : english) = picture.size() == QSize(800, 1000) ? picture : english;
+        pictures[russian] = QImage(directory.filePath("output0000.png"));
+        EXPECT_EQ(pictures[russian].size(), QSize(800, 1000) * (dpi / 96));
         EXPECT_TRUE(QFile::exists(directory.filePath("com.kelvane/UavVesper")));
     }
-    EXPECT_FALSE(english == russian);
+    EXPECT_FALSE(pictures[0] == pictures[1]);
 }
 
 TEST(Program, EndsWithAnErrorWithoutItsRootDocument) {
@@ -79,4 +63,35 @@ TEST(Program, EndsWithAnErrorWithoutItsRootDocument) {
     QTimer::singleShot(10000, qApp, &QCoreApplication::quit);
     EXPECT_EQ(QCoreApplication::exec(), -1);
     EXPECT_THAT(QtWarnings::take(), Not(IsEmpty()));
+}
+
+class MainWindowTest : public ScreenFixture {};
+
+TEST_F(MainWindowTest, DividesItselfInEverySize) {
+    EXPECT_EQ(window->title(), "Kelvane 1.1");
+    EXPECT_EQ(window->objectName(), "applicationWindow");
+    EXPECT_EQ(window->minimumSize(), QSize(300, 400));
+    EXPECT_EQ(driver->find("MainPage")->objectName(), "mainPage");
+    click("info");
+    QSignalSpy changes(&objects.themeData, SIGNAL(sizeChanged()));
+    const std::pair<QSize, const char *> sizes[] = {
+        {{800, 1000}, "800x667+0+0 800x71.5+0+667 800x71.5+0+738.5 800x190+0+810 720x667+40+0 0"},
+        {{600, 1000}, "600x745+0+0 600x54.5+0+745 600x54.5+0+799.5 600x146+0+854 540x745+30+0 1"},
+        {{600, 700}, "600x454+0+0 600x53+0+454 600x53+0+507 600x140+0+560 540x454+30+0 2"}};
+    for (const auto &[size, places] : sizes) {
+        driver->resize(size);
+        std::string found;
+        for (const char *part :
+             {"MainPage", "LegendLayout", "ButtonLayout", "SettingsLayout", "HelpFragment"})
+            found += ScreenDriver::place(*driver->find(part)) + ' ';
+        EXPECT_EQ(found + std::to_string(changes.count()), places);
+        EXPECT_EQ(driver->picture().pixelColor(5, 5), QColor("#81909f"));
+    }
+}
+
+TEST_F(MainWindowTest, EndsTheConnectionWhenItIsDestroyed) {
+    connectTo(ProtoEnum::K6);
+    EXPECT_TRUE(device->isScanning());
+    screens.reset();
+    EXPECT_TRUE(device->waitForOpen(false) && !device->isScanning());
 }
