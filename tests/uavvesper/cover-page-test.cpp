@@ -13,9 +13,9 @@ static std::string shown(QQuickView &view) {
     ScreenDriver driver(view);
     driver.picture();
     QString all;
-    for (const QQuickItem *item :
-         driver.findAll([](const QQuickItem &any) { return any.property("color").isValid(); }))
-        all += item->property("text").toString() + item->property("color").value<QColor>().name() + " ";
+    for (const QQuickItem *item : driver.findAll({}))
+        if (item->property("color").isValid())
+            all += item->property("text").toString() + item->property("color").value<QColor>().name() + " ";
     return all.toStdString();
 }
 
