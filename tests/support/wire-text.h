@@ -15,3 +15,6 @@ template <typename Builder>
 auto share(const Builder &builder) {
     return std::make_shared<decltype(builder.build())>(builder.build());
 }
+
+/// The shortest messages of three types, as a device may write them.
+inline const std::string OK = R"({"type":"OK"})", STATE = R"({"type":"STATE"})", FAIL = R"({"type":"FAIL"})";

@@ -1,12 +1,12 @@
 #include "message-reader.h"
 
+#include "wire-text.h"
+
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
 
 namespace {
-
-const std::string OK = R"({"type":"OK"})", STATE = R"({"type":"STATE"})", FAIL = R"({"type":"FAIL"})";
 
 /// A reader with its clock; what it hands out and logs is kept as text.
 class Stream {

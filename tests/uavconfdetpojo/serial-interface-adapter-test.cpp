@@ -1,5 +1,7 @@
 #include "serial-interface-adapter.h"
 
+#include "wire-text.h"
+
 #include <gtest/gtest.h>
 #include <stdexcept>
 #include <thread>
@@ -7,8 +9,6 @@
 using namespace std::chrono_literals;
 
 namespace {
-
-const std::string OK = "{\"type\":\"OK\"}", STATE = "{\"type\":\"STATE\"}", FAIL = "{\"type\":\"FAIL\"}";
 
 using Types = std::vector<MsgTypeEnum>;
 
