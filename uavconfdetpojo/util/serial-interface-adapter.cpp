@@ -2,6 +2,7 @@
 
 #include "log.h"
 #include "msg-to-json-parser.h"
+#include "scope-guard.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -29,7 +30,7 @@ std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> ms
     addListener(listener);
     {
         // The listener refers to this stack: it goes before anything else, also when sending throws.
-        const std::shared_ptr<void> removal(nullptr, [&](void *) { removeListener(listener); });
+        const ScopeGuard removal([&] { removeListener(listener); });
         try {
             send(std::move(msg), timeout);
         } catch (const std::exception *e) { // On purpose by pointer, here and below: others pass through.
