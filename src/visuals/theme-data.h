@@ -108,7 +108,7 @@ signals:
     void changed();
     void sizeChanged();
     void menuHeightChanged();
-    void helpFragmentHeightChanged(); ///< On purpose: never emitted, as told above. No caller today.
+    void helpFragmentHeightChanged(); ///< On purpose: never emitted. No caller today.
 
 private:
     int fontSize(double share, double widthFactor) const;

@@ -18,7 +18,7 @@ public:
     QString getText() const { return text; }
     void setText(const QString &value);
     Position getPosition() const { return position; }
-    /// On purpose: emits nothing. Only a step of the user does, and what has taken it.
+    /// On purpose: emits nothing, since it is no step of the user's.
     void setPosition(Position value) { position = value; }
 
     /// Steps on, from the last position to OFF.

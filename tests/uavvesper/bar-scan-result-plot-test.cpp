@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(BarScanResultPlot, StandsAsToldInEverySize) {
+TEST(BarScanResultPlot, HasAllInItsPlaceInEverySize) {
     const Standing cases[] = {{{432, 324}, 10, 2, R"(
         10pt room 0 #000000:; '2400' 132,324
         '-105' 0,317; '-100' 0,267; '-95' 5,217; '-90' 5,167; '-85' 5,117; '-80' 5,67; '-75' 5,17

@@ -9,7 +9,7 @@ using testing::EndsWith;
 static constexpr auto NONE = SigTypeEnum::NONE, WIFI = SigTypeEnum::WIFI, DIG = SigTypeEnum::DIG;
 using Scans = std::vector<std::vector<Found>>;
 
-TEST(FreqPlot, StandsAsToldInEverySizeAndLanguage) {
+TEST(FreqPlot, HasAllInItsPlaceInEverySizeAndLanguage) {
     const std::pair<const char *, Standing> cases[] = {{"language", {{428, 150}, 10, 2, R"(
         10pt room 28 #eeeeee:; '-105' 0,135; '-100' 0,115
         10pt room 21 #eeeeee:; '-95' 7,95; '-90' 7,75; '-85' 7,55; '-80' 7,35; '-75' 7,15; #101010:; 28,10 400x140

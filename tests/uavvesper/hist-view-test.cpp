@@ -10,7 +10,7 @@ using testing::HasSubstr;
 
 static constexpr auto FPV = SigTypeEnum::FPV, NONE = SigTypeEnum::NONE;
 
-TEST(HistView, StandsAsToldInEverySize) {
+TEST(HistView, HasAllInItsPlaceInEverySize) {
     const Standing cases[] = {{{128, 175}, 10, 2, R"(
         10pt room 21 #eeeeee:; '-95' 7,24; '-90' 7,49; '-85' 7,74; '-80' 7,99; '-75' 7,124
         10pt room 0 #eeeeee:; '2400' 14,164; '2450' 64,164; #101010:; 28,0 100x155

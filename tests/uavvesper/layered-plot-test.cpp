@@ -6,7 +6,7 @@
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
-TEST(Drawing, IsPaintedAsItIsTold) {
+TEST(Drawing, IsPaintedAsItSays) {
     QImage canvas(60, 60, QImage::Format_RGB32);
     canvas.fill(Qt::white);
     QPainter painter(&canvas);
