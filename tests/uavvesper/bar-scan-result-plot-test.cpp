@@ -11,7 +11,7 @@ TEST(BarScanResultPlot, HasAllInItsPlaceInEverySize) {
         #101010:; 32,12 400x300; #0000ff:; 100,0 2x300
         0,0 400x2; 0,50 400x2; 0,100 400x2; 0,150 400x2; 0,200 400x2; 0,250 400x2; 0,300 400x2
         #93cddd:; 0,300 20x0; #00b050:; 20,150 20x150; #ffc000:; 100,0 20x300; #ff0000:; 103,300 20x0
-        #cccccc:; 400,10 20x290; #93cddd:; 390,0 20x300
+        #cccccc:; 400,10 20x290; #93cddd:; 390,0 20x300; #00ffffff:; 200,50 20x250
         #0000ff:; 0,298 400x4; 2px dash 2 #c000ff00:; 0,50 to 400,50
         2px dash 2 #c0ffff00:; 0,110 to 400,110; 2px dash 2 #c0ff0000:; 0,170 to 400,170)"},
                               {{272, 198}, 23, 3, R"(
@@ -20,7 +20,7 @@ TEST(BarScanResultPlot, HasAllInItsPlaceInEverySize) {
         #101010:; 71,25 201x148; #0000ff:; 50,0 3x148
         0,0 201x3; 0,25 201x3; 0,49 201x3; 0,74 201x3; 0,99 201x3; 0,123 201x3; 0,148 201x3
         #93cddd:; 0,148 10x0; #00b050:; 10,74 10x74; #ffc000:; 50,0 10x148; #ff0000:; 52,148 10x0
-        #cccccc:; 201,5 10x143; #93cddd:; 196,0 10x148
+        #cccccc:; 201,5 10x143; #93cddd:; 196,0 10x148; #00ffffff:; 101,25 10x123
         #0000ff:; 0,145 201x6; 3px dash 5 #c000ff00:; 0,25 to 201,25
         3px dash 5 #c0ffff00:; 0,54 to 201,54; 3px dash 5 #c0ff0000:; 0,84 to 201,84)"}};
     using Type = SigTypeEnum;
@@ -33,6 +33,7 @@ TEST(BarScanResultPlot, HasAllInItsPlaceInEverySize) {
                                 {2401.5f, -74, Type::FPV},
                                 {2550, -76, Type::BLOCK},
                                 {2545, -106, Type::ALL},
+                                {2450, -80, Type(6)}, // no class
                                 {2551, -80}}}));
     for (const auto &[size, textSize, lineWidth, shapes] : cases) {
         plot.resize(size, textSize, lineWidth);

@@ -57,5 +57,6 @@ TEST_F(RangesListModelTest, KeepsTheLastBandOn) {
     EXPECT_EQ(write(3, 1), "refused 1 1 0, 4 edits, 2 active");
     EXPECT_EQ(write(0, -1, RangesListModel::IntRangeRole), "0 1 0, 5 edits, 1 active");
     EXPECT_EQ(write(2, 7, RangesListModel::IntRangeRole), "0 1 7, 7 edits, 2 active") << "a position too";
+    EXPECT_EQ(resets.count(), 9) << "one for the CONFIG, one for each edit";
     EXPECT_EQ(shown("stringRange"), " 5150-5354 ") << "no range at a position beyond them";
 }
