@@ -83,9 +83,11 @@ public:
     }
 
     QRect plotArea;
+    std::pair<int, int> measured; ///< of the font that the view would have by itself
 
 protected:
     QRect layOut(const QSize &item) override {
+        measured = {this->labelFont.charW, this->labelFont.ascent};
         this->labelFont = {7, 9};
         return plotArea = Plot::layOut(item);
     }

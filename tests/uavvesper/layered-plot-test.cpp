@@ -3,6 +3,7 @@
 #include "visuals/freq-plot.h"
 #include "visuals/hist-view.h"
 
+#include <QFontMetrics>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
@@ -60,6 +61,8 @@ TYPED_TEST(LayeredPlotTest, ShowsLabelsAndDataHoweverTheyCame) {
     resized.setHistory(this->history);
     resized.setSize(size);
     EXPECT_EQ(resized.picture(), expected);
+    const QFontMetrics metrics(fontOfSize(14));
+    EXPECT_EQ(rescaled.measured, std::pair(metrics.averageCharWidth(), metrics.ascent()));
     rescaled.setProperty("textColor", QColor(Qt::red));
     rescaled.setHistory(this->history);
     rescaled.resize(size, 10, 0); // a line of no width keeps the one it has
