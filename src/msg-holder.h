@@ -21,10 +21,6 @@ public:
     std::shared_ptr<Message> getAs() const {
         return messageCast<Message>(msg);
     }
-    template <typename Message>
-    std::shared_ptr<Message> getAs(MsgTypeEnum) const {
-        return getAs<Message>();
-    }
 
 private:
     std::shared_ptr<Msg> msg;

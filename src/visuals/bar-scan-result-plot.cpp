@@ -1,7 +1,6 @@
 #include "visuals/bar-scan-result-plot.h"
 
 #include "visuals/bars.h"
-#include "visuals/level-axis.h"
 
 BarScanResultPlot::BarScanResultPlot(QQuickItem *parent)
     : LayeredPlot(parent) {
@@ -58,7 +57,7 @@ Drawing BarScanResultPlot::data() const {
     for (std::size_t i = 0; i < PLOT_LEVELS.size(); ++i) {
         // On purpose: counted from the top, unlike the bars and the labels, so that the lines stand mirrored
         // against the axis. They are where users know them.
-        const int y = LevelAxis::barHeight(PLOT_LEVELS[i], height);
+        const int y = LevelAxis::barHeight(static_cast<int>(PLOT_LEVELS[i]), height);
         // A dash without length would never get to the end of the line.
         drawing.push_back(DrawnLine{QLine(0, y, width, y), QColor::fromRgba(PLOT_COLORS[i]), lineWidth,
                                     qMax(textSize / 4, 1)});

@@ -2,6 +2,7 @@
 
 #include "visuals/freq-axis.h"
 #include "visuals/layered-plot.h"
+#include "visuals/level-axis.h"
 
 #include <array>
 #include <set>
@@ -13,9 +14,12 @@ class BarScanResultPlot : public LayeredPlot {
     Q_PROPERTY(QColor innerBorderColor READ getInnerBorderColor WRITE setInnerBorderColor)
 
 public:
+    static constexpr float PLOT_MIN_Y = LevelAxis::PLOT_MIN_Y;            ///< dB. No caller today.
+    static constexpr float PLOT_MAX_Y = LevelAxis::PLOT_MAX_Y;            ///< dB. No caller today.
+    static constexpr float PLOT_X_DELTA_MHZ = BandAxis::PLOT_X_DELTA_MHZ; ///< No caller today.
     static constexpr int PLOT_LEVELS_COUNT = 3;
     /// Threshold levels in dB and their colours.
-    static constexpr std::array<int, PLOT_LEVELS_COUNT> PLOT_LEVELS{-100, -94, -88};
+    static constexpr std::array<float, PLOT_LEVELS_COUNT> PLOT_LEVELS{-100, -94, -88};
     static constexpr std::array<QRgb, PLOT_LEVELS_COUNT> PLOT_COLORS{0xc000ff00, 0xc0ffff00, 0xc0ff0000};
 
     explicit BarScanResultPlot(QQuickItem *parent = nullptr);

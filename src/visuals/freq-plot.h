@@ -10,6 +10,8 @@ class FreqPlot : public GridPlot {
     Q_PROPERTY(QString lang READ getLang WRITE setLang)
 
 public:
+    static constexpr int MIN_LVL = SignalCourse::MIN_LVL; ///< dB. No caller today.
+
     using GridPlot::GridPlot;
 
     /// The language tag of the screens; "ru" takes the Russian unit.

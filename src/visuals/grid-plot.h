@@ -1,6 +1,7 @@
 #pragma once
 
 #include "visuals/layered-plot.h"
+#include "visuals/level-axis.h"
 #include "visuals/ticks.h"
 
 #include <QSize>
@@ -14,6 +15,9 @@ class GridPlot : public LayeredPlot {
     Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
 
 public:
+    static constexpr int PLOT_MIN_Y = LevelAxis::PLOT_MIN_Y; ///< dB. No caller today.
+    static constexpr int PLOT_MAX_Y = LevelAxis::PLOT_MAX_Y; ///< dB. No caller today.
+
     using LayeredPlot::LayeredPlot;
 
     QColor getTextColor() const { return textColor; }

@@ -1,8 +1,8 @@
 #include "ranges-list-model.h"
 
 #include "msg/config-msg.h"
+#include "scope-guard.h"
 
-#include <QScopeGuard>
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
@@ -58,7 +58,7 @@ bool RangesListModel::setData(const QModelIndex &index, const QVariant &value, i
         return false;
     Mode &row = m_data[static_cast<std::size_t>(index.row())];
     beginResetModel();
-    const auto end = qScopeGuard([this] { endResetModel(); });
+    const ScopeGuard end([this] { endResetModel(); });
     if (role == IntRangeRole)
         setRange(row, value.toInt());
     // On purpose: a range runs on and is taken for a position too. No screen writes a range.
@@ -99,7 +99,7 @@ void RangesListModel::setConfig(MsgHolder msg) {
     if (!config)
         return;
     beginResetModel();
-    const auto end = qScopeGuard([this] { endResetModel(); });
+    const ScopeGuard end([this] { endResetModel(); });
     const Proto generation(config->getProto());
     if (proto != generation.ordinal() || m_data.empty()) {
         proto = generation.ordinal();

@@ -6,6 +6,9 @@
 #include <memory>
 #include <vector>
 
+constexpr auto NONE = SigTypeEnum::NONE, WIFI = SigTypeEnum::WIFI, DIG = SigTypeEnum::DIG,
+               FPV = SigTypeEnum::FPV;
+
 /// What a scan finds at one frequency: MHz, dB, class.
 struct Found {
     float freqMHz;

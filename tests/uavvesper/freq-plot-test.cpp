@@ -6,7 +6,6 @@
 
 using testing::EndsWith;
 
-static constexpr auto NONE = SigTypeEnum::NONE, WIFI = SigTypeEnum::WIFI, DIG = SigTypeEnum::DIG;
 using Scans = std::vector<std::vector<Found>>;
 
 TEST(FreqPlot, HasAllInItsPlaceInEverySizeAndLanguage) {
