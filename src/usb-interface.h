@@ -37,19 +37,16 @@ public:
     /// Prints what a code of libusb means.
     void printResult(int code);
 
-protected:
-    /// One bulk transfer; a code of libusb, and in `actual` the bytes moved, which may be some in spite of an
-    /// error.
-    virtual int transfer(unsigned char endpoint, buffer_t &block, int &actual, unsigned int timeoutMs);
-
-    std::atomic<bool> closed{true};
-
 private:
     static constexpr std::size_t buffer_size = 512;
 
     bool claimInterfaces();
     bool readBlock();
+    /// One bulk transfer; a code of libusb, and in `actual` the bytes moved, which may be some in spite of an
+    /// error.
+    int transfer(unsigned char endpoint, buffer_t &block, int &actual, unsigned int timeoutMs);
 
+    std::atomic<bool> closed{true};
     libusb_context *cx = nullptr;
     libusb_device_handle *devh = nullptr;
     /// Shared by running transfers; exclusive where `devh` comes or goes.

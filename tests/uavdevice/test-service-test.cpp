@@ -21,7 +21,7 @@ protected:
         }
         if (time == MASK_TIME)
             inbox.take();
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        std::this_thread::sleep_for(std::chrono::milliseconds(time == MASK_TIME ? 20 : 1));
         EXPECT_TRUE(time != MASK_TIME || inbox.take().empty()) << "no scan meanwhile";
     }};
 
@@ -68,7 +68,6 @@ TEST_F(TestServiceThreads, FiresEveryAnswerAndReturnsSome) {
     EXPECT_EQ(request("GET_STATE"), nullptr);
     const int charge = inbox.next<StateMsg>()->getBattLvl();
     EXPECT_TRUE(charge >= 0 && charge <= 100) << charge;
-    EXPECT_EQ(service.acceptMsg(nullptr), nullptr);
 }
 
 TEST_F(TestServiceThreads, ScansAsItsSettingsSay) {
