@@ -14,8 +14,6 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-namespace {
-
 /// Notes what it is asked for, each request as "TYPE time-out", and replies as told, by the type of the
 /// request.
 class FakeConnector : public SerialInterfaceConnector {
@@ -68,7 +66,7 @@ protected:
 };
 
 template <typename Signal, typename Gesture>
-bool hears(UsbService &service, Signal signal, Gesture gesture) {
+static bool hears(UsbService &service, Signal signal, Gesture gesture) {
     bool heard = false;
     const QObject receiver; // on this thread, wherever the signal is emitted
     QObject::connect(&service, signal, &receiver, [&heard] { heard = true; });
@@ -78,13 +76,11 @@ bool hears(UsbService &service, Signal signal, Gesture gesture) {
 
 /// Presses the USB button until the device is found: on a busy machine it may miss the 100 ms that it has for
 /// an answer.
-bool connects(UsbService &service) {
+static bool connects(UsbService &service) {
     for (int attempt = 0; attempt < 20 && !service.isUsbActive(); ++attempt)
         EXPECT_TRUE(hears(service, &UsbService::usbStateChanged, [&] { service.startUsb(); }));
     return service.isUsbActive();
 }
-
-} // namespace
 
 TEST_F(UsbServiceThreads, AConnectionBeginsAndEndsInOrder) {
     line.replies[MsgTypeEnum::GET_CONFIG] = std::make_shared<ConfigMsg>();
