@@ -65,22 +65,29 @@ protected:
     const std::shared_ptr<Msg> fail = share(FailMsgBuilder().failMsg("busy"));
 };
 
-template <typename Signal, typename Gesture>
-static bool hears(UsbService &service, Signal signal, Gesture gesture) {
-    bool heard = false;
-    const QObject receiver; // on this thread, wherever the signal is emitted
-    QObject::connect(&service, signal, &receiver, [&heard] { heard = true; });
-    gesture();
-    return QTest::qWaitFor([&heard] { return heard; }, 60000);
-}
+/// The service on a directory of devices, and what it tells, noted on this thread.
+struct DeviceService {
+    explicit DeviceService(const SerialDirectory &directory)
+        : service(nullptr, directory.path()) {
+        recorder.emplace(&service);
+    }
+    bool hears(const char *signal) {
+        return QTest::qWaitFor([&] { return recorder->take().find(signal) != std::string::npos; }, 60000);
+    }
+    /// Presses the USB button until the device is found: on a busy machine it may miss the 100 ms that it has
+    /// for an answer.
+    bool connects() {
+        for (int attempt = 0; attempt < 20 && !service.isUsbActive(); ++attempt) {
+            recorder->take();
+            service.startUsb();
+            EXPECT_TRUE(hears("usbStateChanged"));
+        }
+        return service.isUsbActive();
+    }
 
-/// Presses the USB button until the device is found: on a busy machine it may miss the 100 ms that it has for
-/// an answer.
-static bool connects(UsbService &service) {
-    for (int attempt = 0; attempt < 20 && !service.isUsbActive(); ++attempt)
-        EXPECT_TRUE(hears(service, &UsbService::usbStateChanged, [&] { service.startUsb(); }));
-    return service.isUsbActive();
-}
+    std::optional<SignalRecorder> recorder; // outlives the threads of the service
+    UsbService service;
+};
 
 TEST_F(UsbServiceThreads, AConnectionBeginsAndEndsInOrder) {
     line.replies[MsgTypeEnum::GET_CONFIG] = std::make_shared<ConfigMsg>();
@@ -185,37 +192,33 @@ TEST_F(UsbServiceThreads, EachTypeOfMessageHasItsSignals) {
 TEST(UsbServiceConnectionThreads, ServeSeveralRequestersAndSurviveUnplugging) {
     const SerialDirectory directory;
     PtyDevice device(directory);
-    UsbService service(nullptr, directory.path());
-    ASSERT_TRUE(connects(service));
+    DeviceService usb(directory);
+    ASSERT_TRUE(usb.connects());
     std::thread other([&] {
         for (int i = 0; i < 20; ++i)
-            service.sendGetState();
+            usb.service.sendGetState();
     });
     for (int i = 0; i < 20; ++i)
-        service.sendGetConfig();
+        usb.service.sendGetConfig();
     other.join();
-    EXPECT_TRUE(hears(service, &UsbService::gotScanResult, [] {}));
+    EXPECT_TRUE(usb.hears("gotScanResult"));
     device.unplug(); // which shows only in what does not come, until the user presses
-    service.sendGetState();
-    EXPECT_TRUE(service.isUsbActive());
-    service.disconnect();
-    EXPECT_FALSE(service.isUsbActive());
+    usb.service.sendGetState();
+    EXPECT_TRUE(usb.service.isUsbActive());
+    usb.service.disconnect();
+    EXPECT_FALSE(usb.service.isUsbActive());
     device.plugIn();
-    ASSERT_TRUE(connects(service));
-    EXPECT_TRUE(hears(service, &UsbService::gotScanResult, [] {}));
+    ASSERT_TRUE(usb.connects());
+    EXPECT_TRUE(usb.hears("gotScanResult"));
 }
 
 TEST(UsbServiceConnectionThreads, EndInEveryStateAndLeaveNoDeviceScanning) {
     const SerialDirectory directory;
     PtyDevice device(directory);
-    for (const auto &beforeTheEnd : std::vector<std::function<void(UsbService &)>>{
-             [](auto &) {}, [](auto &service) { service.startUsb(); },
-             [](auto &service) { EXPECT_TRUE(connects(service)); },
-             [](auto &service) { service.startTesting(); }}) {
-        {
-            UsbService service(nullptr, directory.path());
-            beforeTheEnd(service);
-        }
+    for (void (*const reach)(DeviceService &) : {+[](DeviceService &usb) { usb.service.startUsb(); },
+                                                 +[](DeviceService &usb) { EXPECT_TRUE(usb.connects()); },
+                                                 +[](DeviceService &usb) { usb.service.startTesting(); }}) {
+        reach(*std::make_unique<DeviceService>(directory));
         EXPECT_TRUE(device.waitForOpen(false));
         EXPECT_FALSE(device.isScanning());
     }
