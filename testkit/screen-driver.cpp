@@ -148,7 +148,7 @@ void ScreenDriver::drag(QPoint from, QPoint to) {
     QTest::mouseRelease(&window, Qt::LeftButton, {}, to);
 }
 
-void ScreenDriver::slide(const QQuickItem &slider, double value, bool letGo) {
+QPoint ScreenDriver::slide(const QQuickItem &slider, double value, bool letGo) {
     const double runner = slider.height() / 2, way = slider.width() - runner;
     const double x = runner / 2 + way * value / slider.property("maximumValue").toDouble();
     const QPoint to = slider.mapToScene({x, runner}).toPoint();
@@ -156,6 +156,7 @@ void ScreenDriver::slide(const QQuickItem &slider, double value, bool letGo) {
     QTest::mouseMove(&window, to);
     if (letGo)
         QTest::mouseRelease(&window, Qt::LeftButton, {}, to);
+    return to;
 }
 
 bool ScreenDriver::scrollDown(const QQuickItem &item) {

@@ -52,8 +52,9 @@ public:
     /// Presses at one point, moves there in steps, and releases at the other.
     void drag(QPoint from, QPoint to);
 
-    /// Presses a slider in its middle, drags its runner to a value, and lets it go, or does not.
-    void slide(const QQuickItem &slider, double value, bool letGo = true);
+    /// Presses a slider in its middle, drags its runner to a value, and lets it go, or does not. Returns
+    /// where.
+    QPoint slide(const QQuickItem &slider, double value, bool letGo = true);
 
     /// Drags what scrolls in an item up, at the left edge, where no control is, until its end is in view;
     /// false if it does not come.

@@ -1,10 +1,7 @@
 // Walks through the screens with the built-in simulator and writes a picture of each state worth seeing.
 
 #include "field-scene.h"
-#include "pty-device.h"
-#include "screen-driver.h"
-#include "screen-engine.h"
-#include "service-objects.h"
+#include "screens.h"
 #include "visuals/uav-three-switch.h"
 
 #include <QDir>
@@ -15,23 +12,15 @@
 
 namespace {
 
-/// Thrown with a sentence for the user when a step of the tour can't be made.
-struct TourError {
-    QString text;
-};
+/// For the user, when a step of the tour can't be made.
+std::runtime_error failure(const QString &text) {
+    return std::runtime_error(text.toStdString());
+}
 
-class Tour {
+class Tour : Screens {
 public:
-    Tour(const SerialDirectory &serialDirectory, ServiceObjects &serviceObjects, QQuickWindow &shownWindow,
-         const QDir &directory)
-        : serial(serialDirectory)
-        , objects(serviceObjects)
-        , window(shownWindow)
-        , driver(shownWindow)
-        , pictures(directory) {
-        QObject::connect(
-            &objects.usbService, &UsbService::gotScanResult, &window, [this] { ++scans; });
-    }
+    explicit Tour(const QDir &folder)
+        : pictures(folder) {}
 
     void run() {
         shoot("not-connected");
@@ -63,16 +52,16 @@ private:
         waitFor([this] { return objects.usbService.isUsbActive(); }, "The simulator does not start.");
     }
 
-    void press(const QString &wordOrPicture) { driver.click(element({}, shown(wordOrPicture))); }
+    void press(const QString &wordOrPicture) { driver->click(element({}, shown(wordOrPicture))); }
 
     /// The view that each band shows.
-    QVector<QQuickItem *> views() const { return driver.findAll("LayeredPlot"); }
+    QVector<QQuickItem *> views() const { return driver->findAll("LayeredPlot"); }
 
     /// One swipe to the left on each band.
     void swipeAllBands() {
         for (const QQuickItem *view : views()) {
             const QPoint middle = ScreenDriver::middleOf(*view);
-            driver.drag(middle + QPoint(100, 0), middle - QPoint(100, 0));
+            driver->drag(middle + QPoint(100, 0), middle - QPoint(100, 0));
             waitFor([&] { return !view->isVisible(); }, "A band does not follow the swipe.");
         }
     }
@@ -96,7 +85,7 @@ private:
     void step(const QStringList &bands, UavThreeSwitch::Position position) {
         for (const QString &band : bands)
             while (element("UavThreeSwitch", band + '*').property("position").toInt() != position)
-                driver.click(element("UavThreeSwitch", band + '*'));
+                driver->click(element("UavThreeSwitch", band + '*'));
     }
 
     void visitHelp() {
@@ -120,30 +109,24 @@ private:
     }
 
     void scrollSettings() {
-        if (!driver.scrollDown(element("DrawerFrame")))
-            throw TourError{"The settings do not scroll."};
+        if (!driver->scrollDown(element("DrawerFrame")))
+            throw failure("The settings do not scroll.");
     }
 
     /// The dialog that a control opens, left by a click outside.
     void visitDialog(const QString &word) {
         press(word);
         shoot("dialog-" + word.toLower().replace(' ', '-'));
-        driver.clickAt({1, 1});
+        driver->clickAt({1, 1});
     }
 
     /// A detector in the field; these are the pictures of its manual.
     void visitDevice(ProtoEnum generation, const QString &name) {
         constexpr int scanPeriodMs = 500;
-        PtyDevice device(serial, generation);
-        device.setScanPeriod(std::chrono::milliseconds(0));
-        const auto connect = [this] {
-            press("usb");
-            return ScreenDriver::waitFor([this] { return !views().isEmpty(); }, 2000);
-        };
-        waitFor(connect, "The detector on the serial line is not found.");
-        driver.click(element("UavSwitch", "Wi-Fi"));
+        connectTo(generation);
+        driver->click(element("UavSwitch", "Wi-Fi"));
         for (const auto &results : fieldScene(generation)) {
-            device.sendScan(results);
+            device->sendScan(results);
             waitForScans(1);
             QTest::qWait(scanPeriodMs);
         }
@@ -154,7 +137,7 @@ private:
         shoot(name + "settings", &element("MainPage"));
         press("Scan mode");
         shoot(name + "list", &element("MainPage"));
-        driver.clickAt({1, 1});
+        driver->clickAt({1, 1});
         if (generation >= ProtoEnum::K7) {
             scrollSettings();
             shoot(name + "settings-scrolled", &element("MainPage"));
@@ -171,19 +154,19 @@ private:
     }
 
     void waitForScans(int count) {
-        const int wanted = scans + count;
-        waitFor([&] { return scans >= wanted; }, "The simulator sends no scans.");
+        const int wanted = taken(MsgTypeEnum::SCAN_RESULT) + count;
+        waitFor([&] { return taken(MsgTypeEnum::SCAN_RESULT) >= wanted; }, "No scans come.");
     }
 
     void waitFor(const std::function<bool()> &condition, const QString &otherwise) {
         if (!ScreenDriver::waitFor(condition))
-            throw TourError{otherwise};
+            throw failure(otherwise);
     }
 
     const QQuickItem &element(const QString &name, const QString &wordOrPicture = {}) const {
-        const QQuickItem *found = driver.find(name, wordOrPicture);
+        const QQuickItem *found = driver->find(name, wordOrPicture);
         if (!found)
-            throw TourError{"Not on the screen: " + name + ' ' + wordOrPicture};
+            throw failure("Not on the screen: " + name + ' ' + wordOrPicture);
         return *found;
     }
 
@@ -200,30 +183,25 @@ private:
     }
 
     void shootAt(const QSize &size, const QString &state) {
-        const QSize usual = window.size();
-        window.resize(size);
+        const QSize usual = window->size();
+        driver->resize(size);
         waitForScans(2);
         shoot(state);
-        window.resize(usual);
+        driver->resize(usual);
     }
 
     /// The whole window, or a part of it.
     void shoot(const QString &state, const QQuickItem *part = nullptr) {
         const QString file =
             pictures.filePath(QString("%1-%2.png").arg(++shots, 2, 10, QChar('0')).arg(state));
-        const QImage picture = driver.picture();
+        const QImage picture = driver->picture();
         const QRect area = part ? part->mapRectToScene(part->boundingRect()).toRect() : picture.rect();
         if (!picture.copy(area).save(file))
-            throw TourError{"Can't write " + file};
+            throw failure("Can't write " + file);
         std::printf("%s\n", qPrintable(file));
     }
 
-    const SerialDirectory &serial;
-    ServiceObjects &objects;
-    QQuickWindow &window;
-    ScreenDriver driver;
     QDir pictures;
-    int scans = 0;
     int shots = 0;
 };
 
@@ -238,9 +216,6 @@ int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
-    // A serial directory of its own: the tour leaves a device that is plugged in alone.
-    const SerialDirectory serial;
-    ServiceObjects objects{serial.path()};
     registerTypes();
     QGuiApplication app(argc, argv);
     if (argc != 2)
@@ -249,16 +224,10 @@ int main(int argc, char **argv) {
     if (!directory.mkpath("."))
         return fail("Can't make the folder " + directory.path());
 
-    ScreenEngine screens(objects);
-    screens.load();
-    auto *window = qobject_cast<QQuickWindow *>(screens.qmlEngine().rootObjects().value(0));
-    if (!window)
-        return fail("The window can't be shown.");
     try {
-        Tour(serial, objects, *window, directory).run();
-    } catch (const TourError &error) {
-        return fail(error.text);
+        Tour(directory).run();
+    } catch (const std::exception &error) {
+        return fail(error.what());
     }
-    objects.usbService.shutDown();
     return 0;
 }

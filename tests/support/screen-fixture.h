@@ -1,18 +1,12 @@
 #pragma once
 
 #include "msg-to-json-parser.h"
-#include "pty-device.h"
-#include "screen-driver.h"
-#include "screen-engine.h"
-#include "service-objects.h"
+#include "screens.h"
 
-#include <QDir>
-#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <gmock/gmock.h>
 #include <mutex>
-#include <optional>
 
 /// Keeps what Qt warns of, on any thread, while it lives. One at a time.
 class QtWarnings {
@@ -21,45 +15,25 @@ public:
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
             const std::lock_guard lock(mutex);
             if (type != QtDebugMsg && type != QtInfoMsg)
-                texts.push_back(text.toStdString());
+                warnings.push_back(text.toStdString());
         });
     }
     ~QtWarnings() { qInstallMessageHandler(nullptr); }
 
     static std::vector<std::string> take() {
         const std::lock_guard lock(mutex);
-        return std::exchange(texts, {});
+        return std::exchange(warnings, {});
     }
 
 private:
     static inline std::mutex mutex;
-    static inline std::vector<std::string> texts;
+    static inline std::vector<std::string> warnings;
 };
 
-/// The application's window as a user has it, and a device to plug in. A warning of Qt's fails the test.
-class ScreenFixture : public testing::Test {
+/// The application's screens as a user has them. A warning of Qt's fails the test.
+class ScreenFixture : public testing::Test, protected QtWarnings, protected Screens {
 protected:
-    explicit ScreenFixture(const QString &workingDirectory = ".") {
-        const QString usual = QDir::currentPath();
-        QDir::setCurrent(workingDirectory);
-        screens = std::make_unique<ScreenEngine>(objects);
-        screens->load();
-        QDir::setCurrent(usual);
-        window = qobject_cast<QQuickWindow *>(screens->qmlEngine().rootObjects().value(0));
-        if (!window || !QTest::qWaitForWindowExposed(window))
-            throw std::runtime_error("the window does not show");
-        driver.emplace(*window);
-        // Made behind the documents' own connections: what is counted, the screens have taken.
-        const auto count = [this](auto signal, MsgTypeEnum type) {
-            QObject::connect(&objects.usbService, signal, window, [this, type] { ++taken[type]; });
-        };
-        count(&UsbService::gotConfig, MsgTypeEnum::CONFIG);
-        count(&UsbService::gotAiPrior, MsgTypeEnum::AI_PRIOR);
-        count(&UsbService::gotConfigK7, MsgTypeEnum::CONFIG_K7);
-        count(&UsbService::gotBatteryState, MsgTypeEnum::STATE);
-        count(&UsbService::gotScanResult, MsgTypeEnum::SCAN_RESULT);
-        count(&UsbService::usbStateChanged, MsgTypeEnum::OK);
-    }
+    using Screens::Screens;
 
     /// Ends as the application does: a device that is connected is told to stop its scan.
     void TearDown() override {
@@ -68,47 +42,13 @@ protected:
             EXPECT_EQ(QCoreApplication::exec(), 0);
         }
         EXPECT_FALSE(device && (!device->waitForOpen(false) || device->isScanning()));
-        screens.reset();
+        engine.reset();
         EXPECT_THAT(QtWarnings::take(), testing::IsEmpty());
-    }
-
-    /// Plugs in a device in place of the one before, which scans only when it is told what.
-    void plugIn(ProtoEnum generation) {
-        device.reset();
-        device.emplace(directory, generation);
-        device->setScanPeriod(std::chrono::milliseconds(0));
-    }
-    /// Presses the USB button until the screens have the device's settings: on a busy machine the device may
-    /// answer too late for an attempt.
-    void connectByButton() {
-        const int known = taken[MsgTypeEnum::CONFIG];
-        for (int presses = 0; presses < 50 && (!isConnected() || taken[MsgTypeEnum::CONFIG] == known);
-             ++presses) {
-            const int seen = taken[MsgTypeEnum::OK];
-            click("usb");
-            ScreenDriver::waitFor([&] { return taken[MsgTypeEnum::OK] > seen; });
-        }
-        ASSERT_TRUE(isConnected());
-        drainWire();
-    }
-    void connectTo(ProtoEnum generation) {
-        plugIn(generation);
-        connectByButton();
-    }
-    void disconnectByButton() {
-        click("usb");
-        ASSERT_FALSE(isConnected());
-    }
-    bool isConnected() const { return objects.usbService.isUsbActive(); }
-
-    /// Clicks the visible control with this word or picture on it.
-    void click(const QString &word) {
-        ASSERT_TRUE(driver->control(word)) << qPrintable(word);
-        driver->click(*driver->control(word));
     }
 
     /// The texts that reach the connected device because of a gesture.
     std::vector<std::string> sentBy(const std::function<void()> &gesture) {
+        drainWire();
         device->clearRecord();
         gesture();
         drainWire();
@@ -131,22 +71,16 @@ protected:
         }
         return texts;
     }
-
-    /// Has the connected device send a message, and waits until the screens have taken it.
+    /// Has the connected device send a message, and waits until the screens have taken it, which sends
+    /// nothing.
     void deviceSays(const std::string &text) {
-        const int &count = taken[Msg::parseJson(text)->getType()];
-        const int seen = count;
-        device->sendText(text + "\n");
-        ASSERT_TRUE(ScreenDriver::waitFor([&] { return count > seen; })) << text;
+        const int &count = taken(Msg::parseJson(text)->getType());
+        const auto sent = sentBy([&, seen = count] {
+            device->sendText(text + "\n");
+            EXPECT_TRUE(ScreenDriver::waitFor([&] { return count > seen; })) << text;
+        });
+        EXPECT_THAT(sent, testing::IsEmpty()) << text;
     }
-
-    SerialDirectory directory;
-    std::optional<PtyDevice> device;
-    ServiceObjects objects{directory.path()};
-    QtWarnings warnings;
-    std::unique_ptr<ScreenEngine> screens;
-    QPointer<QQuickWindow> window;
-    std::optional<ScreenDriver> driver;
 
 private:
     /// Waits until the device has all that was sent: the request sent last, which changes nothing on the
@@ -159,6 +93,4 @@ private:
             return types.size() > count && types.back() == "GET_AI_PRIOR";
         }));
     }
-
-    std::map<MsgTypeEnum, int> taken; // messages on the UI thread; OK stands for a change of the connection
 };

@@ -37,6 +37,8 @@ TEST_F(ButtonRowTest, ShowsWhatWorks) {
 64x64+584+742.8 #81909f/#000000:2 r12.8, cfg 47.2x47.2+8.4=
 64x64+649+742.8 #81909f/#000000:2 r12.8, info 47.2x47.2+8.4=
 64x64+714+742.8 #81909f/#000000:2 r12.8, usb 47.2x47.2+8.4=)");
+    EXPECT_EQ(ScreenDriver::place(*driver->find("FittedText", "87%"), driver->control("87%")),
+              "77.2x47.2+70+7.9");
     EXPECT_EQ(driver->looks("QQuickRectangle", "LegendLayout"), R"(
 256.7x64+7.5+674.5 #00b050, 'Wi-Fi' #ffffff 40 bold
 256.7x64+271.7+674.5 #ffc000, 'DIG' #ffffff 40 bold
@@ -93,16 +95,16 @@ TEST_F(ButtonRowTest, TellsTheBatteryAndTheMaskAndDoesWhatItsButtonsSay) {
 TEST_F(ButtonRowTest, TwelveClicksOnHelpStartTheSimulatorWhileNothingIsConnected) {
     plugIn(ProtoEnum::K6);
     clickHelp(11);
-    connectByButton();
+    connect();
     clickHelp(1);
-    disconnectByButton();
+    disconnect();
     clickHelp(11);
     EXPECT_FALSE(isConnected()) << "a click while connected starts the count anew";
     for (const int clicks : {1, 12}) {
         clickHelp(clicks);
         EXPECT_TRUE(objects.usbService.inTesting());
         EXPECT_EQ(look("TEST MODE"), "'TEST MODE' #ff0000 25");
-        disconnectByButton();
+        disconnect();
         EXPECT_FALSE(driver->control("TEST MODE"));
     }
 }

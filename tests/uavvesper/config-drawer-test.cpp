@@ -28,24 +28,20 @@ protected:
     /// The slider or switch of a row, or the row itself, which opens a dialog.
     const QQuickItem &control(const QString &title) const {
         const QQuickItem &row = *driver->find("PreferenceRow", title);
-        const QQuickItem *slider = driver->find("Slider", {}, &row),
-                         *toggle = driver->find("Switch", {}, &row);
-        return slider ? *slider : toggle ? *toggle : row;
+        const QQuickItem *slider = driver->find("Slider", {}, &row);
+        const QQuickItem *part = slider ? slider : driver->find("Switch", {}, &row);
+        return part ? *part : row;
     }
     /// Drags a slider to a value, clicks a switch, or chooses from a dialog.
     void touch(const QString &title, const QString &where) {
         const QQuickItem &item = control(title);
-        if (item.property("maximumValue").isValid())
-            return driver->slide(item, where.toDouble());
-        driver->click(item);
-        if (!where.isEmpty())
+        const bool isSlider = item.property("maximumValue").isValid();
+        if (isSlider)
+            driver->slide(item, where.toDouble());
+        else
+            driver->click(item);
+        if (!isSlider && !where.isEmpty())
             choose(where);
-    }
-    /// Takes an entry of the open dialog, or leaves it by a click outside.
-    void choose(const QString &word) {
-        const QQuickItem *entry = driver->find("Button", word, driver->find("ListButtonDialog"));
-        driver->click(entry ? *entry : *driver->control(word));
-        EXPECT_TRUE(ScreenDriver::waitFor([this] { return !driver->find("ListButtonDialog"); }));
     }
     /// A switch glides, so its look is waited for.
     void expectLook(const QString &title, const std::string &look) const {
@@ -93,7 +89,7 @@ AI mode|AI mode configure|AI_PRIOR aiPrior|AIDefault|AIDefault="DEFAULT"|Mode "F
     open(ProtoEnum::K6);
     EXPECT_EQ(driver->words("DrawerFrame"), detection + "Interface|Brightness|Indication brightness|50|");
     walk(both + "\nBrightness|Indication brightness|CONFIG indLedLvl|240|20=20|140=100");
-    disconnectByButton();
+    disconnect();
 
     open(ProtoEnum::K7);
     walk(both + R"(
@@ -108,13 +104,12 @@ Brightness|Indication brightness|CONFIG indLedLvl, CONFIG_K7 dispLvl|240|70=70
 Display timeout|Shut off the display for inactivity in seconds|CONFIG_K7 dispOffTime|40|122=120|400=360)");
 
     const auto config = R"({"type":"CONFIG","proto":"K7","indSnd":true,"indSndLvl":10,"indLedLvl":15})";
-    const auto dragged = sentBy([&] {
-        driver->slide(control("Brightness"), 35, false);
-        deviceSays(config);
-    });
-    EXPECT_THAT(dragged, IsEmpty());
-    expectLook("Brightness", lookOf("168", "0.24")); // in the user's hand
-    QTest::mouseRelease(window, Qt::LeftButton);
+    QPoint hand;
+    EXPECT_THAT(sentBy([&] { hand = driver->slide(control("Brightness"), 35, false); }), IsEmpty());
+    deviceSays(config);
+    expectLook("Brightness", lookOf("168", "0.24"));
+    EXPECT_THAT(sentBy([&] { QTest::mouseRelease(window, Qt::LeftButton, {}, hand); }),
+                Contains(HasSubstr("\"indLedLvl\" : 35")));
     deviceSays(config);
     deviceSays(R"({"type":"CONFIG_K7","voiceEn":true,"indHeadLvl":20,"dispOffTime":180,"voiceDbLvl":-97})");
     const QString told =

@@ -50,11 +50,9 @@ TEST(Handlers, MirrorTheConfigAndSendItOnceTheDeviceHasToldItsRanges) {
     EXPECT_EQ(handler.by(&H::changed), "changed");
     EXPECT_EQ(handler.by(&H::setStringMode, "AUTO"), "changed");
     EXPECT_EQ(handler.by(&H::nextSens), "sensChanged");
-    handler.shows(
-        {{"sens", "LOW"}, {"atten", 6}, {"indLedLvl", 75}, {"indSndLvl", 100}, {"enumMode", "AUTO"}});
+    handler.shows({{"sens", "LOW"}, {"atten", 6}, {"indLedLvl", 75}, {"indSndLvl", 100}});
     EXPECT_EQ(handler.by(&H::accept, held(config)), burst);
-    handler.shows(
-        {{"stringMode", "Непрерывный"}, {"sens", "MID"}, {"mode", 3}, {"wifiDet", 1}, {"atten", 3}});
+    handler.shows({{"stringMode", "Непрерывный"}, {"sens", "MID"}, {"mode", 3}, {"wifiDet", 1}});
     EXPECT_EQ(handler.getRanges(), (QList<int>{1, 6}));
     EXPECT_EQ(handler.by(&H::setRanges, QList<int>()), "");
     EXPECT_EQ(handler.by(&H::setIndLedLvl, 12), "");
@@ -99,14 +97,12 @@ TEST(Handlers, KeepTheAiModeThatTheUserChose) {
     EXPECT_EQ(handler.by(&H::setProto, K6), "aiChanged");
     EXPECT_EQ(handler.by(&H::setProto, K1), "aiChanged");
     EXPECT_EQ(handler.by(&H::nextAiPrior), "aiChanged");
-    EXPECT_EQ(handler.by(&H::setAiPrior, "FIELD"), "aiChanged changed")
-        << "no modes, behind a generation that has some";
+    EXPECT_EQ(handler.by(&H::setAiPrior, "FIELD"), "aiChanged changed") << "behind a generation with modes";
     handler.shows({{"enumAiPrior", "NONE"}});
     EXPECT_THROW(handler.setProto(4), std::out_of_range);
     EXPECT_EQ(handler.by(&H::setProto, K7), "aiChanged");
     EXPECT_EQ(handler.by(&H::setAiPrior, "CITY"), "aiChanged gotMsg changed " + sends("CITY"));
-    EXPECT_EQ(handler.by(&H::setAiPrior, "AUTO"), "aiChanged gotMsg changed " + sends("CITY"))
-        << "no mode of any generation";
+    EXPECT_EQ(handler.by(&H::setAiPrior, "AUTO"), "aiChanged gotMsg changed " + sends("CITY"));
     EXPECT_EQ(handler.by(&H::setAiPrior, "city"), "");
     EXPECT_EQ(handler.by(&H::setProto, K7), "");
     EXPECT_EQ(handler.by(&H::accept, held(R"({"type":"AI_PRIOR","aiPrior":"FIELD"})")), "aiChanged");

@@ -15,29 +15,29 @@ protected:
     }
 
     /// A scan with one strong signal of a class in each band, in its second column.
-    static std::string scan(const std::string &type) {
-        std::string freqs;
-        for (const std::string band : {"10", "24", "49", "57"})
-            freqs += (freqs.empty() ? "" : ",") + (R"({"freqMHz":)" + band) +
-                     R"(00,"rssi":-99,"type":"NONE"},)" + R"({"freqMHz":)" + band +
-                     R"(30,"rssi":-80,"type":")" + type + R"("})";
-        return R"({"type":"SCAN_RESULT","mask":false,"freqs":[)" + freqs + "]}";
+    static std::string scan(const QString &type) {
+        QStringList freqs;
+        for (const int weak : {1000, 2400, 4900, 5700})
+            freqs +=
+                QString(R"({"freqMHz":%1,"rssi":-99,"type":"NONE"},{"freqMHz":%2,"rssi":-80,"type":"%3"})")
+                    .arg(weak)
+                    .arg(weak + 30)
+                    .arg(type);
+        return R"({"type":"SCAN_RESULT","mask":false,"freqs":[)" + freqs.join(',').toStdString() + "]}";
     }
 
     /// The visible views from top to bottom.
     std::vector<QQuickItem *> views() const {
-        auto views = driver->findAll("LayeredPlot");
-        const auto above = [](auto *a, auto *b) {
-            return a->mapToScene({0, 0}).y() < b->mapToScene({0, 0}).y();
-        };
-        std::sort(views.begin(), views.end(), above);
-        return {views.begin(), views.end()};
+        std::multimap<qreal, QQuickItem *> byPlace;
+        for (QQuickItem *view : driver->findAll("LayeredPlot"))
+            byPlace.emplace(view->mapToScene({0, 0}).y(), view);
+        std::vector<QQuickItem *> views;
+        for (const auto &[y, view] : byPlace)
+            views.push_back(view);
+        return views;
     }
-    /// All views of a row.
-    static std::vector<QQuickItem *> viewsBeside(const QQuickItem &view) {
-        auto views = view.parentItem()->childItems();
-        views.removeLast(); // the area that is swiped
-        return {views.begin(), views.end()};
+    static QList<QQuickItem *> allOfRow(const QQuickItem &view) {
+        return view.parentItem()->childItems().mid(0, 3);
     }
     std::string shown() const {
         std::string shown;
@@ -64,7 +64,7 @@ TEST_F(PlotListTest, DividesThePageAmongTheBandsWithThreeViewsEach) {
         for (std::size_t row = 0; row < places.size(); ++row) {
             EXPECT_EQ(ScreenDriver::place(*views()[row]), places[row]);
             std::string looks;
-            for (const QQuickItem *view : viewsBeside(*views()[row])) {
+            for (const QQuickItem *view : allOfRow(*views()[row])) {
                 const auto band = view->property("history").value<History>().getMasterMode();
                 EXPECT_EQ(static_cast<std::size_t>(band), row + 4 - places.size());
                 for (const char *name : {"x", "backgroundColor", "innerBorderColor", "textColor",
@@ -75,7 +75,7 @@ TEST_F(PlotListTest, DividesThePageAmongTheBandsWithThreeViewsEach) {
                              "1600 #000000  #ffffff #808080 2 10  ");
         }
     }
-    disconnectByButton();
+    disconnect();
     EXPECT_THAT(views(), IsEmpty());
 }
 
@@ -93,18 +93,21 @@ TEST_F(PlotListTest, ASwipeOfMoreThan100PixelsMovesItsBandByOneView) {
     }
     std::vector<std::unique_ptr<QSignalSpy>> painted;
     for (const QQuickItem *view : views())
-        for (const QQuickItem *each : viewsBeside(*view))
+        for (const QQuickItem *each : allOfRow(*view))
             painted.push_back(std::make_unique<QSignalSpy>(each, SIGNAL(imageReady())));
     for (int scans = 0; scans < 3; ++scans)
         deviceSays(scan("DIG"));
-    std::string counts;
+    std::string times;
     for (const auto &spy : painted)
-        counts += std::to_string(spy->count());
-    EXPECT_EQ(counts, "300030003300") << "only the view on show paints";
-    const std::tuple<int, const char *, const char *> steps[] = {{101, "FPV", "#ff0000"},
-                                                                 {101, "WIFI", "#00b050"},
-                                                                 {-101, "DIG", "#ffc000"},
-                                                                 {-101, "WIFI", "#00b050"}};
+        times += std::to_string(spy->count());
+    EXPECT_EQ(times, "300030003300") << "only the view on show paints";
+    struct {
+        int pixels;
+        const char *type, *color;
+    } const steps[] = {{101, "FPV", "#ff0000"},
+                       {101, "WIFI", "#00b050"},
+                       {-101, "DIG", "#ffc000"},
+                       {-101, "WIFI", "#00b050"}};
     for (const auto &[pixels, type, color] : steps) {
         // The course of a signal needs two scans that are not the oldest one.
         deviceSays(scan(type));

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QProcess>
+#include <QQmlContext>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <csignal>
@@ -89,9 +90,20 @@ TEST_F(MainWindowTest, DividesItselfInEverySize) {
     }
 }
 
-TEST_F(MainWindowTest, EndsTheConnectionWhenItIsDestroyed) {
-    connectTo(ProtoEnum::K6);
+TEST_F(MainWindowTest, AcceptsEachMessageTwiceAndEndsTheConnectionWithItself) {
+    connectTo(ProtoEnum::K7);
+    const std::tuple<const char *, const char *, MsgTypeEnum> handlers[] = {
+        {"confHndlr", SIGNAL(protoChanged()), MsgTypeEnum::CONFIG},
+        {"confK7Hndlr", SIGNAL(btEnChanged()), MsgTypeEnum::CONFIG_K7},
+        {"aiPriorHndlr", SIGNAL(aiChanged()), MsgTypeEnum::AI_PRIOR}};
+    for (const auto &[name, signal, type] : handlers) {
+        QSignalSpy accepted(engine->qmlEngine().rootContext()->contextProperty(name).value<QObject *>(),
+                            signal);
+        const int before = taken(type);
+        deviceSays(R"({"type":")" + MsgType(type).name() + "\"}");
+        EXPECT_EQ(accepted.count(), 2 * (taken(type) - before)) << name;
+    }
     EXPECT_TRUE(device->isScanning());
-    screens.reset();
+    engine.reset();
     EXPECT_TRUE(device->waitForOpen(false) && !device->isScanning());
 }

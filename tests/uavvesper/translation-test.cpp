@@ -38,37 +38,30 @@ TEST(Translation, HasEveryWordOfTheScreensAndTheManualsExplainThem) {
         EXPECT_TRUE(contentOf(manual).startsWith("%PDF-")) << manual;
 }
 
-/// The screens as somebody sees them who starts them where the Russian words lie.
-class RussianScreensTest : public ScreenFixture {
-protected:
+struct RussianScreensTest : ScreenFixture {
     RussianScreensTest()
         : ScreenFixture(RUSSIAN_DIR) {}
-
-    void look() {
-        driver->picture();
-        for (const QQuickItem *item : driver->findAll({}))
-            seen.insert(item->property("text").toString());
-    }
-    std::set<QString> seen;
 };
 
-TEST_F(RussianScreensTest, SpeakRussian) {
+TEST_F(RussianScreensTest, SpeakRussianInTheDirectoryOfTheRussianWords) {
+    std::set<QString> seen;
+    const auto clickAndLook = [&](const QQuickItem &item) {
+        driver->click(item);
+        driver->picture();
+        for (const QQuickItem *each : driver->findAll({}))
+            seen.insert(each->property("text").toString());
+    };
     driver->resize({800, 2200});
     connectTo(ProtoEnum::K7);
-    look();
-    for (const char *step :
-         {"Маска", "info", "Руководство", "Режим: ", "cfg"}) { // a dialog is left by the fourth
-        click(step);
-        look();
-    }
+    for (const char *word :
+         {"ЦИФРА", "Маска", "info", "Руководство", "Режим: ", "cfg"}) // "Режим: " leaves a dialog
+        clickAndLook(*driver->control(word));
     for (const QQuickItem *dialog : driver->findAll("ConfigPreference")) {
-        driver->click(*dialog);
-        look();
-        driver->clickAt({1, 1});
-        EXPECT_TRUE(ScreenDriver::waitFor([this] { return !driver->find("ListButtonDialog"); }));
+        clickAndLook(*dialog);
+        choose("Обнаружение");
     }
     for (const char *word :
-         {"Ждите", "Заводские настройки", "ЦИФРА", "Цифра", "Чувств: Выс", "ИИ: Оптим", "Базовый", "Вкл",
+         {"Маска", "Ждите", "Заводские настройки", "Цифра", "Чувств: Выс", "ИИ: Оптим", "Базовый", "Вкл",
           "Прошивка: 2.30", "Обнаружение", "Режим «Город»", "Поздний (-88)", "Управление РЭБ"})
         EXPECT_EQ(seen.count(word), 1U) << word;
     for (const QString &word : seen)
