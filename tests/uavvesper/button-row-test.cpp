@@ -53,18 +53,14 @@ TEST_F(ButtonRowTest, ShowsWhatWorks) {
 TEST_F(ButtonRowTest, TellsTheBatteryAndTheMaskAndDoesWhatItsButtonsSay) {
     connectTo(ProtoEnum::K7);
     EXPECT_THAT(sentBy([this] { click("87%"); }), ElementsAre(wire(R"({|"type" : "GET_STATE"|})")));
-    struct {
-        std::string icon;
-        std::vector<int> percents;
-    } const levels[] = {
-        {"b0", {0, 19}}, {"b25", {20, 44}}, {"b50", {45, 69}}, {"b75", {70, 94}}, {"b100", {95, 100}}};
     int filled = 0;
-    for (const auto &[icon, percents] : levels) {
-        for (const int percent : percents) {
-            deviceSays(R"({"type":"STATE","battLvl":)" + std::to_string(percent) + "}");
-            EXPECT_THAT(look(QString("%1%").arg(percent)), HasSubstr(", " + icon + " 47"));
+    for (const QString level : {"b0 0 19", "b25 20 44", "b50 45 69", "b75 70 94", "b100 95 100"}) {
+        const QString icon = level.section(' ', 0, 0);
+        for (const QString &percent : level.split(' ').mid(1)) {
+            deviceSays(QString(R"({"type":"STATE","battLvl":%1})").arg(percent).toStdString());
+            EXPECT_THAT(look(percent + '%'), HasSubstr(", " + icon.toStdString() + " 47"));
         }
-        QFile picture(QString::fromStdString(":/icons/" + icon));
+        QFile picture(":/icons/" + icon);
         EXPECT_TRUE(picture.open(QIODevice::ReadOnly));
         EXPECT_EQ(picture.readAll().count("<rect"), 2 + filled++) << "the body and the pole";
     }
@@ -81,13 +77,11 @@ TEST_F(ButtonRowTest, TellsTheBatteryAndTheMaskAndDoesWhatItsButtonsSay) {
     for (const auto &text : sentBy([this] { click("Fabric settings"); }))
         sent += text;
     EXPECT_THAT(sent, AllOf(HasSubstr(R"("proto" : "K7")"), HasSubstr(R"("type" : "CONFIG_K7")")));
-    const std::string steps[][2] = {{"info", "help"},    {"cfg", "settings"}, {"cfg", ""},
-                                    {"cfg", "settings"}, {"info", "help"},    {"info", ""},
-                                    {"cfg", "settings"}, {"usb", ""}};
-    for (const auto &[button, open] : steps) {
-        click(QString::fromStdString(button));
+    for (const QString step :
+         {"info help", "cfg settings", "cfg", "cfg settings", "info help", "info", "cfg settings", "usb"}) {
+        click(step.section(' ', 0, 0));
         const std::string settings = driver->control("Detection") ? "settings" : "";
-        EXPECT_EQ(settings + (driver->control("Manual") ? "help" : ""), open) << button;
+        EXPECT_EQ(settings + (driver->control("Manual") ? "help" : ""), step.section(' ', 1).toStdString());
     }
     EXPECT_EQ(look("Mask"), "#81909f/#808080:2 r12.8, 'Mask' #808080 15") << "waits for no device";
 }

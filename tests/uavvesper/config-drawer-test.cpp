@@ -8,11 +8,8 @@ static std::string lookOf(const QString &shown, const QString &opacity = "0.8") 
     if (shown == "on")
         look = "#3cb371 r15 60x30+0= *O, #a4ebb6 r18.75 37.5x37.5+30= *O";
     else if (const int x = shown.toInt())
-        look = QString("#a4ebb6 r2 %1x4+10= *O, #808080 r2 %2x4+%3= *O, #a4ebb6 r10 20x20+%4= *O")
-                   .arg(x - 10)
-                   .arg(470 - x)
-                   .arg(x + 20)
-                   .arg(x);
+        look = QString::asprintf("#a4ebb6 r2 %dx4+10= *O, #808080 r2 %dx4+%d= *O, #a4ebb6 r10 20x20+%d= *O",
+                                 x - 10, 470 - x, x + 20, x);
     return look.replace('O', opacity).toStdString();
 }
 

@@ -18,11 +18,9 @@ protected:
     static std::string scan(const QString &type) {
         QStringList freqs;
         for (const int weak : {1000, 2400, 4900, 5700})
-            freqs +=
-                QString(R"({"freqMHz":%1,"rssi":-99,"type":"NONE"},{"freqMHz":%2,"rssi":-80,"type":"%3"})")
-                    .arg(weak)
-                    .arg(weak + 30)
-                    .arg(type);
+            freqs += QString::asprintf(
+                R"({"freqMHz":%d,"rssi":-99,"type":"NONE"},{"freqMHz":%d,"rssi":-80,"type":"%s"})", weak,
+                weak + 30, qPrintable(type));
         return R"({"type":"SCAN_RESULT","mask":false,"freqs":[)" + freqs.join(',').toStdString() + "]}";
     }
 
@@ -80,16 +78,12 @@ TEST_F(PlotListTest, DividesThePageAmongTheBandsWithThreeViewsEach) {
 }
 
 TEST_F(PlotListTest, ASwipeOfMoreThan100PixelsMovesItsBandByOneView) {
-    struct {
-        std::size_t band;
-        int pixels;
-        const char *shown;
-    } const swipes[] = {{1, -100, "BBBB"}, {1, 101, "BBBB"},  {1, -101, "BFBB"}, {3, -101, "BFBF"},
-                        {1, -700, "BHBF"}, {1, -101, "BHBF"}, {1, 100, "BHBF"},  {1, 101, "BFBF"},
-                        {3, 101, "BFBB"},  {2, -101, "BFFB"}, {2, -101, "BFHB"}};
-    for (const auto &[band, pixels, expected] : swipes) {
-        swipe(band, pixels);
-        EXPECT_EQ(shown(), expected) << band << ' ' << pixels;
+    const QString swipes =
+        "1 -100 BBBB|1 101 BBBB|1 -101 BFBB|3 -101 BFBF|1 -700 BHBF|1 -101 BHBF|1 100 BHBF|1 101 BFBF|"
+        "3 101 BFBB|2 -101 BFFB|2 -101 BFHB";
+    for (const QString &each : swipes.split('|')) {
+        swipe(each.section(' ', 0, 0).toUInt(), each.section(' ', 1, 1).toInt());
+        EXPECT_EQ(shown(), each.section(' ', 2).toStdString()) << qPrintable(each);
     }
     std::vector<std::unique_ptr<QSignalSpy>> painted;
     for (const QQuickItem *view : views())
@@ -101,23 +95,17 @@ TEST_F(PlotListTest, ASwipeOfMoreThan100PixelsMovesItsBandByOneView) {
     for (const auto &spy : painted)
         times += std::to_string(spy->count());
     EXPECT_EQ(times, "300030003300") << "only the view on show paints";
-    struct {
-        int pixels;
-        const char *type, *color;
-    } const steps[] = {{101, "FPV", "#ff0000"},
-                       {101, "WIFI", "#00b050"},
-                       {-101, "DIG", "#ffc000"},
-                       {-101, "WIFI", "#00b050"}};
-    for (const auto &[pixels, type, color] : steps) {
+    for (const QString step :
+         {"101 FPV #ff0000", "101 WIFI #00b050", "-101 DIG #ffc000", "-101 WIFI #00b050"}) {
         // The course of a signal needs two scans that are not the oldest one.
-        deviceSays(scan(type));
-        deviceSays(scan(type));
-        swipe(2, pixels);
+        deviceSays(scan(step.section(' ', 1, 1)));
+        deviceSays(scan(step.section(' ', 1, 1)));
+        swipe(2, step.section(' ', 0, 0).toInt());
         const QImage picture = driver->picture().copy(0, 332, 800, 166);
         int found = 0;
         for (int i = 0; i < 800 * 166; ++i)
-            found += picture.pixelColor(i % 800, i / 800) == QColor(color);
-        EXPECT_GT(found, 0) << "a view that is swiped in shows the newest scan, " << type;
+            found += picture.pixelColor(i % 800, i / 800) == QColor(step.section(' ', 2));
+        EXPECT_GT(found, 0) << "a view that is swiped in shows the newest scan: " << qPrintable(step);
     }
     deviceSays(R"({"type":"CONFIG","proto":"K7","ranges":["EXT_2400"]})");
     EXPECT_TRUE(ScreenDriver::waitFor([&] { return shown() == "BBBB"; }));
