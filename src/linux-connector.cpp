@@ -46,7 +46,7 @@ bool LinuxConnector::probe(const std::string &devicePath) {
 
 void LinuxConnector::disconnect() {
     if (test)
-        stopTesting();
+        LinuxConnector::stopTesting(); // by name, as the destructor comes here too
     else if (!isClosed())
         serialClose();
 }

@@ -75,6 +75,7 @@ SigTypeEnum drawType(const ScanPlan &plan, std::default_random_engine &engine) {
 void ScanPlan::setByConfig(const ConfigMsg &config) {
     const auto ranges = config.getRanges();
     std::vector<std::vector<float>> plans;
+    plans.reserve(ranges.size());
     for (const FreqModeEnum range : ranges)
         plans.push_back(FreqMode(range).getFreqList()->getFreqs());
     freqs = std::move(plans);
@@ -116,7 +117,7 @@ std::shared_ptr<ScanResultMsg> ScanPlan::makeScan(std::default_random_engine &en
             results.push_back(result);
         }
     }
-    const auto scan = std::make_shared<ScanResultMsg>();
+    auto scan = std::make_shared<ScanResultMsg>();
     scan->setMask(mask);
     scan->setMaskedModes(maskedMMs);
     scan->setFreqs(results);
