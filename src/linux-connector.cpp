@@ -2,6 +2,7 @@
 
 #include "msg/get-state-msg.h"
 #include "msg/state-msg.h"
+#include "port-advice.h"
 
 namespace fs = std::filesystem;
 
@@ -11,9 +12,10 @@ constexpr std::chrono::milliseconds PROBE_TIMEOUT{100};
 
 } // namespace
 
-LinuxConnector::LinuxConnector(fs::path serialDirectory, Report reportError)
+LinuxConnector::LinuxConnector(fs::path serialDirectory, Report reportError, Report portReport)
     : directory(std::move(serialDirectory))
     , report(std::move(reportError))
+    , reportPort(std::move(portReport))
     , testListener(std::make_shared<MsgListener>([this](std::shared_ptr<Msg> msg) { fireMsg(msg); })) {}
 
 LinuxConnector::~LinuxConnector() {
@@ -34,14 +36,18 @@ bool LinuxConnector::connectInterface() {
 }
 
 bool LinuxConnector::probe(const std::string &devicePath) {
+    const auto passedOver = [&](const std::string &reason) {
+        reportPort((devicePath + ": " + reason).c_str());
+        return false;
+    };
     setPortName(devicePath);
     if (!openPort())
-        return false;
+        return passedOver(adviceOnError(openError()));
     const auto reply = busyTransaction(std::make_shared<GetStateMsg>(), PROBE_TIMEOUT);
     if (messageCast<StateMsg>(reply))
         return true;
     serialClose();
-    return false;
+    return passedOver(adviceOnReply(reply, PROBE_TIMEOUT));
 }
 
 void LinuxConnector::disconnect() {

@@ -17,10 +17,12 @@ public:
 
     using Report = std::function<void(const char *)>;
 
-    /// `serialDirectory` holds a symbolic link to the terminal of each serial device. `reportError` gets the
-    /// text of a file system error that ended a search, on the searching thread.
+    /// `serialDirectory` holds a symbolic link to the terminal of each serial device. On the searching thread
+    /// `reportError` gets the text of a file system error that ended a search, and `reportPort` a line for
+    /// each terminal that was tried and did not become the device: its path, what failed and what helps.
     explicit LinuxConnector(
-        std::filesystem::path serialDirectory = SERIAL_DIRECTORY, Report reportError = [](const char *) {});
+        std::filesystem::path serialDirectory = SERIAL_DIRECTORY, Report reportError = [](const char *) {},
+        Report reportPort = [](const char *) {});
     ~LinuxConnector() override;
 
     /// Opens one device after the other and asks for its state. The first whose reply within 100 ms is a
@@ -47,6 +49,7 @@ private:
 
     const std::filesystem::path directory;
     const Report report;
+    const Report reportPort;
     std::atomic<bool> test{false};
     TestService testService;
     /// Makes what the simulator fires reach the listeners of the link.

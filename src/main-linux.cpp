@@ -3,8 +3,10 @@
 #include "service-objects.h"
 
 #include <QGuiApplication>
+#include <cstdio>
 
 int main(int argc, char **argv) {
+    std::setvbuf(stdout, nullptr, _IOLBF, 0); // lines of the log show at once, also in a file or a pipe
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     ServiceObjects objects;
     registerTypes();

@@ -4,7 +4,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -16,21 +15,14 @@ constexpr std::array endingSignals = {SIGINT, SIGTERM, SIGHUP};
 std::array<int, 2> wakeUp = {-1, -1};
 
 void wake(int) {
+    // Who asks again does not want to wait. A terminal that closes may hang up more than once.
+    for (const int number : {SIGINT, SIGTERM})
+        if (std::signal(number, SIG_DFL) == SIG_IGN)
+            std::signal(number, SIG_IGN);
     const int interrupted = errno; // another thread may be about to look at it
     const char byte = 0;
     [[maybe_unused]] const auto written = ::write(wakeUp[0], &byte, sizeof byte);
     errno = interrupted;
-}
-
-/// A session leader without a terminal gets the first one that it opens, here the device: unplugging it would
-/// then hang up on the process.
-bool wouldTakeDeviceForTerminal() {
-    if (::getsid(0) != ::getpid())
-        return false;
-    const int terminal = ::open("/dev/tty", O_RDWR | O_NOCTTY | O_CLOEXEC);
-    if (terminal >= 0)
-        ::close(terminal);
-    return terminal < 0;
 }
 
 int openWakeUp() {
@@ -43,17 +35,17 @@ int openWakeUp() {
 ProcessSignals::ProcessSignals()
     : notifier(openWakeUp(), QSocketNotifier::Read) {
     QObject::connect(&notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
-    for (const int number : endingSignals) {
-        const bool ignored = number == SIGHUP && wouldTakeDeviceForTerminal();
-        // What the process was started to ignore (nohup, a script's background job) stays ignored.
-        if (std::signal(number, ignored ? SIG_IGN : wake) == SIG_IGN)
+    // What the process was started to ignore (nohup, a script's background job) stays ignored.
+    for (const int number : endingSignals)
+        if (std::signal(number, wake) == SIG_IGN)
             std::signal(number, SIG_IGN);
-    }
+    std::signal(SIGPIPE, SIG_IGN); // who reads the log may go, the connection stays
 }
 
 ProcessSignals::~ProcessSignals() {
     for (const int number : endingSignals)
         std::signal(number, SIG_DFL);
+    std::signal(SIGPIPE, SIG_DFL);
     for (int &end : wakeUp) {
         ::close(end);
         end = -1;

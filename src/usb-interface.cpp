@@ -65,6 +65,8 @@ bool UsbInterface::init() {
 }
 
 bool UsbInterface::openDevice() {
+    if (closed)
+        stopReading(); // the thread of the device before, which ends by itself
     {
         const std::lock_guard lock(devhMutex);
         devh = cx ? libusb_open_device_with_vid_pid(cx, VENDOR_ID, PRODUCT_ID) : nullptr;

@@ -19,6 +19,7 @@
 #include "msg/state-msg.h"
 
 #include <QDebug>
+#include <cstdio>
 
 using std::chrono::milliseconds;
 
@@ -35,9 +36,10 @@ UsbService::UsbService(QObject *parent)
     : UsbService(parent, LinuxConnector::SERIAL_DIRECTORY) {}
 
 UsbService::UsbService(QObject *parent, const std::filesystem::path &serialDirectory)
-    : UsbService(
-          std::make_unique<LinuxConnector>(serialDirectory, [](const char *error) { qDebug() << error; }),
-          parent) {}
+    : UsbService(std::make_unique<LinuxConnector>(
+                     serialDirectory, [](const char *error) { qDebug() << error; },
+                     [](const char *tried) { std::fprintf(stderr, "%s\n", tried); }),
+                 parent) {}
 
 UsbService::UsbService(std::unique_ptr<SerialInterfaceConnector> deviceConnector, QObject *parent)
     : QObject(parent)

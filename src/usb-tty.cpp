@@ -1,25 +1,40 @@
 #include "usb-tty.h"
 
+#include "bounded-write.h"
 #include "reading-loop.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
 
-namespace {
+UsbTty::UsbTty()
+    : UsbTty("") {}
 
-bool failed(const char *operation) {
+UsbTty::UsbTty(std::string name)
+    : portName(std::move(name))
+    , closing(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {}
+
+UsbTty::~UsbTty() {
+    UsbTty::serialClose();
+    ::close(closing);
+}
+
+bool UsbTty::failed(const char *operation) {
     const int error = errno;
+    lastOpenError = error;
     std::printf("Error %i from %s: %s\n", error, operation, std::strerror(error));
     return false;
 }
 
 /// Bytes come unchanged and one read waits at most a second for them. On purpose: other than in raw mode
 /// signals stay on, and a line feed leaves as carriage return and line feed, which the devices expect.
-bool setUpLine(int descriptor) {
+bool UsbTty::setUpLine(int descriptor) {
     termios settings;
     if (tcgetattr(descriptor, &settings) != 0)
         return failed("tcgetattr");
@@ -35,30 +50,23 @@ bool setUpLine(int descriptor) {
     return tcsetattr(descriptor, TCSANOW, &settings) == 0 || failed("tcsetattr");
 }
 
-} // namespace
-
-UsbTty::UsbTty(std::string name)
-    : portName(std::move(name)) {}
-
-UsbTty::~UsbTty() {
-    UsbTty::serialClose();
-}
-
 std::string UsbTty::getPortName() const {
-    const std::lock_guard lock(lifecycle);
+    const std::lock_guard lock(nameMutex);
     return portName;
 }
 
 void UsbTty::setPortName(std::string name) {
-    const std::lock_guard lock(lifecycle);
+    const std::lock_guard lock(nameMutex);
     portName = std::move(name);
 }
 
 bool UsbTty::openPort() {
     const std::lock_guard lock(lifecycle);
-    if (portName.empty())
+    const std::string path = getPortName();
+    lastOpenError = 0;
+    if (path.empty())
         return false;
-    const int opened = open(portName.c_str(), O_RDWR);
+    const int opened = open(path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
     if (opened < 0)
         return failed("open");
     if (!setUpLine(opened)) {
@@ -70,7 +78,8 @@ bool UsbTty::openPort() {
         if (port < 0) {
             port = opened;
         } else {
-            dup2(opened, port); // under the same number, since the reading thread may be about to use it
+            dup3(opened, port,
+                 O_CLOEXEC); // under the same number, since the reading thread may be about to use it
             ::close(opened);
         }
     }
@@ -80,12 +89,16 @@ bool UsbTty::openPort() {
 }
 
 void UsbTty::startReading() {
-    const std::lock_guard lock(lifecycle);
-    if (!readingThread.isStarted() && !closed)
+    const std::unique_lock lock(lifecycle, std::try_to_lock); // a listener must not wait for who closes
+    if (lock && !readingThread.isStarted() && !closed)
         readingThread.start([this] { readUntil(closed, [this] { return readBlock(); }); });
 }
 
 bool UsbTty::readBlock() {
+    // As long as a read of the line waits, but closing ends it.
+    pollfd waited[] = {{port, POLLIN, 0}, {closing, POLLIN, 0}};
+    if (poll(waited, 2, 1000) <= 0 || waited[1].revents != 0)
+        return false;
     buffer_t bytes(buffer_size, '\0');
     const ssize_t count = ::read(port, bytes.data(), bytes.size());
     // On purpose: errno counts whatever the read gave, and nothing clears it, so that on a thread that was
@@ -97,17 +110,26 @@ bool UsbTty::readBlock() {
     return count > 0;
 }
 
-void UsbTty::sendBytes(buffer_t bytes, std::chrono::milliseconds) {
+void UsbTty::sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) {
     const std::lock_guard lock(portMutex);
-    if (::write(port, bytes.data(), bytes.size()) < 0)
-        return;
+    if (port >= 0)
+        writeWithin(timeout, port, closing, bytes.data(), bytes.size());
 }
 
 void UsbTty::serialClose() {
     const std::lock_guard lock(lifecycle);
     closed = true;
+    eventfd_write(closing, 1);
     readingThread.finish();
     const std::lock_guard portLock(portMutex);
-    if (port >= 0)
+    if (port >= 0) {
+        // Every request has waited for its reply. What a hung device has not taken would keep the system's
+        // close waiting for half a minute.
+        int unsent = 0;
+        if (ioctl(port, TIOCOUTQ, &unsent) == 0 && unsent > 0)
+            tcflush(port, TCOFLUSH);
         ::close(port.exchange(-1));
+    }
+    eventfd_t closings;
+    eventfd_read(closing, &closings);
 }

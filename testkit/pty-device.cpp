@@ -129,6 +129,7 @@ void PtyDevice::unplug() {
 void PtyDevice::setManner(Manner newManner) {
     const std::lock_guard lock(mutex);
     manner = newManner;
+    wake();
 }
 
 void PtyDevice::setAnswerDelay(milliseconds delay) {
@@ -231,7 +232,9 @@ void PtyDevice::run() {
         bool isOpen = false;
         {
             const std::lock_guard lock(mutex);
-            readBytes();
+            if (manner != Manner::DEAF)
+                readBytes();
+            ends[1].events = manner == Manner::DEAF ? 0 : POLLIN;
             poll(&ends[1], 1, 0);
             isOpen = !(ends[1].revents & POLLHUP);
             setOpen(isOpen);

@@ -36,6 +36,7 @@ class PtyDevice {
 public:
     enum class Manner {
         OBLIGING,
+        DEAF,     // reads nothing from the line, as a device that has hung
         SILENT,   // hears everything, says nothing
         REFUSING, // FAIL to every change of a setting and to the mask
         NOISY,    // bytes that belong to no object in front of each message

@@ -6,6 +6,7 @@
 
 #include <fstream>
 #include <gmock/gmock.h>
+#include <list>
 
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
@@ -16,7 +17,8 @@ class LinuxConnectorThreads : public testing::Test {
 protected:
     SerialDirectory directory;
     std::vector<std::string> reports;
-    LinuxConnector connector{directory.path(), [this](const char *text) { reports.push_back(text); }};
+    const LinuxConnector::Report report = [this](const char *text) { reports.push_back(text); };
+    LinuxConnector connector{directory.path(), report, report};
 
     /// More than one attempt, since a busy machine may miss the 100 ms of a probe.
     bool connects() {
@@ -36,12 +38,13 @@ TEST_F(LinuxConnectorThreads, FindsNothingWhereNothingIs) {
         return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
     };
     const auto before = descriptors();
-    const auto report = [this](const char *text) { reports.push_back(text); };
     EXPECT_FALSE(LinuxConnector(directory.path() / "missing", report).connectInterface());
     fs::create_symlink("/dev/null", directory.path() / "null");
     std::ofstream(directory.path() / "file") << "no link";
     EXPECT_FALSE(connector.connectInterface());
-    EXPECT_THAT(reports, IsEmpty());
+    EXPECT_THAT(reports, ElementsAre("/dev/null: no serial line"));
+    reports.clear();
+    fs::remove(directory.path() / "null");
     // A link that leads nowhere ends the search: of several there is one report.
     for (const char *name : {"gone-1", "gone-2", "gone-3"})
         fs::create_symlink("../nowhere/tty", directory.path() / name);
@@ -73,11 +76,25 @@ TEST_F(LinuxConnectorThreads, TakesOnlyADeviceThatAnswersInTimeAndOfItsState) {
     };
     device.setAnswerDelay(1s);
     EXPECT_TRUE(isPassedOver()) << "too late";
+    EXPECT_THAT(reports, ElementsAre(testing::StartsWith(device.terminal() + ": no answer within 100 ms")));
     device.setAnswerDelay(50ms);
     device.startStreaming();
     EXPECT_TRUE(isPassedOver()) << "talks of something else";
+    EXPECT_THAT(reports.back(), testing::HasSubstr("answered with SCAN_RESULT instead of STATE"));
     device.setScanPeriod(0ms);
     EXPECT_TRUE(connects()) << "in half of the time that a device has";
+}
+
+/// Each port costs its probe, not the second that a read may wait.
+TEST_F(LinuxConnectorThreads, LeavesSilentPortsAtOnce) {
+    std::list<PtyDevice> devices;
+    for (int i = 0; i < 8; ++i)
+        devices.emplace_back(directory, ProtoEnum::K7, "usb-" + std::to_string(i))
+            .setManner(PtyDevice::Manner::SILENT);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_FALSE(connector.connectInterface());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 6s);
+    EXPECT_EQ(reports.size(), 8U);
 }
 
 TEST_F(LinuxConnectorThreads, PutsOneRequestAtATimeOnTheLine) {

@@ -3,6 +3,7 @@
 #include "pty-device.h"
 
 #include <ctime>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -69,7 +70,48 @@ TEST_F(UsbTtyThreads, AnUnpluggedDeviceCostsNoProcessorTime) {
     EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 10);
 }
 
+TEST_F(UsbTtyThreads, AHungDeviceHoldsNobodyUp) {
+    device.setManner(PtyDevice::Manner::DEAF);
+    ASSERT_TRUE(tty.openPort());
+    const buffer_t request(1000, ' ');
+    for (int i = 0; i < 40; ++i)
+        tty.sendBytes(request, 10ms);
+    const auto start = std::chrono::steady_clock::now();
+    std::thread other([&] { tty.sendBytes(request, 60s); });
+    std::this_thread::sleep_for(50ms);
+    tty.serialClose();
+    other.join();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 30s) << "closing ends the wait";
+    EXPECT_TRUE(device.waitForOpen(false));
+    device.setManner(PtyDevice::Manner::OBLIGING);
+    ASSERT_TRUE(tty.openPort());
+    device.clearRecord();
+    tty.sendBytes("{\"type\":\"GET_STATE\"}", 10s);
+    EXPECT_TRUE(device.waitForRequests(1));
+}
+
+/// A program that it starts, such as a viewer, would keep the port open.
+TEST_F(UsbTtyThreads, ChildrenDoNotInheritTheLine) {
+    for (const char *end : {"first", "in its place"}) {
+        ASSERT_TRUE(tty.openPort());
+        std::size_t inherited = 0, found = 0;
+        for (const auto &entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+            std::error_code gone;
+            if (std::filesystem::read_symlink(entry, gone) != device.terminal())
+                continue;
+            ++found;
+            inherited += !(fcntl(std::stoi(entry.path().filename()), F_GETFD) & FD_CLOEXEC);
+        }
+        EXPECT_EQ(found, 1U) << end;
+        EXPECT_EQ(inherited, 0U) << end;
+    }
+}
+
 TEST_F(UsbTtyThreads, OpensAndClosesWhileOthersSend) {
+    tty.addListener(std::make_shared<MsgListener>([this](const std::shared_ptr<Msg> &) {
+        tty.setPortName(tty.getPortName());
+        tty.startReading();
+    }));
     device.setScanPeriod(1ms);
     device.startStreaming();
     const auto openAndClose = [this] {
