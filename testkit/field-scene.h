@@ -1,11 +1,10 @@
 #pragma once
 
-#include "freq-scan-result.h"
 #include "proto.h"
+#include "scenes.h"
 
-#include <memory>
 #include <vector>
 
 /// Scans as a detector with factory bands sends them in the field, oldest first, and the same on each call:
 /// noise, a wireless network, the control link of a drone, and an FPV drone that comes closer at 5800 MHz.
-std::vector<std::vector<std::shared_ptr<FreqScanResult>>> fieldScene(ProtoEnum generation);
+std::vector<ScanResults> fieldScene(ProtoEnum generation);

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <fcntl.h>
 #include <poll.h>
 #include <stdexcept>
 #include <sys/eventfd.h>
@@ -20,12 +19,6 @@ namespace {
 
 const std::string NOISE = std::string("\xff}]\0\x80 [1, \"two\"] ", 17);
 constexpr int CLOSED_POLL = 5; // ms between looks whether somebody opened the port
-
-int checked(int result, const char *operation) {
-    if (result < 0)
-        throw std::runtime_error(operation);
-    return result;
-}
 
 std::map<std::string, Json::object> factorySettings(ProtoEnum proto) {
     Json::array ranges{"EXT_2400", "EXT_4900", "EXT_5800"};
@@ -85,8 +78,11 @@ SerialDirectory::~SerialDirectory() {
 }
 
 PtyDevice::PtyDevice(const SerialDirectory &directory, ProtoEnum generation, const std::string &linkName)
+    : PtyDevice(directory.path() / linkName, generation) {}
+
+PtyDevice::PtyDevice(fs::path linkPath, ProtoEnum generation)
     : proto(generation)
-    , link(directory.path() / linkName)
+    , link(linkPath.empty() ? linkPath : fs::absolute(linkPath))
     , wakeEvent(checked(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC), "eventfd"))
     , settings(factorySettings(generation)) {
     plugIn();
@@ -100,27 +96,21 @@ PtyDevice::~PtyDevice() {
 void PtyDevice::plugIn() {
     if (plugged)
         return;
-    master = checked(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC), "posix_openpt");
-    checked(grantpt(master), "grantpt");
-    checked(unlockpt(master), "unlockpt");
-    slaveName = ptsname(master);
-    // Whoever opens the port sets the line up; before that it must not send back what the device says.
-    termios line = lineSettings();
-    line.c_lflag &= ~static_cast<tcflag_t>(ECHO);
-    setLineSettings(line);
-    close(checked(::open(slaveName.c_str(), O_RDWR | O_NOCTTY), "open")); // from now on "closed" can be seen
+    pty.emplace();
+    if (!link.empty())
+        pty->linkAt(link);
     plugged = true;
     thread = std::thread([this] { run(); });
-    fs::create_symlink(fs::relative(slaveName, link.parent_path()), link);
 }
 
 void PtyDevice::unplug() {
     if (!plugged.exchange(false))
         return;
-    fs::remove(link);
+    if (!link.empty())
+        fs::remove(link);
     wake();
     thread.join();
-    close(master);
+    pty.reset();
     const std::lock_guard lock(mutex);
     scanning = false;
     setOpen(false);
@@ -152,6 +142,16 @@ void PtyDevice::startStreaming() {
 void PtyDevice::setBattery(int percent) {
     const std::lock_guard lock(mutex);
     settings["STATE"]["battLvl"] = percent;
+}
+
+void PtyDevice::setScene(Scene newScene) {
+    const std::lock_guard lock(mutex);
+    scene = std::move(newScene);
+}
+
+void PtyDevice::setSettings(const std::string &type, const Json::object &values) {
+    const std::lock_guard lock(mutex);
+    settings[type] = values;
 }
 
 void PtyDevice::sendText(const std::string &text) {
@@ -211,23 +211,13 @@ bool PtyDevice::waitForOpen(bool wanted) const {
     return changed.wait_for(lock, DEADLINE, [&] { return open == wanted; });
 }
 
-termios PtyDevice::lineSettings() const {
-    termios line{};
-    checked(tcgetattr(master, &line), "tcgetattr");
-    return line;
-}
-
-void PtyDevice::setLineSettings(const termios &line) {
-    checked(tcsetattr(master, TCSANOW, &line), "tcsetattr");
-}
-
 void PtyDevice::wake() {
     eventfd_write(wakeEvent, 1);
 }
 
 void PtyDevice::run() {
     while (plugged) {
-        pollfd ends[] = {{wakeEvent, POLLIN, 0}, {master, POLLIN, 0}};
+        pollfd ends[] = {{wakeEvent, POLLIN, 0}, {pty->descriptor(), POLLIN, 0}};
         int timeout = CLOSED_POLL;
         bool isOpen = false;
         {
@@ -235,8 +225,7 @@ void PtyDevice::run() {
             if (manner != Manner::DEAF)
                 readBytes();
             ends[1].events = manner == Manner::DEAF ? 0 : POLLIN;
-            poll(&ends[1], 1, 0);
-            isOpen = !(ends[1].revents & POLLHUP);
+            isOpen = pty->isOpen();
             setOpen(isOpen);
             if (isOpen) {
                 write();
@@ -261,16 +250,13 @@ void PtyDevice::setOpen(bool isOpen) {
     open = isOpen;
     scanDue = Clock::now();
     changed.notify_all();
-    if (!isOpen && plugged) {
-        const int slave = checked(::open(slaveName.c_str(), O_RDWR | O_NOCTTY), "open");
-        tcflush(slave, TCIFLUSH);
-        close(slave);
-    }
+    if (!isOpen && plugged)
+        pty->dropUnread();
 }
 
 void PtyDevice::readBytes() {
     char bytes[4096];
-    for (ssize_t count; (count = ::read(master, bytes, sizeof bytes)) > 0;)
+    for (ssize_t count; (count = ::read(pty->descriptor(), bytes, sizeof bytes)) > 0;)
         record.append(bytes, static_cast<std::size_t>(count));
     takeRequests();
 }
@@ -335,7 +321,7 @@ void PtyDevice::write() {
     for (auto next = outgoing.begin(); next != outgoing.end() && next->first <= Clock::now();
          next = outgoing.erase(next))
         leaving += next->second;
-    const ssize_t count = ::write(master, leaving.data(), leaving.size());
+    const ssize_t count = ::write(pty->descriptor(), leaving.data(), leaving.size());
     leaving.erase(0, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
 }
 
@@ -355,27 +341,11 @@ int PtyDevice::msUntilDue() const {
     return static_cast<int>(std::max<long>(std::chrono::ceil<milliseconds>(due - Clock::now()).count(), 0));
 }
 
-/// A peak wanders through each active range.
 std::shared_ptr<Msg> PtyDevice::nextScan() {
-    static const SigTypeEnum KINDS[] = {SigTypeEnum::WIFI, SigTypeEnum::DIG, SigTypeEnum::FPV};
-    std::vector<std::shared_ptr<FreqScanResult>> results;
-    std::size_t kind = 0;
-    for (const Json &range : settings["CONFIG"]["ranges"].array_items()) {
-        const auto mode = FreqMode::getEnumValue(range.string_value());
-        const auto plan = mode ? FreqMode(*mode).getFreqList()->getFreqs() : std::vector<float>();
-        const int peak = plan.empty() ? 0 : static_cast<int>(scans % plan.size());
-        for (int i = 0; i < static_cast<int>(plan.size()); ++i) {
-            const float rssi = static_cast<float>(std::max(-105, -78 - 6 * std::abs(i - peak)));
-            const auto type = rssi > -90 ? KINDS[kind % std::size(KINDS)] : SigTypeEnum::NONE;
-            results.push_back(std::make_shared<FreqScanResult>(FreqScanResultBuilder()
-                                                                   .freqMHz(plan[static_cast<std::size_t>(i)])
-                                                                   .rssi(rssi)
-                                                                   .type(type)
-                                                                   .build()));
-        }
-        ++kind;
-    }
-    ++scans;
+    std::vector<FreqModeEnum> ranges;
+    for (const Json &range : settings["CONFIG"]["ranges"].array_items())
+        if (const auto mode = FreqMode::getEnumValue(range.string_value()))
+            ranges.push_back(*mode);
     return std::make_shared<ScanResultMsg>(
-        ScanResultMsgBuilder().freqs(results).mask(mask).maskedModes({}).build());
+        ScanResultMsgBuilder().freqs(scene(scans++, ranges)).mask(mask).maskedModes({}).build());
 }

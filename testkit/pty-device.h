@@ -2,6 +2,8 @@
 
 #include "freq-scan-result.h"
 #include "msg/msg.h"
+#include "pty.h"
+#include "scenes.h"
 
 #include <atomic>
 #include <chrono>
@@ -10,8 +12,8 @@
 #include <json11.hpp>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <string>
-#include <termios.h>
 #include <thread>
 #include <vector>
 
@@ -46,6 +48,9 @@ public:
 
     explicit PtyDevice(const SerialDirectory &directory, ProtoEnum proto = ProtoEnum::K7,
                        const std::string &linkName = "usb-detector");
+    /// With its link at this path, or none where it is empty. Throws std::runtime_error where something is
+    /// there already or the link can't be made.
+    explicit PtyDevice(std::filesystem::path link, ProtoEnum proto = ProtoEnum::K7);
     ~PtyDevice();
     PtyDevice(const PtyDevice &) = delete;
     PtyDevice &operator=(const PtyDevice &) = delete;
@@ -63,6 +68,10 @@ public:
     /// Streams scans without having been told to.
     void startStreaming();
     void setBattery(int percent);
+    /// What it hears from the next scan on. Called on the device's thread.
+    void setScene(Scene scene);
+    /// What it answers when asked for this type, by key.
+    void setSettings(const std::string &type, const json11::Json::object &values);
 
     void sendText(const std::string &text);
     /// As the device writes its messages, with a line end.
@@ -82,9 +91,10 @@ public:
     bool waitForRequests(std::size_t count) const;
     bool waitForOpen(bool open) const;
 
-    std::string terminal() const { return slaveName; }
-    termios lineSettings() const;
-    void setLineSettings(const termios &settings);
+    /// These are for a device that is plugged in.
+    std::string terminal() const { return pty->terminal(); }
+    termios lineSettings() const { return pty->lineSettings(); }
+    void setLineSettings(const termios &line) { pty->setLineSettings(line); }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -103,9 +113,8 @@ private:
 
     const ProtoEnum proto;
     const std::filesystem::path link;
-    std::string slaveName;
     const int wakeEvent;
-    int master = -1;
+    std::optional<Pty> pty;
     std::atomic<bool> plugged{false};
     std::thread thread;
 
@@ -120,6 +129,7 @@ private:
     bool scanning = false;
     bool mask = false;
     std::size_t scans = 0;
+    Scene scene = wanderingPeaks;
     std::multimap<Clock::time_point, std::string> outgoing; // by the time they are due
     std::string leaving;                                    // due, and not taken by the terminal yet
     std::string record;

@@ -1,0 +1,62 @@
+#include "pty.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <stdexcept>
+#include <unistd.h>
+
+int checked(int result, const std::string &operation) {
+    if (result < 0)
+        throw std::runtime_error(operation + ": " + std::strerror(errno));
+    return result;
+}
+
+Pty::Pty()
+    : master(checked(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC), "posix_openpt")) {
+    checked(grantpt(master), "grantpt");
+    checked(unlockpt(master), "unlockpt");
+    slaveName = ptsname(master);
+    // Whoever opens the port sets the line up; before that it must not send back what the device says.
+    termios line = lineSettings();
+    line.c_lflag &= ~static_cast<tcflag_t>(ECHO);
+    setLineSettings(line);
+    close(checked(::open(slaveName.c_str(), O_RDWR | O_NOCTTY), "open")); // from now on "closed" can be seen
+}
+
+Pty::~Pty() {
+    close(master);
+}
+
+void Pty::linkAt(const std::filesystem::path &link) const {
+    std::error_code error;
+    std::filesystem::create_symlink(std::filesystem::relative(slaveName, link.parent_path(), error), link,
+                                    error);
+    if (error)
+        throw std::runtime_error(link.string() + ": " + error.message() +
+                                 (error == std::errc::permission_denied ? "; that needs root" : ""));
+}
+
+bool Pty::isOpen() const {
+    pollfd end{master, 0, 0};
+    poll(&end, 1, 0);
+    return !(end.revents & POLLHUP);
+}
+
+void Pty::dropUnread() const {
+    const int slave = checked(::open(slaveName.c_str(), O_RDWR | O_NOCTTY), "open");
+    tcflush(slave, TCIFLUSH);
+    close(slave);
+}
+
+termios Pty::lineSettings() const {
+    termios line{};
+    checked(tcgetattr(master, &line), "tcgetattr");
+    return line;
+}
+
+void Pty::setLineSettings(const termios &line) const {
+    checked(tcsetattr(master, TCSANOW, &line), "tcsetattr");
+}

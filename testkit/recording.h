@@ -1,0 +1,30 @@
+#pragma once
+
+#include <chrono>
+#include <fstream>
+#include <string>
+#include <vector>
+
+/// What passed over a line: a file with a JSON object a line, {"from": "device" or "program", "ms": since the
+/// start, "text": the bytes of one read}.
+struct Recorded {
+    std::chrono::milliseconds at{0};
+    bool fromDevice = false;
+    std::string text;
+};
+
+/// Throws std::runtime_error with the file, the line and what is wrong with it.
+std::vector<Recorded> readRecording(const std::string &path);
+
+/// Writes a recording as it happens; each line is in the file when `write` returns. Throws std::runtime_error
+/// where the file can't be made or the disk is full.
+class RecordingWriter {
+public:
+    explicit RecordingWriter(const std::string &path);
+    void write(bool fromDevice, const std::string &text);
+
+private:
+    const std::string path;
+    const std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
+    std::ofstream file;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "freq-mode.h"
+#include "freq-scan-result.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+using ScanResults = std::vector<std::shared_ptr<FreqScanResult>>;
+
+/// What a detector hears in its n-th scan, counted from 0, over its active ranges.
+using Scene = std::function<ScanResults(std::size_t scan, const std::vector<FreqModeEnum> &ranges)>;
+
+/// A transmitter as a detector hears it over one scene.
+struct Source {
+    float freqMHz;
+    float halfWidthMHz;
+    SigTypeEnum type;
+    float first; ///< dB in the oldest scan
+    float last;  ///< dB in the newest scan
+};
+
+/// What is heard of these sources over noise; `share` is how far the scene has come, from 0 to 1. The noise
+/// is drawn from `ripple`, which gives a number of dB from 0 to the one that it is given.
+ScanResults hear(const std::vector<Source> &sources, const std::vector<FreqModeEnum> &ranges, float share,
+                 const std::function<float(int)> &ripple);
+
+/// A peak wanders through each active range, a Wi-Fi one, a digital one, an FPV one.
+ScanResults wanderingPeaks(std::size_t scan, const std::vector<FreqModeEnum> &ranges);
+
+/// The scenes that a user may choose: "peaks", "drone" (an FPV drone comes nearer and goes), "street" (busy
+/// Wi-Fi) and "silence". Nothing for another name.
+std::optional<Scene> sceneOf(const std::string &name);

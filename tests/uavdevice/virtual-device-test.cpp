@@ -1,0 +1,135 @@
+#include "device-options.h"
+#include "inbox.h"
+#include "line-tap.h"
+#include "msg-to-json-parser.h"
+#include "msg/all-messages.h"
+#include "usb-tty.h"
+
+#include <fstream>
+#include <gmock/gmock.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
+using namespace testing;
+
+/// What is said of an operation that has to fail.
+template <typename Operation>
+static std::string errorOf(Operation operation) {
+    try {
+        operation();
+    } catch (const std::runtime_error &error) {
+        return error.what();
+    }
+    return "";
+}
+
+static DeviceOptions parse(std::vector<std::string> words) {
+    words.insert(words.begin(), "virtual-device");
+    std::vector<char *> arguments;
+    for (std::string &word : words)
+        arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    return parseDeviceOptions(static_cast<int>(words.size()), arguments.data());
+}
+
+TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
+    const std::pair<std::vector<std::string>, const char *> cases[] = {
+        {{"--rain"}, "--rain is no option; --help tells of all"},
+        {{"rain"}, "rain is no option; --help tells of all"},
+        {{"--pace"}, "--pace needs a value"},
+        {{"--pace", "fast"}, "--pace: \"fast\" is no number from 1 to 3600000"},
+        {{"--battery", "101"}, "--battery: \"101\" is no number from 0 to 100"},
+        {{"--speed", "2x"}, "--speed: \"2x\" is no number from 0.001 to 1000"},
+        {{"--generation", "K99"}, "--generation: there is no generation \"K99\""},
+        {{"--scene", "sea"}, "--scene: drone, street, silence or peaks"},
+        {{"--faults", "cut,rain"}, "--faults: there is no fault \"rain\""},
+        {{"--faults", "unplug"}, "--faults: several of them, or unplug, need a --period"},
+        {{"--tap", "/dev/null"}, "--tap and --record go together"},
+    };
+    for (const auto &[words, error] : cases)
+        EXPECT_EQ(errorOf([&, &given = words] { parse(given); }), error);
+    const DeviceOptions options =
+        parse({"--generation", "K6", "--faults", "cut,late", "--period", "0.5", "--seed", "7"});
+    EXPECT_EQ(options.generation, ProtoEnum::K6);
+    EXPECT_THAT(options.faults, ElementsAre("cut", "late"));
+    EXPECT_EQ(options.faultPeriod, 500ms);
+    EXPECT_EQ(options.seed, 7U);
+}
+
+class RecordingThreads : public Test {
+protected:
+    SerialDirectory directory;
+    const std::string file = directory.path() / "recording";
+};
+
+TEST_F(RecordingThreads, SaysWhatIsWrongWithIt) {
+    const std::pair<const char *, const char *> cases[] = {
+        {"", ": the recording is empty"},
+        {"[]", ", line 1: not a JSON object"},
+        {R"({"ms":0,"from":"me","text":""})", R"(, line 1: "from" is neither "device" nor "program")"},
+        {R"({"ms":0,"from":"device"})", R"(, line 1: no "text")"},
+        {R"({"ms":-1,"from":"device","text":""})", R"(, line 1: "ms" is no time)"},
+        {"{\"ms\":2,\"from\":\"device\",\"text\":\"\"}\n{\"ms\":1,\"from\":\"device\",\"text\":\"\"}",
+         ", line 2: \"ms\" goes back in time"}};
+    EXPECT_EQ(errorOf([&] { readRecording(file); }), file + ": no such recording, or it can't be read");
+    for (const auto &[text, error] : cases) {
+        std::ofstream(file) << text;
+        EXPECT_EQ(errorOf([&] { readRecording(file); }), file + error);
+    }
+}
+
+/// What a tap has recorded of a device plays again as that device.
+TEST_F(RecordingThreads, ATapPassesEveryByteOnAndItsRecordingPlaysAgain) {
+    std::vector<std::string> seen[2];
+    const auto watch = [&](const std::string &terminal, std::vector<std::string> &texts) {
+        UsbTty tty(terminal);
+        Inbox inbox;
+        tty.addListener(inbox.listener);
+        ASSERT_TRUE(tty.openPort());
+        tty.send(std::make_shared<GetStateMsg>());
+        texts.push_back(MsgToJsonParser::toJson(inbox.next<StateMsg>()));
+        tty.send(std::make_shared<ScanMsg>(ScanMsgBuilder().scan(true).build()));
+        for (int scan = 0; scan < 3; ++scan)
+            texts.push_back(MsgToJsonParser::toJson(inbox.next<ScanResultMsg>()));
+    };
+    {
+        PtyDevice device(directory);
+        device.setBattery(12);
+        device.setScanPeriod(20ms);
+        const int stop = eventfd(0, EFD_CLOEXEC);
+        LineTap tap(device.terminal(), directory.path() / "tap", file);
+        std::thread passing([&] { tap.run(stop); });
+        watch(directory.path() / "tap", seen[0]);
+        EXPECT_EQ(device.requests()[0], "{\n\"type\" : \"GET_STATE\"\n}");
+        eventfd_write(stop, 1);
+        passing.join();
+        close(stop);
+    }
+    PtyDevice device(directory);
+    const Replay replay(device, readRecording(file), 2);
+    watch(device.terminal(), seen[1]);
+    EXPECT_EQ(seen[0], seen[1]);
+    EXPECT_THAT(seen[0][0], HasSubstr("\"battLvl\" : 12"));
+}
+
+TEST(DeviceFaultsThreads, ComeAndGoBySeed) {
+    const SerialDirectory directory;
+    std::vector<std::string> courses[2];
+    for (auto &course : courses) {
+        PtyDevice device(directory);
+        std::mutex mutex;
+        std::condition_variable changed;
+        const DeviceFaults faults(device, {"cut", "unplug", "late"}, 10ms, 42, [&](const std::string &fault) {
+            const std::lock_guard lock(mutex);
+            EXPECT_EQ(std::filesystem::exists(directory.path() / "usb-detector"), fault != "unplug");
+            if (course.size() < 20)
+                course.push_back(fault);
+            changed.notify_all();
+        });
+        std::unique_lock lock(mutex);
+        EXPECT_TRUE(changed.wait_for(lock, PtyDevice::DEADLINE, [&] { return course.size() == 20; }));
+    }
+    EXPECT_EQ(courses[0], courses[1]);
+    EXPECT_THAT(courses[0], IsSupersetOf({"cut", "unplug", "late", ""}));
+}

@@ -1,0 +1,54 @@
+// Plays a detector on a pseudo-terminal, or stands between a real one and the program.
+
+#include "device-options.h"
+#include "line-tap.h"
+
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <poll.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+namespace {
+
+/// Can be read once the process was told to end; nothing else happens then.
+int endingEvent() {
+    sigset_t ending;
+    sigemptyset(&ending);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        sigaddset(&ending, number);
+    sigprocmask(SIG_BLOCK, &ending, nullptr); // before the first thread, which then have it too
+    return checked(signalfd(-1, &ending, SFD_CLOEXEC), "signalfd");
+}
+
+void play(const DeviceOptions &options, int ending) {
+    if (options.tapped.empty()) {
+        const VirtualDevice device(options);
+        pollfd end{ending, POLLIN, 0};
+        poll(&end, 1, -1);
+        return;
+    }
+    LineTap tap(options.tapped, options.link, options.record);
+    std::printf("Between %s and %s\n", options.tapped.c_str(),
+                options.link.empty() ? tap.terminal().c_str() : options.link.c_str());
+    tap.run(ending);
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    try {
+        const DeviceOptions options = parseDeviceOptions(argc, argv);
+        if (options.help)
+            std::printf("tools/virtual-device plays a detector of drone signals until Ctrl-C.\n%s",
+                        DEVICE_OPTIONS_HELP);
+        else
+            play(options, endingEvent());
+        return 0;
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "virtual-device: %s\n", error.what());
+        return 1;
+    }
+}
