@@ -1,3 +1,5 @@
+#include "msg/scan-result-msg.h"
+#include "replay.h"
 #include "screen-fixture.h"
 
 #include <QFile>
@@ -106,4 +108,31 @@ TEST_F(MainWindowTest, AcceptsEachMessageTwiceAndEndsTheConnectionWithItself) {
     EXPECT_TRUE(device->isScanning());
     engine.reset();
     EXPECT_TRUE(device->waitForOpen(false) && !device->isScanning());
+}
+
+/// What a device that has hung does not take is soon more than the line holds.
+TEST_F(MainWindowTest, GoesOnWithADeviceThatHasHung) {
+    connectTo(ProtoEnum::K7);
+    device->setManner(PtyDevice::Manner::DEAF);
+    for (int press = 0; press < 16; ++press)
+        click("Vibro");
+    click("usb");
+    EXPECT_TRUE(ScreenDriver::waitFor([this] { return !isConnected(); }));
+    device->unplug();
+}
+
+/// The recording is of a detector whose only active band is the lower one at 5.8 GHz.
+TEST_F(MainWindowTest, ShowsARecordingFromTheField) {
+    plugIn(ProtoEnum::K7);
+    const Replay replay(*device, readRecording(RECORDINGS_DIR "/drone-at-5800.jsonl"), 10);
+    QSignalSpy strongest(&objects.usbService, &UsbService::gotMaxFreqs);
+    connect();
+    const int &scans = taken(MsgTypeEnum::SCAN_RESULT);
+    ASSERT_TRUE(ScreenDriver::waitFor([&] { return scans == 42; })) << scans;
+    EXPECT_NE(driver->control("64%"), nullptr);
+    const auto named = strongest.last()[0].value<MsgHolder>().getAs<ScanResultMsg>()->getFreqs();
+    ASSERT_FALSE(named.empty());
+    EXPECT_EQ(named[0]->getType(), SigTypeEnum::FPV);
+    EXPECT_NEAR(named[0]->getFreqMHz(), 5800, 15);
+    disconnect();
 }
