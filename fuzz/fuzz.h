@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+/// libFuzzer calls this with bytes of its invention; whatever ends the process is a finding.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+/// Ends the process where something that must hold for any bytes does not.
+inline void require(bool holds, const char *what, const std::string &text) {
+    if (holds)
+        return;
+    std::fprintf(stderr, "%s: %s\n", what, text.c_str());
+    std::abort();
+}

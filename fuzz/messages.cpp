@@ -1,0 +1,22 @@
+// What was read and written reads and writes the same again.
+
+#include "fuzz.h"
+#include "log.h"
+#include "msg-to-json-parser.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    Log::setSink([](const std::string &) {});
+    const std::string text(reinterpret_cast<const char *>(data), size);
+    const auto message = Msg::parseJson(text);
+    if (!message)
+        return 0;
+    const std::string written = MsgToJsonParser::toJson(message);
+    // A text goes out as it is: one that came with escapes need not be readable any more.
+    // Neither is a number beyond a float, which is none in JSON.
+    if (text.find('\\') != std::string::npos || written.find("inf") != std::string::npos)
+        return 0;
+    const auto again = Msg::parseJson(written);
+    require(again != nullptr, "written and not readable", written);
+    require(MsgToJsonParser::toJson(again) == written, "read and written otherwise", written);
+    return 0;
+}
