@@ -14,6 +14,9 @@ struct ServiceObjects {
     /// On the serial devices that have a link in this directory.
     explicit ServiceObjects(const std::filesystem::path &serialDirectory)
         : usbService(nullptr, serialDirectory) {}
+    /// On what this connector finds.
+    explicit ServiceObjects(std::unique_ptr<SerialInterfaceConnector> connector)
+        : usbService(std::move(connector)) {}
 
     Guarded<UsbService> usbService;
     Guarded<ThemeData> themeData;

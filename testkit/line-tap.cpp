@@ -9,8 +9,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int CLOSED_POLL = 5; // ms between looks whether a program opened the line
-
 /// Bytes pass unchanged: the program's line has made them what they are.
 int openRaw(const std::string &path) {
     const int line = checked(::open(path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC), path);
@@ -48,7 +46,7 @@ void LineTap::run(int stop) {
         const bool isOpen = pty.isOpen();
         pollfd ends[] = {{stop, POLLIN, 0}, {device, POLLIN, 0}, {pty.descriptor(), POLLIN, 0}};
         // A closed line answers every poll at once.
-        poll(ends, isOpen ? 3 : 2, isOpen ? -1 : CLOSED_POLL);
+        poll(ends, isOpen ? 3 : 2, isOpen ? -1 : Pty::CLOSED_POLL);
         if (ends[0].revents != 0)
             return;
         if (ends[1].revents & POLLIN)

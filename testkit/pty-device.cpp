@@ -18,7 +18,6 @@ using std::chrono::milliseconds;
 namespace {
 
 const std::string NOISE = std::string("\xff}]\0\x80 [1, \"two\"] ", 17);
-constexpr int CLOSED_POLL = 5; // ms between looks whether somebody opened the port
 
 std::map<std::string, Json::object> factorySettings(ProtoEnum proto) {
     Json::array ranges{"EXT_2400", "EXT_4900", "EXT_5800"};
@@ -201,6 +200,11 @@ bool PtyDevice::isScanning() const {
     return scanning;
 }
 
+std::size_t PtyDevice::scansSent() const {
+    const std::lock_guard lock(mutex);
+    return scans;
+}
+
 bool PtyDevice::waitForRequests(std::size_t count) const {
     std::unique_lock lock(mutex);
     return changed.wait_for(lock, DEADLINE, [&] { return types.size() >= count; });
@@ -218,7 +222,7 @@ void PtyDevice::wake() {
 void PtyDevice::run() {
     while (plugged) {
         pollfd ends[] = {{wakeEvent, POLLIN, 0}, {pty->descriptor(), POLLIN, 0}};
-        int timeout = CLOSED_POLL;
+        int timeout = Pty::CLOSED_POLL;
         bool isOpen = false;
         {
             const std::lock_guard lock(mutex);

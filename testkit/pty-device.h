@@ -86,6 +86,8 @@ public:
     /// The settings of a message type as the device has them now, by key.
     json11::Json::object settingsOf(const std::string &type) const;
     bool isScanning() const;
+    /// Since it was made, whether somebody read them or not.
+    std::size_t scansSent() const;
 
     /// These are false when the deadline has passed.
     bool waitForRequests(std::size_t count) const;

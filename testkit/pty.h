@@ -8,6 +8,9 @@
 /// end by its path. Throws std::runtime_error where the system has none left.
 class Pty {
 public:
+    /// ms between looks whether somebody opened the other end, which no event tells.
+    static constexpr int CLOSED_POLL = 5;
+
     Pty();
     ~Pty();
     Pty(const Pty &) = delete;

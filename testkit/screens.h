@@ -1,5 +1,6 @@
 #pragma once
 
+#include "linux-connector.h"
 #include "pty-device.h"
 #include "screen-driver.h"
 #include "screen-engine.h"
@@ -40,9 +41,14 @@ public:
     /// Takes an entry of the open dialog by its word, or leaves the dialog by a click on something else.
     void choose(const QString &word);
 
+private:
     SerialDirectory directory;
+    std::unique_ptr<LinuxConnector> ownedConnector = std::make_unique<LinuxConnector>(directory.path());
+
+public:
     std::optional<PtyDevice> device;
-    ServiceObjects objects{directory.path()};
+    LinuxConnector &connector = *ownedConnector; ///< of the screens, until they end
+    ServiceObjects objects{std::move(ownedConnector)};
     std::unique_ptr<ScreenEngine> engine = std::make_unique<ScreenEngine>(objects);
     QPointer<QQuickWindow> window;
     std::optional<ScreenDriver> driver;
