@@ -23,6 +23,7 @@ std::vector<ScanResults> fieldScene(ProtoEnum generation) {
     std::minstd_rand engine; // seeded alike each time
     const auto ripple = [&engine](int most) { return static_cast<float>(engine() % (most + 1U)); };
     std::vector<ScanResults> scans;
+    scans.reserve(SCANS);
     for (int scan = 0; scan < SCANS; ++scan)
         scans.push_back(hear(SOURCES, Defaults::getDefaultConfigMsg(generation)->getRanges(),
                              static_cast<float>(scan) / (SCANS - 1), ripple));

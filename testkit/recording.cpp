@@ -12,9 +12,13 @@ std::vector<Recorded> readRecording(const std::string &path) {
     std::vector<Recorded> recording;
     std::string line;
     for (int number = 1; std::getline(file, line); ++number) {
-        const auto require = [&](bool holds, const std::string &what) {
+        const auto require = [&](bool holds, const char *what) {
             if (!holds)
-                throw std::runtime_error(path + ", line " + std::to_string(number) + ": " + what);
+                throw std::runtime_error(std::string(path)
+                                             .append(", line ")
+                                             .append(std::to_string(number))
+                                             .append(": ")
+                                             .append(what));
         };
         std::string error;
         const Json entry = Json::parse(line, error);

@@ -1,4 +1,5 @@
 #include "msg/scan-result-msg.h"
+#include "process-signals.h"
 #include "replay.h"
 #include "screen-fixture.h"
 
@@ -66,6 +67,8 @@ TEST(Program, EndsWithAnErrorWithoutItsRootDocument) {
     QTimer::singleShot(10000, qApp, &QCoreApplication::quit);
     EXPECT_EQ(QCoreApplication::exec(), -1);
     EXPECT_THAT(QtWarnings::take(), Not(IsEmpty()));
+    QTimer::singleShot(0, &screens.qmlEngine(), &QQmlEngine::quit); // as a document would
+    EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
 class MainWindowTest : public ScreenFixture {};
@@ -135,4 +138,37 @@ TEST_F(MainWindowTest, ShowsARecordingFromTheField) {
     EXPECT_EQ(named[0]->getType(), SigTypeEnum::FPV);
     EXPECT_NEAR(named[0]->getFreqMHz(), 5800, 15);
     disconnect();
+}
+
+TEST_F(MainWindowTest, EndsInGoodOrderOnASignalInEveryState) {
+    plugIn(ProtoEnum::K7);
+    const std::pair<const char *, std::function<void()>> states[] = {
+        {"idle", [] {}},
+        {"connecting", [this] { click("usb"); }},
+        {"connected", [this] { connect(); }},
+        {"hung",
+         [this] {
+             connect();
+             device->setManner(PtyDevice::Manner::DEAF);
+         }},
+        {"test mode", [this] {
+             for (int press = 0; press < 12; ++press)
+                 click("info");
+             EXPECT_TRUE(isConnected());
+         }}};
+    for (const auto &[name, reach] : states) {
+        SCOPED_TRACE(name);
+        const ProcessSignals processSignals;
+        reach();
+        ::raise(SIGTERM);
+        EXPECT_EQ(std::signal(SIGTERM, SIG_DFL), SIG_DFL) << "who asks again does not want to wait";
+        QTimer::singleShot(60000, qApp, [] { QCoreApplication::exit(1); });
+        EXPECT_EQ(QCoreApplication::exec(), 0);
+        EXPECT_FALSE(isConnected());
+        EXPECT_TRUE(device->waitForOpen(false));
+        EXPECT_TRUE(!device->isScanning() || name == std::string("hung"));
+        device->setManner(PtyDevice::Manner::OBLIGING);
+        device->unplug(); // as it is when it is switched on
+        device->plugIn();
+    }
 }
