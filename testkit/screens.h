@@ -41,8 +41,9 @@ public:
     /// Takes an entry of the open dialog by its word, or leaves the dialog by a click on something else.
     void choose(const QString &word);
 
+    SerialDirectory directory; ///< more devices may be plugged in here
+
 private:
-    SerialDirectory directory;
     std::unique_ptr<LinuxConnector> ownedConnector = std::make_unique<LinuxConnector>(directory.path());
 
 public:

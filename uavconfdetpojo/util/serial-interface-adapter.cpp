@@ -15,6 +15,7 @@ SerialInterfaceAdapter::SerialInterfaceAdapter()
 std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> msg,
                                                          std::chrono::milliseconds timeout,
                                                          std::vector<MsgTypeEnum> expected) {
+    const auto deadline = std::chrono::steady_clock::now() + timeout; // also where sending takes some of it
     const std::string name = "transaction " + std::to_string(++trIdHolder);
     std::shared_ptr<Msg> result;
     std::condition_variable arrived;
@@ -38,7 +39,7 @@ std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> ms
         }
         try {
             std::unique_lock lock(mutex);
-            arrived.wait_for(lock, timeout, hasResult);
+            arrived.wait_until(lock, deadline, hasResult);
         } catch (const std::exception *e) {
             Log::error(TAG, name + " msg.wait ERROR: " + e->what());
         }
