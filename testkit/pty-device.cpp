@@ -320,7 +320,8 @@ void PtyDevice::queue(const std::string &message, milliseconds delay) {
 void PtyDevice::write() {
     if (isStreaming() && Clock::now() >= scanDue) {
         scanDue = Clock::now() + scanPeriod;
-        queue(MsgToJsonParser::toJson(nextScan()), milliseconds(0));
+        if (leaving.empty()) // it has room for one
+            queue(MsgToJsonParser::toJson(nextScan()), milliseconds(0));
     }
     for (auto next = outgoing.begin(); next != outgoing.end() && next->first <= Clock::now();
          next = outgoing.erase(next))

@@ -63,7 +63,7 @@ public:
     void setManner(Manner manner);
     /// Answers leave so much later than asked for.
     void setAnswerDelay(std::chrono::milliseconds delay);
-    /// Zero for scans on demand only.
+    /// Zero for scans on demand only. A scan that comes due while one is still leaving is left out.
     void setScanPeriod(std::chrono::milliseconds period);
     /// Streams scans without having been told to.
     void startStreaming();

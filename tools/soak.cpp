@@ -14,8 +14,7 @@
 
 namespace {
 
-/// Twenty times that of a detector. With less, a busy computer never empties the line, and of objects that
-/// follow without a pause the stream's rules deliver next to none.
+/// Twenty times that of a detector.
 constexpr std::chrono::milliseconds FULL_PACE{25};
 constexpr int WARM_UP = 20; // connections, after which nothing may grow any more
 
