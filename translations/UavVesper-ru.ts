@@ -278,6 +278,38 @@
 <context>
     <name>MainPage</name>
     <message>
+        <source>No scan for 15 seconds</source>
+        <translation>Нет сканирований 15 секунд</translation>
+    </message>
+    <message>
+        <source>No signal</source>
+        <translation>Нет сигнала</translation>
+    </message>
+    <message>
+        <source>Strongest: </source>
+        <translation>Самый сильный: </translation>
+    </message>
+    <message>
+        <source>MHz</source>
+        <translation>МГц</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>дБ</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Столбики</translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation>Ход сигнала</translation>
+    </message>
+    <message>
+        <source>Persistence</source>
+        <translation>Накопление</translation>
+    </message>
+    <message>
         <source>language</source>
         <translation>ru</translation>
     </message>

@@ -4,8 +4,35 @@ import freqPlot 1.0
 import histView 1.0
 
 Rectangle {
+    id: mainPage
+
+    // A connected device that has sent no scan for so long, three times its slowest pace, may be unplugged, and no
+    // data must not look like no drone.
+    property int silenceMs: 15000
+    property bool silent: false
+
     objectName: "mainPage"
     color: "transparent"
+
+    Timer {
+        id: silence
+
+        interval: mainPage.silenceMs
+        running: usbService.isUsbActive
+        onRunningChanged: {
+            if (running)
+                mainPage.silent = false
+        }
+        onTriggered: mainPage.silent = true
+    }
+
+    Connections {
+        target: usbService
+        function onGotScanResult() {
+            if (usbService.isUsbActive)
+                silence.restart()
+        }
+    }
 
     ListView {
         id: plots
@@ -32,6 +59,7 @@ Rectangle {
 
         width: parent.width
         height: parent.height
+        opacity: mainPage.silent ? 0.4 : 1
         clip: true
         spacing: 0
         boundsBehavior: Flickable.StopAtBounds
@@ -49,6 +77,12 @@ Rectangle {
             // The views side by side, in the order of `selected`.
             readonly property var views: [barPlot, freqPlot, histView]
             property int selected: 0
+            // The band's name and the strongest signal of its newest scan.
+            property var newest: historyModel.getNewest(index)
+            readonly property string newestInWords: (mainPage.silent ? qsTr("No scan for 15 seconds") + ". " : "")
+                    + (newest.type === undefined ? qsTr("No signal")
+                       : qsTr("Strongest: ") + newest.freq + " " + qsTr("MHz") + ", " + newest.rssi + " "
+                         + qsTr("dB") + ", " + newest.type)
 
             function select(next) {
                 // Visible before the move: that is what makes it paint the data it was handed while hidden.
@@ -64,6 +98,15 @@ Rectangle {
             visible: usbService.isUsbActive
 
             onXChanged: anim.complete()
+
+            Connections {
+                target: historyModel
+                function onGotHistory() {
+                    // A row that a reset has ended lives a little longer.
+                    if (index >= 0 && index < historyModel.rowCount())
+                        rect.newest = historyModel.getNewest(index)
+                }
+            }
 
             Behavior on x {
                 SmoothedAnimation {
@@ -88,6 +131,9 @@ Rectangle {
                 innerBorderColor: themeData.barPlotBorder
                 lineWidth: themeData.fontSizeTiny * 0.1
                 textSize: themeData.fontSizeTiny
+                Accessible.role: Accessible.Chart
+                Accessible.name: qsTr("Bars") + " " + rect.newest.band
+                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.barPlots[index] = barPlot
             }
 
@@ -104,6 +150,9 @@ Rectangle {
                 textSize: themeData.fontSizeTiny
                 lineWidth: themeData.fontSizeTiny * 0.2
                 lang: qsTr("language")
+                Accessible.role: Accessible.Chart
+                Accessible.name: qsTr("Course") + " " + rect.newest.band
+                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.freqPlots[index] = freqPlot
             }
 
@@ -121,6 +170,9 @@ Rectangle {
                 lineWidth: themeData.fontSizeTiny * 0.2
                 // On purpose: bound to itself, as the view's own property. The data come by setHistory alone.
                 history: history
+                Accessible.role: Accessible.Chart
+                Accessible.name: qsTr("Persistence") + " " + rect.newest.band
+                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.histViews[index] = histView
             }
 

@@ -1,11 +1,14 @@
 #include "history-list-model.h"
 
+#include "common/strongest-signals.h"
+#include "freq-mode.h"
 #include "msg/config-msg.h"
 #include "msg/scan-result-msg.h"
 #include "proto.h"
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <utility>
 
 HistoryListModel::HistoryListModel(QObject *parent)
@@ -71,4 +74,19 @@ void HistoryListModel::acceptScanResult(MsgHolder holder) {
 
 History HistoryListModel::getHistory(int row) const {
     return m_data.at(static_cast<std::size_t>(row)).history;
+}
+
+QVariantMap HistoryListModel::getNewest(int row) const {
+    const History &history = m_data.at(static_cast<std::size_t>(row)).history;
+    const auto modes = MasterFreqMode(history.getMasterMode()).getModes();
+    const FreqMode standard(*std::min_element(modes.begin(), modes.end()));
+    QVariantMap newest{{"band", QString::fromStdString(standard.getViewName())}};
+    const auto strongest =
+        strongestSignals(history.getFreqScanResults(), 1, std::numeric_limits<float>::lowest());
+    if (!strongest.empty()) {
+        newest["freq"] = qRound(strongest.front()->getFreqMHz());
+        newest["rssi"] = qRound(strongest.front()->getRssi());
+        newest["type"] = QString::fromStdString(SigType(strongest.front()->getType()).name());
+    }
+    return newest;
 }

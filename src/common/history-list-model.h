@@ -4,6 +4,7 @@
 #include "msg-holder.h"
 
 #include <QAbstractListModel>
+#include <QVariantMap>
 #include <vector>
 
 /// The histories of the device's frequency bands, one row per band in the order of its protocol generation.
@@ -31,6 +32,10 @@ public:
     Q_INVOKABLE void acceptScanResult(MsgHolder holder);
     /// A copy; throws std::out_of_range for a row that is none.
     Q_INVOKABLE History getHistory(int row) const;
+    /// What a row has to tell in words: "band", its name in GHz, and of the strongest signal of known class
+    /// in its newest scan "freq" in MHz, "rssi" in dB and "type", where there is one. Throws as getHistory()
+    /// does.
+    Q_INVOKABLE QVariantMap getNewest(int row) const;
 
 signals:
     void gotHistory();

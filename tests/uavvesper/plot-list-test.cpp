@@ -1,6 +1,7 @@
 #include "common/history-metatype.h"
 #include "screen-fixture.h"
 
+#include <QAccessible>
 #include <QSignalSpy>
 
 using namespace testing;
@@ -22,6 +23,11 @@ protected:
                 R"({"freqMHz":%d,"rssi":-99,"type":"NONE"},{"freqMHz":%d,"rssi":-80,"type":"%s"})", weak,
                 weak + 30, qPrintable(type));
         return R"({"type":"SCAN_RESULT","mask":false,"freqs":[)" + freqs.join(',').toStdString() + "]}";
+    }
+
+    static std::string scanOfOne() {
+        return R"({"type":"SCAN_RESULT","freqs":[{"freqMHz":2400.6,"rssi":-80.4,"type":"FPV"},)"
+               R"({"freqMHz":2440,"rssi":-70,"type":"NONE"}]})";
     }
 
     /// The visible views from top to bottom.
@@ -109,4 +115,46 @@ TEST_F(PlotListTest, ASwipeOfMoreThan100PixelsMovesItsBandByOneView) {
     }
     deviceSays(R"({"type":"CONFIG","proto":"K7","ranges":["EXT_2400"]})");
     EXPECT_TRUE(ScreenDriver::waitFor([&] { return shown() == "BBBB"; }));
+}
+
+TEST_F(PlotListTest, APictureWithoutScansFadesUntilTheNextOneAndEachViewTellsItsStrongestSignal) {
+    const auto told = [this] {
+        std::string lines;
+        for (QQuickItem *view : views()) {
+            const QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(view);
+            lines += reader->text(QAccessible::Name).toStdString() + ": " +
+                    reader->text(QAccessible::Description).toStdString() + '\n';
+        }
+        return lines;
+    };
+    const auto opacityOf = [](QQuickItem *item) {
+        double opacity = 1;
+        for (; item; item = item->parentItem())
+            opacity *= item->opacity();
+        return opacity;
+    };
+    QQuickItem &page = *driver->find("MainPage");
+    const auto waitUntilSilent = [&] {
+        EXPECT_EQ(page.property("silenceMs"), 15000);
+        page.setProperty("silenceMs", 1);
+        EXPECT_TRUE(ScreenDriver::waitFor([&] { return opacityOf(views().at(0)) == 0.4; }));
+        page.setProperty("silenceMs", 15000);
+    };
+    EXPECT_EQ(told(), "Bars 1.2: No signal\nBars 2.4: No signal\nBars 4.9: No signal\nBars 5.8: No signal\n");
+    swipe(1, -101);
+    deviceSays(scanOfOne());
+    const std::string live = "Bars 1.2: No signal\nCourse 2.4: Strongest: 2401 MHz, -80 dB, FPV\n"
+                             "Bars 4.9: No signal\nBars 5.8: No signal\n";
+    EXPECT_EQ(told(), live);
+    waitUntilSilent();
+    EXPECT_EQ(opacityOf(driver->control("usb")), 1);
+    EXPECT_THAT(told(),
+                HasSubstr("\nCourse 2.4: No scan for 15 seconds. Strongest: 2401 MHz, -80 dB, FPV\n"));
+    deviceSays(scanOfOne());
+    EXPECT_EQ(opacityOf(views().at(0)), 1);
+    EXPECT_EQ(told(), live);
+    waitUntilSilent();
+    disconnect();
+    connect();
+    EXPECT_EQ(opacityOf(views().at(0)), 1) << "a new connection has its own time";
 }
