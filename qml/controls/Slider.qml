@@ -11,6 +11,8 @@ Item {
 
     // The only point at which a value is to be sent: on release, not while the runner is dragged.
     signal changed
+    // A drag that scrolls what is around the slider: the value is to be that from before the press again.
+    signal canceled
 
     width: 500
     height: 100
@@ -61,6 +63,19 @@ Item {
         readonly property real xStep: (width - runner.width)
                                       / ((slider.maximumValue - slider.minimumValue) / slider.stepSize)
         property real realValue: slider.value
+        property point from
+        // A drag has one direction: that in which it has first left its place.
+        property bool isSliding: false
+        property bool isScrolling: false
+
+        function findDirection(x, y) {
+            var dx = Math.abs(x - from.x)
+            var dy = Math.abs(y - from.y)
+            if (isSliding || isScrolling || Math.max(dx, dy) < Qt.styleHints.startDragDistance)
+                return
+            isSliding = dx >= dy
+            isScrolling = !isSliding
+        }
 
         function getValue(x) {
             // On purpose: the value counts from 0, not from the minimum. The sliders of the screens all begin at 0.
@@ -70,18 +85,29 @@ Item {
         }
 
         anchors.fill: parent
-        preventStealing: true
+        preventStealing: isSliding
         drag.target: runner
         drag.axis: Drag.XAxis
         drag.minimumX: 0
         drag.maximumX: slider.width - runner.width
         drag.smoothed: false
+        onPressed: {
+            from = Qt.point(mouse.x, mouse.y)
+            isSliding = isScrolling = false
+        }
+        onPositionChanged: findDirection(mouse.x, mouse.y)
         onMouseXChanged: getValue(Math.min(Math.max(mouse.x - runner.width * 0.5, 0), width - runner.width))
         // A drag has overwritten the binding; let go, the runner follows the value again.
         onPressedChanged: {
             if (!pressed)
                 realValue = Qt.binding(function () { return slider.value })
         }
-        onReleased: slider.changed()
+        onReleased: {
+            if (isScrolling)
+                slider.canceled()
+            else
+                slider.changed()
+        }
+        onCanceled: slider.canceled()
     }
 }

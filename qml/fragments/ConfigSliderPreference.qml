@@ -40,6 +40,7 @@ PreferenceRow {
                 mirrored.commit()
                 row.changed()
             }
+            onCanceled: mirrored.show()
         }
 
         Rectangle {

@@ -154,3 +154,28 @@ TEST_F(ConfigDrawerTest, FollowsTheGenerationAndTheWindow) {
     EXPECT_TRUE(driver->scrollDown(frame));
     EXPECT_TRUE(!isInView("Detection") && isInView("Display timeout"));
 }
+
+TEST_F(ConfigDrawerTest, ADragFromASliderEitherScrollsTheDrawerOrSetsTheValue) {
+    open(ProtoEnum::K7);
+    QQuickItem *flickable = driver->find("QQuickFlickable", {}, driver->find("DrawerFrame"));
+    const auto scrolled = [&] { return flickable->property("contentY").toReal(); };
+    const auto value = [this] { return control("Sound volume").property("value").toInt(); };
+    for (const int height : {1000, 2200}) { // a drawer that scrolls, and one that has no need to
+        driver->resize({800, height});
+        const double top = scrolled();
+        ASSERT_EQ(value(), 100);
+        for (const QPoint way : {QPoint(0, -60), {-10, -90}, {30, -50}, {0, 14}, {50, -30}, {-60, 10}}) {
+            flickable->setProperty("contentY", top);
+            SCOPED_TRACE(QString("%1,%2 in %3").arg(way.x()).arg(way.y()).arg(height).toStdString());
+            const bool isSliding = qAbs(way.x()) > qAbs(way.y());
+            const QPoint from = ScreenDriver::middleOf(control("Sound volume"));
+            const auto sent = sentBy([&] { driver->drag(from, from + way); });
+            EXPECT_EQ(sent.size(), isSliding ? 2U : 0U);
+            EXPECT_EQ(value() == 100, !isSliding);
+            EXPECT_EQ(scrolled() > top, way.y() <= -50 && !isSliding && height == 1000);
+            deviceSays(R"({"type":"CONFIG","proto":"K7","indSndLvl":100})");
+            EXPECT_EQ(value(), 100) << "follows the device again";
+            EXPECT_TRUE(ScreenDriver::waitFor([&] { return !flickable->property("moving").toBool(); }));
+        }
+    }
+}
