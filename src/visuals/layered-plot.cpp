@@ -3,6 +3,23 @@
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QQuickWindow>
+#include <QSGImageNode>
+#include <QtMath>
+
+namespace {
+
+/// The whole pixels that an area touches. A hair more than a pixel is a product of fractions, not an area.
+QRect wholePixels(const QRectF &area) {
+    constexpr double hair = 1e-6;
+    return area.adjusted(hair, hair, -hair, -hair).toAlignedRect();
+}
+
+QRectF scaled(const QRectF &area, double factor) {
+    return {area.topLeft() * factor, area.size() * factor};
+}
+
+} // namespace
 
 LayeredPlot::LayeredPlot(QQuickItem *parent)
     : QQuickPaintedItem(parent) {
@@ -35,11 +52,39 @@ History LayeredPlot::getHistory() const {
 }
 
 void LayeredPlot::paint(QPainter *painter) {
+    painter->save();
+    painter->scale(1 / pixelRatio, 1 / pixelRatio);
     // The background only where it shows: copying it under the data would be a good part of a scan's cost.
-    const QRect covered = image.isNull() ? QRect() : imageArea;
-    for (const QRect &strip : QRegion(background.rect()) - covered)
+    const QRect place = wholePixels(scaled(imageArea, pixelRatio));
+    for (const QRect &strip : QRegion(background.rect()) - (image.isNull() ? QRect() : place))
         painter->drawPixmap(strip, background, strip);
-    painter->drawPixmap(imageArea, image);
+    painter->drawPixmap(place, image);
+    painter->restore();
+}
+
+QSGNode *LayeredPlot::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *) {
+    auto *node = static_cast<QSGImageNode *>(oldNode);
+    if (background.isNull()) {
+        delete node;
+        return nullptr;
+    }
+    if (!node) {
+        node = window()->createImageNode();
+        node->setOwnsTexture(true);
+        node->setFiltering(QSGTexture::Nearest);
+    }
+    QImage shown(background.size(), QImage::Format_ARGB32_Premultiplied);
+    shown.fill(Qt::transparent);
+    QPainter painter(&shown);
+    painter.scale(pixelRatio, pixelRatio);
+    paint(&painter);
+    painter.end();
+    node->setTexture(window()->createTextureFromImage(shown));
+    node->setSourceRect(shown.rect());
+    const QPointF place = mapToScene({0, 0}) * pixelRatio;
+    const QPointF wholePlace = wholePixels({place, shown.size()}).topLeft();
+    node->setRect(QRectF((wholePlace - place) / pixelRatio, QSizeF(shown.size()) / pixelRatio));
+    return node;
 }
 
 void LayeredPlot::paintBackground() {
@@ -47,11 +92,11 @@ void LayeredPlot::paintBackground() {
     const QFontMetrics metrics(fontOfSize(textSize));
     labelFont = {metrics.averageCharWidth(), metrics.ascent()};
     imageArea = layOut(size);
-    paintLayer(background, size, imageArea.isEmpty() ? Drawing() : legend());
+    paintLayer(background, QRect({0, 0}, size), imageArea.isEmpty() ? Drawing() : legend());
 }
 
 void LayeredPlot::paintOnImage() {
-    paintLayer(image, imageArea.size(), imageArea.isEmpty() ? Drawing() : data());
+    paintLayer(image, imageArea, imageArea.isEmpty() ? Drawing() : data());
     emit imageReady();
 }
 
@@ -63,6 +108,17 @@ void LayeredPlot::componentComplete() {
 void LayeredPlot::geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) {
     QQuickPaintedItem::geometryChanged(newGeometry, oldGeometry);
     if (newGeometry.size() != oldGeometry.size())
+        rebuild();
+}
+
+void LayeredPlot::itemChange(ItemChange change, const ItemChangeData &value) {
+    QQuickPaintedItem::itemChange(change, value);
+    const double formerRatio = pixelRatio;
+    if (change == ItemSceneChange && value.window)
+        pixelRatio = value.window->effectiveDevicePixelRatio();
+    else if (change == ItemDevicePixelRatioHasChanged)
+        pixelRatio = value.realValue;
+    if (pixelRatio != formerRatio)
         rebuild();
 }
 
@@ -82,13 +138,17 @@ void LayeredPlot::showData() {
     update();
 }
 
-void LayeredPlot::paintLayer(QPixmap &layer, const QSize &size, const Drawing &drawing) const {
-    if (layer.size() != size)
-        layer = size.isEmpty() ? QPixmap() : QPixmap(size);
+void LayeredPlot::paintLayer(QPixmap &layer, const QRect &area, const Drawing &drawing) const {
+    const QRectF inPixels = scaled(area, pixelRatio);
+    const QRect pixels = area.isEmpty() ? QRect() : wholePixels(inPixels);
+    if (layer.size() != pixels.size())
+        layer = pixels.isEmpty() ? QPixmap() : QPixmap(pixels.size());
     if (layer.isNull())
         return;
     layer.fill(backgroundColor);
     QPainter painter(&layer);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(inPixels.topLeft() - pixels.topLeft());
+    painter.scale(pixelRatio, pixelRatio);
     paintDrawing(drawing, painter);
 }

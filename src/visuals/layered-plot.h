@@ -11,6 +11,9 @@
 /// plot area with the data and is rebuilt on each update while the item is visible. A hidden plot only takes
 /// data and catches up when it is shown.
 ///
+/// What stands where is worked out in logical pixels; the layers have the screen's own ones, and are made
+/// anew when the item comes to a screen of another scale.
+///
 /// All of it runs on the GUI thread; the scene graph sees only what paint() copies.
 class LayeredPlot : public QQuickPaintedItem {
     Q_OBJECT
@@ -68,6 +71,10 @@ protected:
         return {QPoint(x, baseLine), text, color, textSize};
     }
 
+    /// What QQuickPaintedItem does, but on the screen's whole pixels: where the item begins or ends within
+    /// one, at a scale of 1.25 for example, a picture that is fitted into its very size would be blurred.
+    QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
     void componentComplete() override;
     void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
@@ -82,9 +89,11 @@ private:
 
     void rebuild();
     void showData();
-    void paintLayer(QPixmap &layer, const QSize &size, const Drawing &drawing) const;
+    /// Paints what an area of the item, in logical pixels, shows.
+    void paintLayer(QPixmap &layer, const QRect &area, const Drawing &drawing) const;
 
-    QRect imageArea;
+    double pixelRatio = 1; ///< of the screen: its pixels for one logical pixel
+    QRect imageArea;       ///< in logical pixels
     QPixmap image;
     QPixmap background;
 };

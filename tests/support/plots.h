@@ -70,14 +70,17 @@ public:
     }
 
     using Plot::data;
+    using Plot::itemChange;
     using Plot::legend;
     /// The labels, the place of the data in the item, and the data.
     std::string shapes() const {
         return told({legend(), {FilledRect{plotArea, this->backgroundColor}}, data()});
     }
-    QImage picture() {
-        QImage shown(this->boundingRect().size().toSize(), QImage::Format_RGB32);
+    /// In so many pixels for a logical one.
+    QImage picture(double scale = 1) {
+        QImage shown((this->boundingRect().size() * scale).toSize(), QImage::Format_RGB32);
         QPainter painter(&shown);
+        painter.scale(scale, scale);
         this->paint(&painter);
         return shown;
     }

@@ -45,16 +45,25 @@ TYPED_TEST(LayeredPlotTest, ShowsLabelsAndDataHoweverTheyCame) {
     const QSize size(300, 120);
     Shown<TypeParam> plot(size);
     plot.setHistory(this->history);
-    QImage expected(size, QImage::Format_RGB32);
-    QPainter painter(&expected);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(expected.rect(), QColor("#101010"));
-    paintDrawing(plot.legend(), painter);
-    painter.setClipRect(plot.plotArea);
-    painter.fillRect(plot.plotArea, QColor("#101010"));
-    painter.translate(plot.plotArea.topLeft());
-    paintDrawing(plot.data(), painter);
-    EXPECT_EQ(plot.picture(), expected);
+    QImage expected;
+    for (const double scale : {1.25, 1.5, 2.0, 1.0}) {
+        plot.itemChange(QQuickItem::ItemDevicePixelRatioHasChanged, scale);
+        expected = QImage((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
+        QPainter painter(&expected);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillRect(expected.rect(), QColor("#101010"));
+        painter.scale(scale, scale);
+        paintDrawing(plot.legend(), painter);
+        painter.resetTransform();
+        const QRectF area(plot.plotArea);
+        const QRect pixels = QRectF(area.topLeft() * scale, area.size() * scale).toAlignedRect();
+        painter.setClipRect(pixels);
+        painter.fillRect(pixels, QColor("#101010"));
+        painter.scale(scale, scale);
+        painter.translate(plot.plotArea.topLeft());
+        paintDrawing(plot.data(), painter);
+        EXPECT_EQ(plot.picture(scale), expected) << "sharp at a scale of " << scale;
+    }
 
     Shown<TypeParam> resized({200, 80}), rescaled(size, 14);
     resized.setHistory(historyOf({3, {{2400, -99}, {2450, -90}}}));

@@ -2,7 +2,11 @@
 #include "screen-fixture.h"
 
 #include <QAccessible>
+#include <QPainter>
+#include <QProcess>
+#include <QQuickPaintedItem>
 #include <QSignalSpy>
+#include <QtMath>
 
 using namespace testing;
 
@@ -123,7 +127,7 @@ TEST_F(PlotListTest, APictureWithoutScansFadesUntilTheNextOneAndEachViewTellsIts
         for (QQuickItem *view : views()) {
             const QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(view);
             lines += reader->text(QAccessible::Name).toStdString() + ": " +
-                    reader->text(QAccessible::Description).toStdString() + '\n';
+                     reader->text(QAccessible::Description).toStdString() + '\n';
         }
         return lines;
     };
@@ -157,4 +161,42 @@ TEST_F(PlotListTest, APictureWithoutScansFadesUntilTheNextOneAndEachViewTellsIts
     disconnect();
     connect();
     EXPECT_EQ(opacityOf(views().at(0)), 1) << "a new connection has its own time";
+}
+
+/// Each scale in a process of its own: Qt takes it when it starts.
+TEST_F(PlotListTest, IsSharpAtEveryScale) {
+    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
+        for (const char *scale : {"1.25", "1.5", "2"}) {
+            QProcess self;
+            auto environment = QProcessEnvironment::systemEnvironment();
+            environment.insert("QT_SCALE_FACTOR", scale);
+            self.setProcessEnvironment(environment);
+            self.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=*.IsSharpAtEveryScale"});
+            EXPECT_TRUE(self.waitForFinished(60000));
+            EXPECT_EQ(self.exitCode(), 0) << scale << self.readAll().data();
+        }
+        return;
+    }
+    const double scale = window->effectiveDevicePixelRatio();
+    EXPECT_EQ(scale, qgetenv("QT_SCALE_FACTOR").toDouble());
+    driver->resize({801, 1003});
+    for (int step = 0; step < 3; ++step) {
+        deviceSays(scan("FPV"));
+        const QImage picture = driver->picture();
+        for (QQuickItem *view : views()) {
+            QImage alone((view->size() * scale).toSize(), picture.format());
+            QPainter painter(&alone);
+            painter.scale(scale, scale);
+            qobject_cast<QQuickPaintedItem *>(view)->paint(&painter);
+            const QPointF corner = view->mapToScene({0, 0}) * scale;
+            // Two bands may share a line of pixels, and the platform shows no more than the window's logical
+            // size.
+            const QPoint pixel(qFloor(corner.x()), qFloor(corner.y()));
+            const QRect inside = alone.rect().adjusted(0, 1, -1, -1).translated(pixel) & picture.rect();
+            EXPECT_TRUE(inside.isEmpty() || picture.copy(inside) == alone.copy(inside.translated(-pixel)))
+                << shown();
+        }
+        for (std::size_t band = 0; band < 4; ++band)
+            swipe(band, -101);
+    }
 }
