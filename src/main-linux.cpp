@@ -8,6 +8,9 @@
 int main(int argc, char **argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0); // lines of the log show at once, also in a file or a pipe
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    // Words have their places in pixels, so a larger text of the desktop enlarges the window as a whole.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     ServiceObjects objects;
     registerTypes();
     QGuiApplication app(argc, argv);
@@ -16,5 +19,6 @@ int main(int argc, char **argv) {
     const ProcessSignals processSignals;
     ScreenEngine screens(objects);
     screens.load();
+    screens.fitToScreen();
     return QGuiApplication::exec();
 }

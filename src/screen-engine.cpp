@@ -10,8 +10,10 @@
 #include "visuals/uav-switch.h"
 #include "visuals/uav-three-switch.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QQmlContext>
+#include <QQuickWindow>
+#include <QScreen>
 #include <QTranslator>
 
 void registerTypes() {
@@ -61,4 +63,27 @@ void ScreenEngine::load(const QUrl &document) {
     translator->load("UavVesper-ru", ".", QString(), QString());
     QCoreApplication::installTranslator(translator);
     engine.load(document);
+}
+
+void ScreenEngine::fitToScreen() {
+    auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    const QString platform = QGuiApplication::platformName();
+    if (!window || platform == "offscreen" || platform == "minimal")
+        return;
+    const auto fit = [window] {
+        window->resize(fittingSize(window->size(), window->minimumSize(), window->screen()->availableSize(),
+                                   window->frameMargins()));
+    };
+    fit();
+    // The frame is known once the window shows.
+    auto *firstFrame = new QObject(window);
+    QObject::connect(window, &QQuickWindow::frameSwapped, firstFrame, [fit, firstFrame] {
+        fit();
+        firstFrame->deleteLater();
+    });
+}
+
+QSize fittingSize(const QSize &asked, const QSize &minimum, const QSize &freeArea, const QMargins &frame) {
+    const QSize room = freeArea - QSize(frame.left() + frame.right(), frame.top() + frame.bottom());
+    return asked.boundedTo(room).expandedTo(minimum);
 }

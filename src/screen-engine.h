@@ -8,13 +8,19 @@
 #include "manual-opener.h"
 #include "service-objects.h"
 
+#include <QMargins>
 #include <QQmlApplicationEngine>
+#include <QSize>
 #include <QString>
 #include <QUrl>
 
 /// Tells Qt of the elements that the documents import and of the values that cross threads and documents.
 /// Once for each process, before the first engine.
 void registerTypes();
+
+/// The size for a window that asks for one, so that it has room in the free area of its screen with its frame
+/// around it; not below its minimum. In logical pixels.
+QSize fittingSize(const QSize &asked, const QSize &minimum, const QSize &freeArea, const QMargins &frame);
 
 /// The documents and all that they name: the engine, the settings front-ends and the history model. Lives on
 /// the UI thread, and ends before the application object. When the event loop ends, the connection does.
@@ -28,6 +34,9 @@ public:
 
     /// Shows the root document. If it can't be created, the event loop ends with -1 on its next turn.
     void load(const QUrl &document = QUrl("qrc:/qml/MainLinuxWindow.qml"));
+    /// Makes the window smaller where its screen has less room than the document asks for. Not on platforms
+    /// without a display, whose screens are made up.
+    void fitToScreen();
 
     QQmlApplicationEngine &qmlEngine() { return engine; }
 

@@ -23,7 +23,7 @@ TEST(Program, ShowsItsWindowInTheLanguageOfTheDirectoryAndEndsWhenToldTo) {
         int ignored;
         int dpi;
         bool russian;
-    } const starts[] = {{"env", SIGINT, 0, 96, false},
+    } const starts[] = {{"env", SIGINT, 0, 120, false},
                         {"env", SIGHUP, 0, 192, false},
                         {"setsid", SIGTERM, 0, 96, false},
                         {"nohup", SIGTERM, SIGHUP, 96, true}};
@@ -53,10 +53,24 @@ TEST(Program, ShowsItsWindowInTheLanguageOfTheDirectoryAndEndsWhenToldTo) {
         EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(program.exitCode(), 0);
         pictures[russian] = QImage(directory.filePath("output0000.png"));
-        EXPECT_EQ(pictures[russian].size(), QSize(800, 1000) * (dpi / 96));
+        EXPECT_EQ(pictures[russian].size(), QSize(800, 1000) * (dpi / 96.0)) << dpi;
         EXPECT_TRUE(QFile::exists(directory.filePath("com.kelvane/UavVesper")));
     }
     EXPECT_FALSE(pictures[0] == pictures[1]);
+}
+
+TEST(Program, FitsItsWindowIntoTheScreensFreeArea) {
+    struct {
+        QSize freeArea;
+        QMargins frame;
+        QSize size;
+    } const screens[] = {{{1920, 1080}, {0, 24, 0, 0}, {800, 1000}},
+                         {{1366, 728}, {}, {800, 728}},
+                         {{1366, 728}, {2, 24, 3, 4}, {800, 700}},
+                         {{683, 384}, {2, 0, 3, 0}, {678, 400}},
+                         {{240, 320}, {0, 24, 0, 0}, {300, 400}}};
+    for (const auto &[freeArea, frame, size] : screens)
+        EXPECT_EQ(fittingSize({800, 1000}, {300, 400}, freeArea, frame), size) << freeArea.width();
 }
 
 TEST(Program, EndsWithAnErrorWithoutItsRootDocument) {
