@@ -1,10 +1,11 @@
-import QtQuick 2.0
+import QtQuick 2.7
 
 import "fragments"
 import "menu"
 import "pages"
 
-Item {
+// A scope of its own keeps Escape while the control that had the keyboard can't take it.
+FocusScope {
     id: contents
 
     // True on the mobile platform, which has its own icon theme.
@@ -16,6 +17,12 @@ Item {
     function toggle(drawer, other) {
         other.open = false
         drawer.open = !drawer.open
+    }
+
+    focus: true
+    Keys.onEscapePressed: {
+        event.accepted = helpFragment.open || configFragment.open
+        helpFragment.open = configFragment.open = false
     }
 
     // On purpose: the desktop's window makes the same connections.
@@ -64,6 +71,7 @@ Item {
                 HelpFragment {
                     id: helpFragment
 
+                    opener: buttons.helpControl
                     anchors.bottom: parent.bottom
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: parent.width * 0.9
@@ -76,6 +84,7 @@ Item {
                 ConfigFragment {
                     id: configFragment
 
+                    opener: buttons.configControl
                     anchors.bottom: parent.bottom
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: parent.width * 0.9

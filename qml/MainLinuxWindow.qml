@@ -1,8 +1,11 @@
-import QtQuick 2.0
+import QtQuick 2.7
 import QtQuick.Controls 2.0
 
 ApplicationWindow {
     id: window
+
+    // Whether the user's last gesture was one of the keyboard.
+    property bool isKeyboardUsed: false
 
     objectName: "applicationWindow"
     width: 800

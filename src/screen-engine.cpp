@@ -11,10 +11,36 @@
 #include "visuals/uav-three-switch.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QQmlContext>
 #include <QQuickWindow>
 #include <QScreen>
 #include <QTranslator>
+#include <algorithm>
+
+namespace {
+
+/// Tells a window whether the user's last gesture was one of the keyboard, also where a control takes the
+/// event.
+class LastGesture : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *window, QEvent *event) override {
+        constexpr int keys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Left,  Qt::Key_Right,  Qt::Key_Up,
+                                Qt::Key_Down, Qt::Key_Space,   Qt::Key_Enter, Qt::Key_Return, Qt::Key_Escape};
+        if (event->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent *>(event)->key();
+            if (std::find(std::begin(keys), std::end(keys), key) != std::end(keys))
+                window->setProperty("isKeyboardUsed", true);
+        } else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
+            window->setProperty("isKeyboardUsed", false);
+        }
+        return false;
+    }
+};
+
+} // namespace
 
 void registerTypes() {
     qmlRegisterType<Guarded<BarScanResultPlot>>("barScanResultPlot", 1, 0, "BarScanResultPlot");
@@ -63,6 +89,8 @@ void ScreenEngine::load(const QUrl &document) {
     translator->load("UavVesper-ru", ".", QString(), QString());
     QCoreApplication::installTranslator(translator);
     engine.load(document);
+    for (QObject *window : engine.rootObjects())
+        window->installEventFilter(new LastGesture(window));
 }
 
 void ScreenEngine::fitToScreen() {

@@ -1,4 +1,4 @@
-import QtQuick 2.0
+import QtQuick 2.7
 
 // What every button is made of: the frame, the shade while it is pressed and the click. Content goes into the frame.
 Item {
@@ -14,6 +14,9 @@ Item {
     readonly property real iconOpacity: enabled ? 1 : 0.5
 
     signal clicked
+
+    activeFocusOnTab: true
+    Keys.forwardTo: ring
 
     Rectangle {
         id: frame
@@ -39,5 +42,11 @@ Item {
 
         anchors.fill: parent
         onClicked: button.clicked()
+    }
+
+    FocusRing {
+        id: ring
+
+        onPressed: button.clicked()
     }
 }

@@ -14,7 +14,7 @@ QtObject {
 
     function show() {
         // A message must not pull a slider out of the user's hand; the commit on release shows the value again.
-        if (control.pressed === true)
+        if (control.pressed === true || control.isStepping === true)
             return
         control[shownAs] = Qt.binding(function () {
             return absent === undefined || usbService.isUsbActive ? handler[setting] : absent

@@ -1,4 +1,4 @@
-import QtQuick 2.0
+import QtQuick 2.7
 
 Item {
     id: slider
@@ -8,15 +8,49 @@ Item {
     property real value: 75
     property real stepSize: 1
     property alias pressed: mouseArea.pressed
+    // While an arrow key is down.
+    property bool isStepping: false
 
-    // The only point at which a value is to be sent: on release, not while the runner is dragged.
+    // The only point at which a value is to be sent: on release of the mouse or of the key, not while the runner moves.
     signal changed
     // A drag that scrolls what is around the slider: the value is to be that from before the press again.
     signal canceled
 
+    // To the next multiple of the step in a direction, 1 or -1.
+    function step(direction) {
+        var steps = value / stepSize
+        var next = direction > 0 ? Math.floor(steps) + 1 : Math.ceil(steps) - 1
+        value = Math.min(Math.max(next * stepSize, minimumValue), maximumValue)
+    }
+
+    function endStepping() {
+        if (!isStepping)
+            return
+        isStepping = false
+        if (visible)
+            changed()
+        else
+            canceled()
+    }
+
     width: 500
     height: 100
-    opacity: enabled && !mouseArea.pressed ? 1 : 0.3
+    opacity: enabled && !mouseArea.pressed && !isStepping ? 1 : 0.3
+    activeFocusOnTab: true
+    onActiveFocusChanged: endStepping()
+    Keys.onPressed: {
+        if (event.key !== Qt.Key_Left && event.key !== Qt.Key_Right)
+            return
+        event.accepted = true
+        isStepping = true
+        step(event.key === Qt.Key_Right ? 1 : -1)
+    }
+    Keys.onReleased: {
+        if (event.isAutoRepeat || (event.key !== Qt.Key_Left && event.key !== Qt.Key_Right))
+            return
+        event.accepted = true
+        endStepping()
+    }
 
     Row {
         id: line
@@ -110,4 +144,6 @@ Item {
         }
         onCanceled: slider.canceled()
     }
+
+    FocusRing {}
 }

@@ -1,4 +1,4 @@
-import QtQuick 2.0
+import QtQuick 2.7
 
 Item {
     id: item
@@ -6,6 +6,14 @@ Item {
     property bool checked: true
 
     signal clicked
+
+    function press() {
+        checked = !checked
+        clicked()
+    }
+
+    activeFocusOnTab: true
+    Keys.forwardTo: ring
 
     // The first placing is instant, later moves are to be seen.
     Component.onCompleted: anim.velocity = 200
@@ -41,9 +49,12 @@ Item {
 
     MouseArea {
         anchors.fill: parent
-        onClicked: {
-            item.checked = !item.checked
-            item.clicked()
-        }
+        onClicked: item.press()
+    }
+
+    FocusRing {
+        id: ring
+
+        onPressed: item.press()
     }
 }

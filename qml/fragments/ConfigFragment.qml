@@ -5,6 +5,7 @@ Item {
     id: fragment
 
     property alias open: customDrawer.visible
+    property alias opener: customDrawer.opener
     readonly property bool hasK7Settings: confHndlr.proto >= 2
 
     function setHeight(comp) {

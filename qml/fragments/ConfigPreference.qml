@@ -1,13 +1,25 @@
-import QtQuick 2.0
+import QtQuick 2.7
+
+import "../controls"
 
 PreferenceRow {
     id: row
 
     signal clicked
 
+    activeFocusOnTab: true
+    Keys.forwardTo: ring
+
     MouseArea {
         anchors.fill: parent
         anchors.leftMargin: row.indent
         onClicked: row.clicked()
+    }
+
+    FocusRing {
+        id: ring
+
+        anchors.leftMargin: row.indent * 0.9
+        onPressed: row.clicked()
     }
 }

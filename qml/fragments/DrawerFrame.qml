@@ -1,4 +1,5 @@
-import QtQuick 2.0
+import QtQuick 2.7
+import QtQuick.Window 2.7
 
 // What a drawer is made of: as high as its content while the parent has room for that, else scrolling in all of it.
 Rectangle {
@@ -10,6 +11,24 @@ Rectangle {
     property alias bottomMargin: flick.bottomMargin
     property alias leftMargin: flick.leftMargin
 
+    // The button that opens the drawer. It takes the keyboard back when the drawer closes.
+    property Item opener
+    readonly property Item itemInFocus: Window.activeFocusItem
+
+    function hasFocus() {
+        for (var item = itemInFocus; item && item !== flick.contentItem; item = item.parent) {}
+        return !!item
+    }
+
+    // Scrolls to what the keyboard reaches.
+    onItemInFocusChanged: {
+        if (!hasFocus())
+            return
+        var top = itemInFocus.mapToItem(flick.contentItem, 0, 0).y
+        var end = top + itemInFocus.height + flick.bottomMargin - flick.height
+        flick.contentY = Math.max(Math.min(flick.contentY, top - flick.topMargin), end)
+    }
+
     anchors.bottom: parent.bottom
     anchors.horizontalCenter: parent.horizontalCenter
     width: parent.width
@@ -17,7 +36,11 @@ Rectangle {
     color: themeData.fragmentColor
     opacity: 0.8
     visible: false
-    onVisibleChanged: flick.contentY = -flick.topMargin
+    onVisibleChanged: {
+        flick.contentY = -flick.topMargin
+        if (!visible && hasFocus())
+            opener.forceActiveFocus()
+    }
 
     Flickable {
         id: flick

@@ -7,6 +7,7 @@ Item {
     id: fragment
 
     property alias open: customDrawer.visible
+    property alias opener: customDrawer.opener
     // On purpose: the mode that the settings call "Standard" is "Base" here.
     readonly property var modeWords: ({
         ECO: qsTr("Efficient"), BASE: qsTr("Base"), AUTO: qsTr("Automatic"), CONT: qsTr("Continuous")

@@ -1,4 +1,5 @@
-import QtQuick 2.0
+import QtQuick 2.7
+import QtQuick.Window 2.7
 
 import "../controls"
 
@@ -9,18 +10,45 @@ Item {
     property alias model: list.model
     property int size: 1
     property var current: "."
+    // Where the keyboard was, to return there.
+    property Item itemBefore
 
     // The value of the entry that was chosen.
     signal selected(var index)
 
     // On purpose: the animation, which has no target, is begun and completed at once, so the list vanishes at once.
     function end() {
+        if (itemBefore)
+            itemBefore.forceActiveFocus()
         disappear.start()
         disappear.complete()
         dialog.destroy()
     }
 
+    // Takes the keyboard; one who uses it begins at the current entry.
+    function begin() {
+        itemBefore = Window.activeFocusItem
+        forceActiveFocus()
+        for (var i = 0; i < model.count; ++i)
+            if (model.get(i).value === current)
+                list.currentIndex = i
+        if (Window.window.isKeyboardUsed === true)
+            list.currentItem.forceActiveFocus()
+    }
+
+    function move(step) {
+        if (list.currentItem.activeFocus)
+            list.currentIndex = (list.currentIndex + step + list.count) % list.count
+        list.currentItem.forceActiveFocus()
+    }
+
     anchors.fill: parent
+    // The keyboard does not leave the dialog.
+    Keys.onTabPressed: move(1)
+    Keys.onBacktabPressed: move(-1)
+    Keys.onDownPressed: move(1)
+    Keys.onUpPressed: move(-1)
+    Keys.onEscapePressed: end()
 
     NumberAnimation {
         id: disappear
@@ -53,11 +81,13 @@ Item {
         width: themeData.buttonSizeMedium
         height: dialog.size * themeData.iconSizeMedium
         boundsBehavior: Flickable.StopAtBounds
+        keyNavigationEnabled: false
 
         delegate: Button {
             width: list.width
             height: themeData.iconSizeMedium
             text: name
+            activeFocusOnTab: false
             textColor: themeData.darkTextColor
             color: dialog.current === value ? themeData.currentEntryColor : themeData.lightTextColor
             onClicked: {

@@ -1,4 +1,4 @@
-import QtQuick 2.0
+import QtQuick 2.7
 
 // Opens list dialogs over the whole window.
 QtObject {
@@ -13,6 +13,7 @@ QtObject {
         dialog.model = entries
         dialog.current = current
         dialog.selected.connect(selected)
+        dialog.begin()
     }
 
     Component.onCompleted: {

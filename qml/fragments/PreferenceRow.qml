@@ -1,4 +1,4 @@
-import QtQuick 2.0
+import QtQuick 2.7
 
 // What every preference shows: its title and, below it, what it is for.
 Item {

@@ -1,10 +1,13 @@
-import QtQuick 2.0
+import QtQuick 2.7
 
 import "../controls"
 
 Item {
     id: buttonLayout
 
+    // The openers of the drawers.
+    property alias configControl: configButton
+    property alias helpControl: helpButton
     readonly property int buttonHeigth: themeData.iconSizeMedium
     readonly property real spacing: themeData.fontSizeSmall * 0.5
     // Gives the address of an icon, from its names on the desktop and on the mobile platform and its button.

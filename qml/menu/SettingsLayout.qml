@@ -1,4 +1,4 @@
-import QtQuick 2.0
+import QtQuick 2.7
 import uavThreeSwitch 1.0
 
 import "../controls"
@@ -35,6 +35,9 @@ Item {
             ListView {
                 id: ranges
 
+                // The band that the keyboard was on: each edit makes the switches anew.
+                property int bandInFocus: -1
+
                 // Takes the bands of a CONFIG; the sizes here follow their number.
                 function setConf(msg) {
                     masterModes.setConfig(msg)
@@ -50,6 +53,8 @@ Item {
                 spacing: row.offset
                 clip: false
                 boundsBehavior: Flickable.StopAtBounds
+                currentIndex: -1
+                keyNavigationEnabled: false
                 model: masterModes
 
                 Component.onCompleted: {
@@ -63,11 +68,25 @@ Item {
                     color: "transparent"
 
                     MouseArea {
-                        anchors.fill: parent
-                        enabled: usbService.isUsbActive
-                        onClicked: {
+                        id: band
+
+                        function press() {
                             sw.nextPosition()
                             valueRange = sw.position
+                        }
+
+                        anchors.fill: parent
+                        enabled: usbService.isUsbActive
+                        onClicked: press()
+                        activeFocusOnTab: true
+                        onActiveFocusChanged: {
+                            if (activeFocus)
+                                ranges.bandInFocus = index
+                        }
+                        Keys.forwardTo: ring
+                        Component.onCompleted: {
+                            if (ranges.activeFocus && ranges.bandInFocus === index)
+                                forceActiveFocus()
                         }
 
                         UavThreeSwitch {
@@ -80,6 +99,12 @@ Item {
                             textSize: themeData.fontSizeSmall
                             text: stringMode
                             position: valueRange
+                        }
+
+                        FocusRing {
+                            id: ring
+
+                            onPressed: band.press()
                         }
                     }
 

@@ -1,5 +1,7 @@
-import QtQuick 2.0
+import QtQuick 2.7
 import uavSwitch 1.0
+
+import "../controls"
 
 // A painted switch that a click turns over.
 Item {
@@ -12,14 +14,20 @@ Item {
     // Passed on once `checked` has its new state.
     signal clicked
 
+    function press() {
+        sw.checked = !sw.checked
+        clicked()
+    }
+
+    enabled: switchEnabled
+    activeFocusOnTab: true
+    Keys.forwardTo: ring
+
     MouseArea {
         width: item.width
         height: item.height
         enabled: item.switchEnabled
-        onClicked: {
-            sw.checked = !sw.checked
-            item.clicked()
-        }
+        onClicked: item.press()
 
         UavSwitch {
             id: sw
@@ -30,5 +38,11 @@ Item {
             lineWidth: themeData.fontSizeSmall * 0.1
             textSize: parent.height * 0.5
         }
+    }
+
+    FocusRing {
+        id: ring
+
+        onPressed: item.press()
     }
 }

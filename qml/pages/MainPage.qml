@@ -1,7 +1,9 @@
-import QtQuick 2.0
+import QtQuick 2.7
 import barScanResultPlot 1.0
 import freqPlot 1.0
 import histView 1.0
+
+import "../controls"
 
 Rectangle {
     id: mainPage
@@ -41,6 +43,8 @@ Rectangle {
         property var histViews: []
         property var barPlots: []
         property var freqPlots: []
+        // The row that the keyboard was on: each CONFIG makes the rows anew.
+        property int rowInFocus: -1
 
         // Whole rows of one height, however the page's height divides.
         function getH() {
@@ -63,6 +67,8 @@ Rectangle {
         clip: true
         spacing: 0
         boundsBehavior: Flickable.StopAtBounds
+        currentIndex: -1
+        keyNavigationEnabled: false
         model: historyModel
 
         Component.onCompleted: {
@@ -90,12 +96,31 @@ Rectangle {
                 selected = next
             }
 
+            // One view on, or back.
+            function swipe(step) {
+                var next = selected + step
+                if (!anim.running && next >= 0 && next < views.length)
+                    select(next)
+            }
+
             x: -selected * plots.width
             width: plots.width * 3
             height: plots.getH() / historyModel.rowCount()
             color: "transparent"
             clip: true
             visible: usbService.isUsbActive
+            enabled: visible
+            activeFocusOnTab: true
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    plots.rowInFocus = index
+            }
+            Keys.onLeftPressed: swipe(-1)
+            Keys.onRightPressed: swipe(1)
+            Component.onCompleted: {
+                if (plots.activeFocus && plots.rowInFocus === index)
+                    forceActiveFocus()
+            }
 
             onXChanged: anim.complete()
 
@@ -184,14 +209,17 @@ Rectangle {
                 preventStealing: true
                 onPressed: lastX = mouse.x
                 onReleased: {
-                    if (anim.running)
-                        return
-                    var newX = mouse.x
-                    if (newX - lastX > minFlick && rect.selected > 0)
-                        rect.select(rect.selected - 1)
-                    else if (lastX - newX > minFlick && rect.selected < rect.views.length - 1)
-                        rect.select(rect.selected + 1)
+                    if (mouse.x - lastX > minFlick)
+                        rect.swipe(-1)
+                    else if (lastX - mouse.x > minFlick)
+                        rect.swipe(1)
                 }
+            }
+
+            FocusRing {
+                isFocused: rect.activeFocus
+                anchors.leftMargin: rect.selected * plots.width
+                anchors.rightMargin: rect.width - plots.width - anchors.leftMargin
             }
         }
     }

@@ -1,0 +1,43 @@
+import QtQuick 2.7
+import QtQuick.Window 2.7
+
+// Lies over a control that the keyboard can reach: shows where the focus is while the keyboard is used, and tells when
+// Space or Enter presses. The control forwards its keys here.
+Item {
+    id: ring
+
+    property bool isFocused: parent.activeFocus
+
+    signal pressed
+
+    function press() {
+        if (enabled)
+            pressed()
+    }
+
+    anchors.fill: parent
+    Keys.onPressed: {
+        if (event.key !== Qt.Key_Space && event.key !== Qt.Key_Return && event.key !== Qt.Key_Enter)
+            return
+        event.accepted = true
+        if (!event.isAutoRepeat)
+            press()
+    }
+
+    // Light in dark, to be seen on every colour.
+    Rectangle {
+        anchors.fill: parent
+        visible: ring.isFocused && !!ring.Window.window && ring.Window.window.isKeyboardUsed === true
+        color: "transparent"
+        border.color: themeData.darkTextColor
+        border.width: 4
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 1
+            color: "transparent"
+            border.color: themeData.lightTextColor
+            border.width: 2
+        }
+    }
+}
