@@ -76,7 +76,7 @@ FocusScope {
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: parent.width * 0.9
                     height: parent.height
-                    onManualToggled: dialogs.open(manuals, undefined, function (file) {
+                    onManualToggled: dialogs.open(qsTr("Manual"), manuals, undefined, function (file) {
                         Qt.openUrlExternally((contents.vesper ? "../" : "qrc:/") + file)
                     })
                 }

@@ -11,9 +11,33 @@
         <source>Kelvane 7</source>
         <translation>Kelvane 7</translation>
     </message>
+    <message>
+        <source>Manual</source>
+        <translation>Руководство</translation>
+    </message>
 </context>
 <context>
     <name>ButtonLayout</name>
+    <message>
+        <source>Battery</source>
+        <translation>Батарея</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Сведения</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Отключение</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Подключение</translation>
+    </message>
     <message>
         <source>Wait</source>
         <translation>Ждите</translation>
@@ -179,6 +203,13 @@
     </message>
 </context>
 <context>
+    <name>FocusRing</name>
+    <message>
+        <source>Not available</source>
+        <translation>Недоступно</translation>
+    </message>
+</context>
+<context>
     <name>HelpFragment</name>
     <message>
         <source>Mode: </source>
@@ -316,6 +347,18 @@
 </context>
 <context>
     <name>SettingsLayout</name>
+    <message>
+        <source>off</source>
+        <translation>выключен</translation>
+    </message>
+    <message>
+        <source>standard range</source>
+        <translation>стандартный диапазон</translation>
+    </message>
+    <message>
+        <source>wide range</source>
+        <translation>широкий диапазон</translation>
+    </message>
     <message>
         <source>Sound</source>
         <translation>Звук</translation>

@@ -8,6 +8,8 @@ ButtonFrame {
     property alias textColor: label.color
     property alias textSize: label.font.pointSize // No caller today.
 
+    spokenName: text
+
     FittedText {
         id: label
 

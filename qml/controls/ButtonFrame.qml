@@ -12,11 +12,18 @@ Item {
     readonly property real border: frame.border.width
     readonly property real iconSize: Math.max(0, height - 2 * border - radius)
     readonly property real iconOpacity: enabled ? 1 : 0.5
+    // For a screen reader.
+    property string spokenName
 
     signal clicked
 
     activeFocusOnTab: true
     Keys.forwardTo: ring
+    Accessible.role: Accessible.Button
+    Accessible.name: spokenName
+    Accessible.description: ring.availability
+    Accessible.focusable: enabled
+    Accessible.onPressAction: ring.press()
 
     Rectangle {
         id: frame

@@ -2,11 +2,13 @@ import QtQuick 2.7
 import QtQuick.Window 2.7
 
 // Lies over a control that the keyboard can reach: shows where the focus is while the keyboard is used, and tells when
-// Space or Enter presses. The control forwards its keys here.
+// Space, Enter or a screen reader presses. The control forwards its keys here.
 Item {
     id: ring
 
     property bool isFocused: parent.activeFocus
+    // For a screen reader, which is not told otherwise whether a control works.
+    readonly property string availability: enabled ? "" : qsTr("Not available")
 
     signal pressed
 

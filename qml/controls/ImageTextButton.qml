@@ -8,6 +8,8 @@ ButtonFrame {
     property alias textColor: label.color // No caller today.
     property alias textSize: label.font.pointSize // No caller today.
 
+    spokenName: text
+
     Row {
         id: row
 

@@ -10,6 +10,8 @@ Item {
     property alias pressed: mouseArea.pressed
     // While an arrow key is down.
     property bool isStepping: false
+    // For a screen reader.
+    property string spokenName
 
     // The only point at which a value is to be sent: on release of the mouse or of the key, not while the runner moves.
     signal changed
@@ -33,6 +35,11 @@ Item {
             canceled()
     }
 
+    function stepOnce(direction) {
+        step(direction)
+        changed()
+    }
+
     width: 500
     height: 100
     opacity: enabled && !mouseArea.pressed && !isStepping ? 1 : 0.3
@@ -51,6 +58,11 @@ Item {
         event.accepted = true
         endStepping()
     }
+    Accessible.role: Accessible.Slider
+    Accessible.name: spokenName
+    Accessible.focusable: true
+    Accessible.onIncreaseAction: stepOnce(1)
+    Accessible.onDecreaseAction: stepOnce(-1)
 
     Row {
         id: line

@@ -4,6 +4,8 @@ Item {
     id: item
 
     property bool checked: true
+    // For a screen reader.
+    property string spokenName
 
     signal clicked
 
@@ -14,6 +16,13 @@ Item {
 
     activeFocusOnTab: true
     Keys.forwardTo: ring
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: spokenName
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.focusable: true
+    Accessible.onPressAction: ring.press()
+    Accessible.onToggleAction: ring.press()
 
     // The first placing is instant, later moves are to be seen.
     Component.onCompleted: anim.velocity = 200

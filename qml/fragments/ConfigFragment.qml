@@ -106,7 +106,7 @@ Item {
 
                 title: qsTr("Scan mode")
                 summary: qsTr("Radioscan frequence")
-                onClicked: dialogs.open(scanModes, confHndlr.enumMode, confHndlr.setStringMode)
+                onClicked: dialogs.open(title, scanModes, confHndlr.enumMode, confHndlr.setStringMode)
             }
 
             ConfigPreference {
@@ -114,7 +114,7 @@ Item {
 
                 title: qsTr("AI mode")
                 summary: qsTr("AI mode configure")
-                onClicked: dialogs.open(aiModes, aiPriorHndlr.enumAiPrior, aiPriorHndlr.setAiPrior)
+                onClicked: dialogs.open(title, aiModes, aiPriorHndlr.enumAiPrior, aiPriorHndlr.setAiPrior)
             }
         }
 
@@ -148,7 +148,7 @@ Item {
 
                 title: qsTr("Alarm level")
                 summary: qsTr("Speech alert with signal level specified and higher")
-                onClicked: dialogs.open(alarmLevels, confK7Hndlr.voiceDbLvl, function (level) {
+                onClicked: dialogs.open(title, alarmLevels, confK7Hndlr.voiceDbLvl, function (level) {
                     confK7Hndlr.voiceDbLvl = level
                     confK7Hndlr.changed()
                 })
@@ -178,7 +178,7 @@ Item {
 
                 title: qsTr("Headphones output")
                 summary: qsTr("3.5 mm headphones output mode")
-                onClicked: dialogs.open(headModes, confK7Hndlr.enumMode(), confK7Hndlr.setMode)
+                onClicked: dialogs.open(title, headModes, confK7Hndlr.enumMode(), confK7Hndlr.setMode)
             }
 
             ConfigSwitchPreference {

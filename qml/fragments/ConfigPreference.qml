@@ -9,6 +9,11 @@ PreferenceRow {
 
     activeFocusOnTab: true
     Keys.forwardTo: ring
+    Accessible.role: Accessible.ButtonMenu
+    Accessible.name: title
+    Accessible.description: summary
+    Accessible.focusable: true
+    Accessible.onPressAction: ring.press()
 
     MouseArea {
         anchors.fill: parent

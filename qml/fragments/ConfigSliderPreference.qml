@@ -36,6 +36,8 @@ PreferenceRow {
 
             width: parent.width - label.width
             height: themeData.iconSizeSmall
+            spokenName: row.title
+            Accessible.description: row.summary
             onChanged: {
                 mirrored.commit()
                 row.changed()

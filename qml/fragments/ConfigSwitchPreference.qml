@@ -28,6 +28,8 @@ PreferenceRow {
         anchors.rightMargin: themeData.fontSizeSmall
         width: themeData.iconSizeLarge * 1.5
         height: parent.height
+        spokenName: row.title
+        Accessible.description: row.summary
         onClicked: {
             mirrored.commit()
             row.clicked()

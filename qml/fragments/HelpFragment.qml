@@ -32,6 +32,8 @@ Item {
         wrapMode: Text.WordWrap
         color: themeData.lightTextColor
         font.pointSize: themeData.fontSizeSmall
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     component InfoText: FittedText {
@@ -40,6 +42,8 @@ Item {
         textFormat: Text.PlainText
         color: themeData.lightTextColor
         font.pointSize: themeData.fontSizeTiny
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     ListModel {
@@ -100,6 +104,9 @@ Item {
                     color: themeData.lightTextColor
                     font.pointSize: themeData.fontSizeSmall
                     text: stringRange
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                    Accessible.ignored: text === ""
                 }
             }
 

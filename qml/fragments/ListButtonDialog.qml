@@ -8,6 +8,8 @@ Item {
     id: dialog
 
     property alias model: list.model
+    // For a screen reader.
+    property string title
     property int size: 1
     property var current: "."
     // Where the keyboard was, to return there.
@@ -49,6 +51,8 @@ Item {
     Keys.onDownPressed: move(1)
     Keys.onUpPressed: move(-1)
     Keys.onEscapePressed: end()
+    Accessible.role: Accessible.Dialog
+    Accessible.name: title
 
     NumberAnimation {
         id: disappear
@@ -88,6 +92,8 @@ Item {
             height: themeData.iconSizeMedium
             text: name
             activeFocusOnTab: false
+            Accessible.checkable: true
+            Accessible.checked: dialog.current === value
             textColor: themeData.darkTextColor
             color: dialog.current === value ? themeData.currentEntryColor : themeData.lightTextColor
             onClicked: {

@@ -5,10 +5,11 @@ QtObject {
     property var component
 
     // The entries have a name and a value each. `selected` is called with the value of the one that the user chooses.
-    function open(entries, current, selected) {
+    function open(title, entries, current, selected) {
         var dialog = component.createObject(window)
         if (!dialog)
             return
+        dialog.title = title
         dialog.size = entries.count
         dialog.model = entries
         dialog.current = current

@@ -7,4 +7,6 @@ Text {
     wrapMode: Text.WordWrap
     color: themeData.accentColor
     font.bold: true
+    Accessible.role: Accessible.Heading
+    Accessible.name: text
 }

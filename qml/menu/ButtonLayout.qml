@@ -44,6 +44,7 @@ Item {
             enabled: usbService.isUsbActive
             iconSource: buttonLayout.icon(level, "battery", chargeButton)
             text: charge + "%"
+            spokenName: qsTr("Battery") + " " + text
             onClicked: usbService.sendGetState()
         }
 
@@ -58,6 +59,8 @@ Item {
             color: masked ? themeData.maskColor : chargeButton.color
             enabled: usbService.isUsbActive && !waiting
             text: waiting ? qsTr("Wait") : qsTr("Mask")
+            Accessible.checkable: true
+            Accessible.checked: masked
             onClicked: {
                 waiting = true
                 usbService.setMask()
@@ -81,6 +84,7 @@ Item {
             height: buttonLayout.buttonHeigth
             enabled: usbService.isUsbActive
             iconSource: buttonLayout.icon("cfg", "setting", configButton)
+            spokenName: qsTr("Settings")
             onClicked: buttonLayout.config()
         }
 
@@ -93,6 +97,7 @@ Item {
             width: themeData.iconSizeMedium
             height: buttonLayout.buttonHeigth
             iconSource: buttonLayout.icon("info", "about", helpButton)
+            spokenName: qsTr("Information")
             onClicked: {
                 pressToTest = usbService.isUsbActive ? 0 : pressToTest + 1
                 if (pressToTest === 12) {
@@ -109,6 +114,7 @@ Item {
             width: themeData.iconSizeMedium
             height: buttonLayout.buttonHeigth
             iconSource: buttonLayout.icon("usb", "usb", usbConnectButton)
+            spokenName: usbService.isUsbActive ? qsTr("Disconnect") : qsTr("Connect")
             onClicked: {
                 if (usbService.isUsbActive)
                     usbService.disconnect()

@@ -1,4 +1,4 @@
-import QtQuick 2.0
+import QtQuick 2.7
 
 import "../controls"
 
@@ -27,6 +27,8 @@ Item {
         delegate: Rectangle {
             readonly property var fills: [themeData.wifiColor, themeData.digColor, themeData.fpvColor]
 
+            Accessible.role: Accessible.StaticText
+            Accessible.name: modelData
             width: (legendLayout.width - 4 * row.offset) / 3
             height: legendLayout.rectHeigth
             border.color: themeData.strokeColor

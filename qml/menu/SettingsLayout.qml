@@ -70,6 +70,8 @@ Item {
                     MouseArea {
                         id: band
 
+                        readonly property var positions: [qsTr("off"), qsTr("standard range"), qsTr("wide range")]
+
                         function press() {
                             sw.nextPosition()
                             valueRange = sw.position
@@ -84,6 +86,14 @@ Item {
                                 ranges.bandInFocus = index
                         }
                         Keys.forwardTo: ring
+                        Accessible.role: Accessible.CheckBox
+                        Accessible.name: stringMode
+                        Accessible.description: ring.availability || positions[sw.position]
+                        Accessible.checkable: true
+                        Accessible.checked: sw.position !== UavThreeSwitch.OFF
+                        Accessible.focusable: enabled
+                        Accessible.onPressAction: ring.press()
+                        Accessible.onToggleAction: ring.press()
                         Component.onCompleted: {
                             if (ranges.activeFocus && ranges.bandInFocus === index)
                                 forceActiveFocus()
@@ -224,6 +234,8 @@ Item {
             font.pointSize: themeData.fontSizeLarge
             color: themeData.testModeColor
             text: "TEST MODE"
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             visible: usbService.isUsbActive && usbService.inTesting
         }
     }

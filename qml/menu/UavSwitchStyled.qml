@@ -22,6 +22,14 @@ Item {
     enabled: switchEnabled
     activeFocusOnTab: true
     Keys.forwardTo: ring
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.description: ring.availability
+    Accessible.focusable: enabled
+    Accessible.onPressAction: ring.press()
+    Accessible.onToggleAction: ring.press()
 
     MouseArea {
         width: item.width

@@ -117,6 +117,12 @@ Rectangle {
             }
             Keys.onLeftPressed: swipe(-1)
             Keys.onRightPressed: swipe(1)
+            Accessible.role: Accessible.Grouping
+            Accessible.name: views[selected].Accessible.name
+            Accessible.description: newestInWords
+            Accessible.focusable: true
+            Accessible.onPreviousPageAction: swipe(-1)
+            Accessible.onNextPageAction: swipe(1)
             Component.onCompleted: {
                 if (plots.activeFocus && plots.rowInFocus === index)
                     forceActiveFocus()

@@ -1,0 +1,355 @@
+#include "screen-fixture.h"
+
+#include <QAccessible>
+
+using namespace testing;
+
+static std::string told(QAccessibleInterface *of, QAccessible::Text text) {
+    return of->text(text).toStdString();
+}
+
+/// The screens as someone has them who has no mouse, or does not see them.
+class KeyboardTest : public ScreenFixture {
+protected:
+    void open() {
+        connectTo(ProtoEnum::K7);
+        deviceSays(config);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    }
+    void press(Qt::Key key) { QTest::keyClick(window, key); }
+    QAccessibleInterface *focus() const {
+        return QAccessible::queryAccessibleInterface(window->activeFocusItem());
+    }
+    std::string name() const { return focus() ? told(focus(), QAccessible::Name) : "none"; }
+    /// Everything that a key goes to, from the one after the focus until it is there again.
+    std::string walk(Qt::Key key) {
+        press(key);
+        const QQuickItem *first = window->activeFocusItem();
+        std::string names;
+        for (int steps = 0; steps < 60 && (steps == 0 || window->activeFocusItem() != first); ++steps) {
+            names += name() + '|';
+            press(key);
+        }
+        return names;
+    }
+    /// Walks to the first control with a name after one of another.
+    void walkTo(const std::string &wanted, const std::string &after = {}) {
+        for (const std::string &each : {after, wanted})
+            for (int steps = 0; !each.empty() && name() != each && steps < 60; ++steps)
+                press(Qt::Key_Tab);
+        EXPECT_EQ(name(), wanted);
+    }
+    std::string views() const {
+        ScreenDriver::waitFor([this] { return driver->findAll("LayeredPlot").size() == 4; });
+        std::string views;
+        for (const QQuickItem *view : driver->findAll("LayeredPlot"))
+            views += view->metaObject()->className()[0];
+        return views;
+    }
+
+    static constexpr auto config =
+        R"({"type":"CONFIG","proto":"K7","mode":"BASE","ranges":["STD_1200","EXT_2400"],"indSnd":true,"indSndLvl":99})";
+};
+
+TEST_F(KeyboardTest, TabWalksEveryControlInReadingOrder) {
+    EXPECT_EQ(walk(Qt::Key_Tab), "Information|Connect|");
+    open();
+    const std::string bands = "Bars 1.2|Bars 2.4|Bars 4.9|Bars 5.8|";
+    const std::string drawer = "Scan mode|AI mode|Voice alarm|Alarm level|Sound volume|Headphones volume|"
+                               "Headphones output|Sound|Vibro|Brightness|Display timeout|";
+    const std::string menu = "Battery 87%|Mask|Fabric settings|Settings|Information|Disconnect|"
+                             "1.2|2.4+|4.9|5.8|Sound|Vibro|Wi-Fi|Dig|Sens: High|AI: Default|";
+    walkTo("AI: Default");
+    EXPECT_EQ(walk(Qt::Key_Tab), bands + menu);
+    click("cfg");
+    walkTo("AI: Default");
+    EXPECT_EQ(walk(Qt::Key_Tab), bands + drawer + menu);
+    driver->resize({400, 500});
+    for (const char *title : {"Display timeout", "Scan mode"}) {
+        walkTo(title, "Settings");
+        EXPECT_TRUE(ScreenDriver::isInView(*window->activeFocusItem(), *driver->find("DrawerFrame")));
+    }
+    press(Qt::Key_Space);
+    EXPECT_EQ(name(), "Standard") << "the current entry";
+    EXPECT_EQ(walk(Qt::Key_Tab), "Automatic|Continuous|Efficient|Standard|");
+    EXPECT_EQ(walk(Qt::Key_Backtab), "Standard|Efficient|Continuous|Automatic|");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(name(), "Scan mode");
+    click("info");
+    EXPECT_EQ(name(), "Settings") << "what has closed has no keys";
+    walkTo("Bars 1.2");
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(name(), "AI: Default");
+}
+
+TEST_F(KeyboardTest, PressesAsAClickDoes) {
+    open();
+    click("cfg");
+    const auto sent = [&](const QString &control, const std::function<void()> &gesture) {
+        for (const char *text :
+             {config, R"({"type":"CONFIG_K7","voiceEn":true})", R"({"type":"AI_PRIOR","aiPrior":"FIELD"})",
+              R"({"type":"SCAN_RESULT","mask":false})"})
+            deviceSays(text);
+        walkTo(control.section('/', 1).toStdString(), control.section('/', 0, 0).toStdString());
+        return sentBy(gesture);
+    };
+    const Qt::Key keys[] = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
+    int presses = 0;
+    for (const char *control : {"Bars 1.2/Voice alarm", "Bars 1.2/Vibro", "/Battery 87%", "/Mask",
+                                "/Fabric settings", "Settings/1.2", "Settings/2.4+", "Settings/Sound",
+                                "Settings/Vibro", "Settings/Wi-Fi", "Settings/Dig", "Settings/Sens: High"}) {
+        const auto byClick = sent(control, [this] { driver->click(*window->activeFocusItem()); });
+        EXPECT_THAT(byClick, Not(IsEmpty())) << control;
+        EXPECT_EQ(sent(control, [&] { press(keys[++presses % 3]); }), byClick) << control;
+    }
+    walkTo("AI: Default");
+    const auto field = edits("AI_PRIOR aiPrior", R"("FIELD")");
+    EXPECT_EQ(sentBy([this] { press(Qt::Key_Space); }), field);
+    deviceSays(config);
+    walkTo("4.9");
+    std::string modes;
+    for (int step = 0; step < 4; ++step) {
+        press(Qt::Key_Space);
+        modes += name() + ' ';
+    }
+    deviceSays(config);
+    EXPECT_EQ(modes + name(), "4.9 4.9+ 4.9 4.9 4.9") << "switches made anew keep the keyboard";
+
+    walkTo("Scan mode");
+    press(Qt::Key_Space);
+    press(Qt::Key_Down);
+    const auto isAuto = HasSubstr(R"("mode" : "AUTO")");
+    EXPECT_THAT(sentBy([this] { press(Qt::Key_Return); }), ElementsAre(isAuto, isAuto));
+    press(Qt::Key_Space);
+    EXPECT_THAT(sentBy([this] { press(Qt::Key_Escape); }), IsEmpty());
+    EXPECT_TRUE(!driver->find("ListButtonDialog") && driver->find("DrawerFrame"));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(driver->find("DrawerFrame"));
+    EXPECT_EQ(name(), "Settings");
+    press(Qt::Key_Space);
+    EXPECT_TRUE(driver->control("Detection"));
+    walkTo("Information");
+    press(Qt::Key_Space);
+    EXPECT_TRUE(driver->control("Manual") && !driver->control("Detection"));
+    walkTo("Mask");
+    press(Qt::Key_Space);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(driver->find("DrawerFrame")) << "with the keyboard on what can't take it";
+    walkTo("Disconnect");
+    press(Qt::Key_Space);
+    EXPECT_FALSE(isConnected());
+    press(Qt::Key_Space);
+    EXPECT_TRUE(ScreenDriver::waitFor([this] { return isConnected(); }));
+}
+
+TEST_F(KeyboardTest, StepsASliderAndSendsOnceTheKeyIsReleased) {
+    connectTo(ProtoEnum::K7);
+    click("cfg");
+    const auto hold = [this](Qt::Key key, int repeats) {
+        for (int step = 0; step <= repeats; ++step) {
+            QKeyEvent down(QEvent::KeyPress, key, {}, {}, step > 0),
+                up(QEvent::KeyRelease, key, {}, {}, true);
+            QCoreApplication::sendEvent(window, &down);
+            if (step < repeats)
+                QCoreApplication::sendEvent(window, &up);
+        }
+    };
+    struct {
+        const char *title;
+        Qt::Key key;
+        int repeats;
+        const char *settings, *value;
+    } const steps[] = {{"Sound volume", Qt::Key_Left, 2, "CONFIG indSndLvl", "97"},
+                       {"Sound volume", Qt::Key_Right, 9, "CONFIG indSndLvl", "100"},
+                       {"Headphones volume", Qt::Key_Left, 29, "CONFIG_K7 indHeadLvl", "0"},
+                       {"Brightness", Qt::Key_Left, 0, "CONFIG indLedLvl, CONFIG_K7 dispLvl", "49"},
+                       {"Display timeout", Qt::Key_Right, 1, "CONFIG_K7 dispOffTime", "40"}};
+    for (const auto &[title, key, repeats, settings, value] : steps) {
+        walkTo(title);
+        const auto expected = edits(settings, value);
+        EXPECT_THAT(sentBy([&, k = key, n = repeats] { hold(k, n); }), IsEmpty()) << title;
+        EXPECT_EQ(sentBy([&, k = key] { QTest::keyRelease(window, k); }), expected) << title << value;
+    }
+    const auto told = R"({"type":"CONFIG_K7","dispOffTime":32})";
+    for (const auto &[key, value] : {std::pair(Qt::Key_Left, "30"), {Qt::Key_Right, "35"}}) {
+        deviceSays(told);
+        hold(key, 0);
+        deviceSays(told);
+        const auto isOnStep = HasSubstr(std::string("\"dispOffTime\" : ") + value);
+        EXPECT_THAT(sentBy([&, k = key] { QTest::keyRelease(window, k); }), ElementsAre(isOnStep, isOnStep));
+    }
+    const auto left = sentBy([&] {
+        hold(Qt::Key_Right, 0);
+        press(Qt::Key_Tab);
+        QTest::keyRelease(window, Qt::Key_Right);
+    });
+    EXPECT_EQ(left.size(), 2U) << "a slider that the keyboard leaves";
+    walkTo("Sound volume");
+    hold(Qt::Key_Left, 0);
+    disconnect();
+    connect();
+    EXPECT_THAT(sentBy([&] { QTest::keyRelease(window, Qt::Key_Left); }), IsEmpty());
+    click("cfg");
+    EXPECT_TRUE(driver->find("QQuickText", "100"));
+}
+
+TEST_F(KeyboardTest, SwipesTheBandInFocus) {
+    open();
+    walkTo("Bars 2.4");
+    std::string shown;
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left}) {
+        press(key);
+        shown += views() + '|';
+    }
+    EXPECT_EQ(shown, "BBBB|BFBB|BHBB|BHBB|BFBB|");
+    EXPECT_EQ(name(), "Course 2.4");
+    deviceSays(config);
+    EXPECT_EQ(views() + name(), "BBBBBars 2.4") << "rows made anew keep the keyboard";
+}
+
+TEST_F(KeyboardTest, ARingShowsTheFocusWhileTheKeyboardIsUsedAlone) {
+    driver->resize({800, 2200});
+    open();
+    click("cfg");
+    QImage without;
+    ASSERT_TRUE(ScreenDriver::waitFor([&] { // until the switches have glided to their places
+        QTest::qWait(100);
+        return std::exchange(without, driver->picture()) == without;
+    }));
+    for (const char *control :
+         {"Bars 2.4", "Scan mode", "Voice alarm", "Sound volume", "Mask", "1.2", "Dig"}) {
+        walkTo(control);
+        const QImage with = driver->picture();
+        const QQuickItem &item = *window->activeFocusItem();
+        const QRect place = item.mapRectToScene(item.boundingRect()).toRect() & without.rect();
+        QRect changed;
+        for (int i = 0; i < with.width() * with.height(); ++i)
+            if (const QPoint at(i % with.width(), i / with.width()); with.pixel(at) != without.pixel(at))
+                changed |= QRect(at, at);
+        EXPECT_TRUE(place.contains(changed)) << control;
+        EXPECT_GT(changed.width() * changed.height(), 0.8 * place.width() * place.height()) << control;
+        driver->clickAt({1, 660});
+        EXPECT_EQ(driver->picture(), without) << control;
+    }
+}
+
+/// What a screen reader finds in an item, in its order: role, name, value, state, and in brackets the
+/// description.
+static std::string tree(QAccessibleInterface *of) {
+    std::string all;
+    const auto state = of->state();
+    if (of->object()->inherits("QQuickItem") && !state.invisible) {
+        all = std::string(qAccessibleRoleString(of->role())) + ' ' + told(of, QAccessible::Name);
+        if (auto *value = of->valueInterface())
+            all += ' ' + value->currentValue().toString().toStdString() + " of " +
+                   value->maximumValue().toString().toStdString();
+        all += state.checkable ? state.checked ? " on" : " off" : "";
+        const std::string description = told(of, QAccessible::Description);
+        all += (description.empty() ? "" : " [" + description + ']') + '\n';
+    }
+    for (int i = 0; i < of->childCount(); ++i)
+        all += tree(of->child(i));
+    return all;
+}
+
+TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
+    const auto found = [this] { return '\n' + tree(QAccessible::queryAccessibleInterface(window)); };
+    const auto act = [this](const char *name, const QString &action) {
+        for (QQuickItem *item : driver->findAll({}))
+            if (auto *reader = QAccessible::queryAccessibleInterface(item);
+                reader && reader->actionInterface() && told(reader, QAccessible::Name) == name)
+                return reader->actionInterface()->doAction(action);
+    };
+    const QString press = QAccessibleActionInterface::pressAction();
+    EXPECT_EQ(found(), R"(
+StaticText Wi-Fi
+StaticText DIG
+StaticText FPV
+Button Battery 0% [Not available]
+Button Mask off [Not available]
+Button Fabric settings [Not available]
+Button Settings [Not available]
+Button Information
+Button Connect
+CheckBox Sound off [Not available]
+CheckBox Vibro off [Not available]
+CheckBox Wi-Fi off [Not available]
+CheckBox Dig off [Not available]
+Button Sens: ?)"
+                       R"(?? [Not available]
+Button AI: None [Not available]
+)");
+    open();
+    click("cfg");
+    act("Scan mode", press);
+    EXPECT_EQ(found(), R"(
+Grouping Bars 1.2 [No signal]
+Chart Bars 1.2 [No signal]
+Grouping Bars 2.4 [No signal]
+Chart Bars 2.4 [No signal]
+Grouping Bars 4.9 [No signal]
+Chart Bars 4.9 [No signal]
+Grouping Bars 5.8 [No signal]
+Chart Bars 5.8 [No signal]
+Heading Detection
+ButtonMenu Scan mode [Radioscan frequence]
+ButtonMenu AI mode [AI mode configure]
+Heading Alarm
+CheckBox Voice alarm on [Speak detection results]
+ButtonMenu Alarm level [Speech alert with signal level specified and higher]
+Slider Sound volume 99 of 100 [Alarm sound volume]
+Slider Headphones volume 25 of 100 [3.5 mm headphones volume]
+ButtonMenu Headphones output [3.5 mm headphones output mode]
+CheckBox Sound on [Sound alarm]
+CheckBox Vibro off [Vibro alarm]
+Heading Interface
+Slider Brightness 0 of 100 [Indication brightness]
+Slider Display timeout 30 of 360 [Shut off the display for inactivity in seconds]
+StaticText Wi-Fi
+StaticText DIG
+StaticText FPV
+Button Battery 87%
+Button Mask off
+Button Fabric settings
+Button Settings
+Button Information
+Button Disconnect
+CheckBox 1.2 on [standard range]
+CheckBox 2.4+ on [wide range]
+CheckBox 4.9 off [off]
+CheckBox 5.8 off [off]
+CheckBox Sound on
+CheckBox Vibro off
+CheckBox Wi-Fi off
+CheckBox Dig off
+Button Sens: High
+Button AI: Default
+Dialog Scan mode
+Button Efficient off
+Button Standard on
+Button Automatic off
+Button Continuous off
+)");
+    const auto isAuto = HasSubstr(R"("mode" : "AUTO")"), isLouder = HasSubstr(R"("indSndLvl" : 100)");
+    EXPECT_THAT(sentBy([&] { act("Automatic", press); }), ElementsAre(isAuto, isAuto));
+    EXPECT_TRUE(ScreenDriver::waitFor([this] { return !driver->find("ListButtonDialog"); }));
+    EXPECT_THAT(sentBy([&] { act("Sound volume", QAccessibleActionInterface::increaseAction()); }),
+                ElementsAre(isLouder, isLouder));
+    const auto isOff = HasSubstr(R"("voiceEn" : false)");
+    EXPECT_THAT(sentBy([&] { act("Voice alarm", QAccessibleActionInterface::toggleAction()); }),
+                ElementsAre(isOff, isOff));
+    EXPECT_THAT(sentBy([&] { act("Mask", press); }), ElementsAre(HasSubstr("SET_MASK")));
+    EXPECT_THAT(sentBy([&] { act("Wait", press); }), IsEmpty());
+    act("Bars 2.4", QAccessibleActionInterface::nextPageAction());
+    EXPECT_EQ(views(), "BFBB");
+    click("info");
+    EXPECT_THAT(found(), HasSubstr(R"(
+StaticText Mode: 
+StaticText Automatic
+StaticText Frequency bands: 
+StaticText 1000-1680
+StaticText 2350-2550
+StaticText Indication brightness: 
+)"));
+    EXPECT_THAT(found(), HasSubstr("\nStaticText Application: v1.1\n"));
+}
