@@ -40,7 +40,26 @@ public:
     }
 };
 
+/// Whether a platform has no display.
+bool isMadeUp(const QString &platform) {
+    return platform.startsWith("offscreen") || platform.startsWith("minimal");
+}
+
 } // namespace
+
+void followDesktopScale(int argc, char **argv) {
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    // Words have their places in pixels, so a larger text of the desktop enlarges the window as a whole.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    // Screens that are made up have a text of 100 dpi, which nobody has asked for.
+    QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    for (int i = 1; i + 1 < argc; ++i)
+        if (QByteArray(argv[i]).endsWith("-platform"))
+            platform = argv[i + 1];
+    if (isMadeUp(platform) && qEnvironmentVariableIntValue("QT_FONT_DPI") <= 0)
+        qputenv("QT_FONT_DPI", "96");
+}
 
 void registerTypes() {
     qmlRegisterType<Guarded<BarScanResultPlot>>("barScanResultPlot", 1, 0, "BarScanResultPlot");
@@ -95,8 +114,7 @@ void ScreenEngine::load(const QUrl &document) {
 
 void ScreenEngine::fitToScreen() {
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    const QString platform = QGuiApplication::platformName();
-    if (!window || platform == "offscreen" || platform == "minimal")
+    if (!window || isMadeUp(QGuiApplication::platformName()))
         return;
     const auto fit = [window] {
         window->resize(fittingSize(window->size(), window->minimumSize(), window->screen()->availableSize(),

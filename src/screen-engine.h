@@ -14,6 +14,10 @@
 #include <QString>
 #include <QUrl>
 
+/// Has Qt scale windows by the very factor of the desktop and of its text. Before the application object,
+/// which takes some of the arguments away.
+void followDesktopScale(int argc, char **argv);
+
 /// Tells Qt of the elements that the documents import and of the values that cross threads and documents.
 /// Once for each process, before the first engine.
 void registerTypes();

@@ -213,9 +213,11 @@ int fail(const QString &text) {
 } // namespace
 
 int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Without a display and without a graphics card, unless the user names another platform.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    followDesktopScale(argc, argv);
     registerTypes();
     QGuiApplication app(argc, argv);
     if (argc != 2)
