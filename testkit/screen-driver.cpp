@@ -178,5 +178,7 @@ QImage ScreenDriver::picture() const {
     if (drawn.isEmpty())
         drawn.wait();
     // QQuickWindow::grabWindow() gives nothing on the offscreen platform with software rendering.
-    return window.screen()->grabWindow(window.winId()).toImage();
+    // Of a window on Wayland there is no other picture.
+    const QImage picture = window.screen()->grabWindow(window.winId()).toImage();
+    return picture.isNull() ? window.grabWindow() : picture;
 }

@@ -29,6 +29,7 @@ public:
         shoot("bars");
         visitHelp();
         visitSettings();
+        visitByKeyboard();
         swipeAllBands();
         shoot("course-of-the-strongest-signal");
         swipeAllBands();
@@ -106,6 +107,24 @@ private:
         shoot("settings-scrolled");
         visitDialog("Headphones output");
         press("cfg");
+    }
+
+    /// The ring around what has the keyboard: a band, and a slider of the settings.
+    void visitByKeyboard() {
+        tabTo("QQuickRectangle");
+        shoot("keyboard-band");
+        press("cfg");
+        tabTo("Slider");
+        shoot("keyboard-slider");
+        press("cfg");
+    }
+
+    void tabTo(const QString &element) {
+        for (int steps = 0; !driver->findAll(element).contains(window->activeFocusItem()); ++steps) {
+            if (steps == 100)
+                throw failure("The keyboard does not reach a " + element);
+            QTest::keyClick(window, Qt::Key_Tab);
+        }
     }
 
     void scrollSettings() {
@@ -195,7 +214,10 @@ private:
         const QString file =
             pictures.filePath(QString("%1-%2.png").arg(++shots, 2, 10, QChar('0')).arg(state));
         const QImage picture = driver->picture();
-        const QRect area = part ? part->mapRectToScene(part->boundingRect()).toRect() : picture.rect();
+        const double scale = picture.width() / static_cast<double>(window->width());
+        const QRectF place = part ? part->mapRectToScene(part->boundingRect()) : QRectF();
+        const QRect area =
+            part ? QRectF(place.topLeft() * scale, place.size() * scale).toRect() : picture.rect();
         if (!picture.copy(area).save(file))
             throw failure("Can't write " + file);
         std::printf("%s\n", qPrintable(file));
