@@ -1,5 +1,7 @@
 #include "screen-fixture.h"
 
+#include <QQmlComponent>
+
 using namespace testing;
 
 /// The look of a switch ("on", "off") or of a slider whose runner stands at x.
@@ -153,6 +155,21 @@ TEST_F(ConfigDrawerTest, FollowsTheGenerationAndTheWindow) {
     EXPECT_TRUE(isInView("Detection") && !isInView("Display timeout"));
     EXPECT_TRUE(driver->scrollDown(frame));
     EXPECT_TRUE(!isInView("Detection") && isInView("Display timeout"));
+}
+
+TEST_F(ConfigDrawerTest, ASwitchTakesItsFirstPlaceAtOnceAndGlidesToTheNext) {
+    QQmlComponent document(&engine->qmlEngine(), QUrl("qrc:/qml/controls/Switch.qml"));
+    const std::unique_ptr<QObject> made(document.createWithInitialProperties({{"width", 120}}));
+    const QQuickItem &knob = *qobject_cast<QQuickItem *>(made.get())->childItems()[1];
+    EXPECT_EQ(knob.x(), 30);
+    made->setProperty("checked", false);
+    EXPECT_EQ(knob.x(), 30);
+    QVariant velocity;
+    for (const QObject *part : knob.findChildren<QObject *>())
+        if (part->inherits("QQuickSmoothedAnimation"))
+            velocity = part->property("velocity");
+    EXPECT_EQ(velocity, 200);
+    EXPECT_TRUE(ScreenDriver::waitFor([&] { return knob.x() == 0; }));
 }
 
 TEST_F(ConfigDrawerTest, ADragFromASliderEitherScrollsTheDrawerOrSetsTheValue) {

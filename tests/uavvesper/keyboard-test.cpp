@@ -17,6 +17,16 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
     }
     void press(Qt::Key key) { QTest::keyClick(window, key); }
+    /// A key that is down and repeats itself.
+    void hold(Qt::Key key, int repeats) {
+        for (int step = 0; step <= repeats; ++step) {
+            QKeyEvent down(QEvent::KeyPress, key, {}, {}, step > 0),
+                up(QEvent::KeyRelease, key, {}, {}, true);
+            QCoreApplication::sendEvent(window, &down);
+            if (step < repeats)
+                QCoreApplication::sendEvent(window, &up);
+        }
+    }
     QAccessibleInterface *focus() const {
         return QAccessible::queryAccessibleInterface(window->activeFocusItem());
     }
@@ -102,6 +112,8 @@ TEST_F(KeyboardTest, PressesAsAClickDoes) {
         EXPECT_THAT(byClick, Not(IsEmpty())) << control;
         EXPECT_EQ(sent(control, [&] { press(keys[++presses % 3]); }), byClick) << control;
     }
+    walkTo("Vibro", "Settings");
+    EXPECT_EQ(sentBy([this] { hold(Qt::Key_Space, 3); }).size(), 2U) << "one press";
     walkTo("AI: Default");
     const auto field = edits("AI_PRIOR aiPrior", R"("FIELD")");
     EXPECT_EQ(sentBy([this] { press(Qt::Key_Space); }), field);
@@ -145,15 +157,6 @@ TEST_F(KeyboardTest, PressesAsAClickDoes) {
 TEST_F(KeyboardTest, StepsASliderAndSendsOnceTheKeyIsReleased) {
     connectTo(ProtoEnum::K7);
     click("cfg");
-    const auto hold = [this](Qt::Key key, int repeats) {
-        for (int step = 0; step <= repeats; ++step) {
-            QKeyEvent down(QEvent::KeyPress, key, {}, {}, step > 0),
-                up(QEvent::KeyRelease, key, {}, {}, true);
-            QCoreApplication::sendEvent(window, &down);
-            if (step < repeats)
-                QCoreApplication::sendEvent(window, &up);
-        }
-    };
     struct {
         const char *title;
         Qt::Key key;
@@ -212,6 +215,7 @@ TEST_F(KeyboardTest, SwipesTheBandInFocus) {
 TEST_F(KeyboardTest, ARingShowsTheFocusWhileTheKeyboardIsUsedAlone) {
     driver->resize({800, 2200});
     open();
+    driver->drag({500, 600}, {300, 600});
     click("cfg");
     QImage without;
     ASSERT_TRUE(ScreenDriver::waitFor([&] { // until the switches have glided to their places
@@ -219,7 +223,7 @@ TEST_F(KeyboardTest, ARingShowsTheFocusWhileTheKeyboardIsUsedAlone) {
         return std::exchange(without, driver->picture()) == without;
     }));
     for (const char *control :
-         {"Bars 2.4", "Scan mode", "Voice alarm", "Sound volume", "Mask", "1.2", "Dig"}) {
+         {"Course 2.4", "Scan mode", "Voice alarm", "Sound volume", "Mask", "1.2", "Dig"}) {
         walkTo(control);
         const QImage with = driver->picture();
         const QQuickItem &item = *window->activeFocusItem();
@@ -233,6 +237,8 @@ TEST_F(KeyboardTest, ARingShowsTheFocusWhileTheKeyboardIsUsedAlone) {
         driver->clickAt({1, 660});
         EXPECT_EQ(driver->picture(), without) << control;
     }
+    press(Qt::Key_Backtab);
+    EXPECT_NE(driver->picture(), without);
 }
 
 /// What a screen reader finds in an item, in its order: role, name, value, state, and in brackets the

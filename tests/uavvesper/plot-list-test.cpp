@@ -83,6 +83,10 @@ TEST_F(PlotListTest, DividesThePageAmongTheBandsWithThreeViewsEach) {
                              "1600 #000000  #ffffff #808080 2 10  ");
         }
     }
+    driver->resize({800, 1345});
+    EXPECT_EQ(driver->find("MainPage")->height(), 1003);
+    for (std::size_t row = 0; row < 3; ++row)
+        EXPECT_EQ(ScreenDriver::place(*views()[row]), "800x334+0+" + std::to_string(334 * row));
     disconnect();
     EXPECT_THAT(views(), IsEmpty());
 }
