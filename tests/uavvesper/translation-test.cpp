@@ -35,7 +35,10 @@ TEST(Translation, HasEveryWordOfTheScreensAndTheManualsExplainThem) {
     }
     EXPECT_GT(words, 50);
     for (const char *manual : {":/manuals/help_K6.pdf", ":/manuals/help_K7.pdf"})
-        EXPECT_TRUE(contentOf(manual).startsWith("%PDF-")) << manual;
+        EXPECT_THAT(contentOf(manual).toStdString(),
+                    AllOf(StartsWith("%PDF-"), HasSubstr("/Title "), HasSubstr("/Lang (en)"),
+                          HasSubstr("(en, ru)"), HasSubstr("/Dest (en)"), HasSubstr("/Dest (ru)")))
+            << manual;
 }
 
 struct RussianScreensTest : ScreenFixture {
