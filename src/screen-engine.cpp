@@ -17,6 +17,8 @@
 #include <QScreen>
 #include <QTranslator>
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 namespace {
 
@@ -40,25 +42,29 @@ public:
     }
 };
 
-/// Whether a platform has no display.
-bool isMadeUp(const QString &platform) {
-    return platform.startsWith("offscreen") || platform.startsWith("minimal");
+/// Whether the desktop's text asks for a whole factor but for a twentieth: a display tells its resolution by
+/// its size in whole millimetres, so that 96 dpi read as 96.1, and screens that are made up have 100.
+bool isAboutWhole(const QScreen *screen) {
+    const double factor = screen->logicalDotsPerInch() / 96;
+    return qAbs(factor - qRound(factor)) < 0.05;
 }
 
 } // namespace
 
 void followDesktopScale(int argc, char **argv) {
+    using Policy = Qt::HighDpiScaleFactorRoundingPolicy;
+    // How to round has to be said before there is an application object, and only one tells of the screens.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::PassThrough);
+    std::vector<char *> arguments(argv, argv + argc + 1);
+    auto probe = std::make_unique<QGuiApplication>(argc, arguments.data());
+    const auto screens = QGuiApplication::screens();
+    const bool isRounded = std::all_of(screens.begin(), screens.end(), isAboutWhole);
+    probe.reset();
+    if (isRounded)
+        QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::Round);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     // Words have their places in pixels, so a larger text of the desktop enlarges the window as a whole.
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    // Screens that are made up have a text of 100 dpi, which nobody has asked for.
-    QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    for (int i = 1; i + 1 < argc; ++i)
-        if (QByteArray(argv[i]).endsWith("-platform"))
-            platform = argv[i + 1];
-    if (isMadeUp(platform) && qEnvironmentVariableIntValue("QT_FONT_DPI") <= 0)
-        qputenv("QT_FONT_DPI", "96");
 }
 
 void registerTypes() {
@@ -114,7 +120,8 @@ void ScreenEngine::load(const QUrl &document) {
 
 void ScreenEngine::fitToScreen() {
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    if (!window || isMadeUp(QGuiApplication::platformName()))
+    const QString platform = QGuiApplication::platformName();
+    if (!window || platform == "offscreen" || platform == "minimal")
         return;
     const auto fit = [window] {
         window->resize(fittingSize(window->size(), window->minimumSize(), window->screen()->availableSize(),

@@ -14,8 +14,8 @@
 #include <QString>
 #include <QUrl>
 
-/// Has Qt scale windows by the very factor of the desktop and of its text. Before the application object,
-/// which takes some of the arguments away.
+/// Has Qt scale windows by the very factor of the desktop and of its text, or by a whole one that is near.
+/// Before the application object, to which the arguments go on.
 void followDesktopScale(int argc, char **argv);
 
 /// Tells Qt of the elements that the documents import and of the values that cross threads and documents.
