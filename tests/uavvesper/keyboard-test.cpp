@@ -253,7 +253,7 @@ static std::string tree(QAccessibleInterface *of) {
                    value->maximumValue().toString().toStdString();
         all += state.checkable ? state.checked ? " on" : " off" : "";
         const std::string description = told(of, QAccessible::Description);
-        all += (description.empty() ? "" : " [" + description + ']') + '\n';
+        all += (description.empty() ? "" : " [" + description + ']') + '|';
     }
     for (int i = 0; i < of->childCount(); ++i)
         all += tree(of->child(i));
@@ -261,7 +261,7 @@ static std::string tree(QAccessibleInterface *of) {
 }
 
 TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
-    const auto found = [this] { return '\n' + tree(QAccessible::queryAccessibleInterface(window)); };
+    const auto found = [this] { return tree(QAccessible::queryAccessibleInterface(window)); };
     const auto act = [this](const char *name, const QString &action) {
         for (QQuickItem *item : driver->findAll({}))
             if (auto *reader = QAccessible::queryAccessibleInterface(item);
@@ -269,75 +269,34 @@ TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
                 return reader->actionInterface()->doAction(action);
     };
     const QString press = QAccessibleActionInterface::pressAction();
-    EXPECT_EQ(found(), R"(
-StaticText Wi-Fi
-StaticText DIG
-StaticText FPV
-Button Battery 0% [Not available]
-Button Mask off [Not available]
-Button Fabric settings [Not available]
-Button Settings [Not available]
-Button Information
-Button Connect
-CheckBox Sound off [Not available]
-CheckBox Vibro off [Not available]
-CheckBox Wi-Fi off [Not available]
-CheckBox Dig off [Not available]
-Button Sens: ?)"
-                       R"(?? [Not available]
-Button AI: None [Not available]
-)");
+    EXPECT_EQ(found(), "StaticText Wi-Fi|StaticText DIG|StaticText FPV|Button Battery 0% [Not available]|"
+                       "Button Mask off [Not available]|Button Fabric settings [Not available]|"
+                       "Button Settings [Not available]|Button Information|Button Connect|"
+                       "CheckBox Sound off [Not available]|CheckBox Vibro off [Not available]|"
+                       "CheckBox Wi-Fi off [Not available]|CheckBox Dig off [Not available]|"
+                       "Button Sens: ?\?\? [Not available]|Button AI: None [Not available]|");
     open();
     click("cfg");
     act("Scan mode", press);
-    EXPECT_EQ(found(), R"(
-Grouping Bars 1.2 [No signal]
-Chart Bars 1.2 [No signal]
-Grouping Bars 2.4 [No signal]
-Chart Bars 2.4 [No signal]
-Grouping Bars 4.9 [No signal]
-Chart Bars 4.9 [No signal]
-Grouping Bars 5.8 [No signal]
-Chart Bars 5.8 [No signal]
-Heading Detection
-ButtonMenu Scan mode [Radioscan frequence]
-ButtonMenu AI mode [AI mode configure]
-Heading Alarm
-CheckBox Voice alarm on [Speak detection results]
-ButtonMenu Alarm level [Speech alert with signal level specified and higher]
-Slider Sound volume 99 of 100 [Alarm sound volume]
-Slider Headphones volume 25 of 100 [3.5 mm headphones volume]
-ButtonMenu Headphones output [3.5 mm headphones output mode]
-CheckBox Sound on [Sound alarm]
-CheckBox Vibro off [Vibro alarm]
-Heading Interface
-Slider Brightness 0 of 100 [Indication brightness]
-Slider Display timeout 30 of 360 [Shut off the display for inactivity in seconds]
-StaticText Wi-Fi
-StaticText DIG
-StaticText FPV
-Button Battery 87%
-Button Mask off
-Button Fabric settings
-Button Settings
-Button Information
-Button Disconnect
-CheckBox 1.2 on [standard range]
-CheckBox 2.4+ on [wide range]
-CheckBox 4.9 off [off]
-CheckBox 5.8 off [off]
-CheckBox Sound on
-CheckBox Vibro off
-CheckBox Wi-Fi off
-CheckBox Dig off
-Button Sens: High
-Button AI: Default
-Dialog Scan mode
-Button Efficient off
-Button Standard on
-Button Automatic off
-Button Continuous off
-)");
+    EXPECT_EQ(found(),
+              "Grouping Bars 1.2 [No signal]|Chart Bars 1.2 [No signal]|Grouping Bars 2.4 [No signal]|"
+              "Chart Bars 2.4 [No signal]|Grouping Bars 4.9 [No signal]|Chart Bars 4.9 [No signal]|"
+              "Grouping Bars 5.8 [No signal]|Chart Bars 5.8 [No signal]|Heading Detection|"
+              "ButtonMenu Scan mode [Radioscan frequence]|ButtonMenu AI mode [AI mode configure]|"
+              "Heading Alarm|CheckBox Voice alarm on [Speak detection results]|"
+              "ButtonMenu Alarm level [Speech alert with signal level specified and higher]|"
+              "Slider Sound volume 99 of 100 [Alarm sound volume]|"
+              "Slider Headphones volume 25 of 100 [3.5 mm headphones volume]|"
+              "ButtonMenu Headphones output [3.5 mm headphones output mode]|"
+              "CheckBox Sound on [Sound alarm]|CheckBox Vibro off [Vibro alarm]|Heading Interface|"
+              "Slider Brightness 0 of 100 [Indication brightness]|"
+              "Slider Display timeout 30 of 360 [Shut off the display for inactivity in seconds]|"
+              "StaticText Wi-Fi|StaticText DIG|StaticText FPV|Button Battery 87%|Button Mask off|"
+              "Button Fabric settings|Button Settings|Button Information|Button Disconnect|"
+              "CheckBox 1.2 on [standard range]|CheckBox 2.4+ on [wide range]|CheckBox 4.9 off [off]|"
+              "CheckBox 5.8 off [off]|CheckBox Sound on|CheckBox Vibro off|CheckBox Wi-Fi off|"
+              "CheckBox Dig off|Button Sens: High|Button AI: Default|Dialog Scan mode|"
+              "Button Efficient off|Button Standard on|Button Automatic off|Button Continuous off|");
     const auto isAuto = HasSubstr(R"("mode" : "AUTO")"), isLouder = HasSubstr(R"("indSndLvl" : 100)");
     EXPECT_THAT(sentBy([&] { act("Automatic", press); }), ElementsAre(isAuto, isAuto));
     EXPECT_TRUE(ScreenDriver::waitFor([this] { return !driver->find("ListButtonDialog"); }));
@@ -351,13 +310,8 @@ Button Continuous off
     act("Bars 2.4", QAccessibleActionInterface::nextPageAction());
     EXPECT_EQ(views(), "BFBB");
     click("info");
-    EXPECT_THAT(found(), HasSubstr(R"(
-StaticText Mode: 
-StaticText Automatic
-StaticText Frequency bands: 
-StaticText 1000-1680
-StaticText 2350-2550
-StaticText Indication brightness: 
-)"));
-    EXPECT_THAT(found(), HasSubstr("\nStaticText Application: v1.1\n"));
+    EXPECT_THAT(found(),
+                HasSubstr("|StaticText Mode: |StaticText Automatic|StaticText Frequency bands: |"
+                          "StaticText 1000-1680|StaticText 2350-2550|StaticText Indication brightness: |"));
+    EXPECT_THAT(found(), HasSubstr("|StaticText Application: v1.1|"));
 }
