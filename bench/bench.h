@@ -1,0 +1,43 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
+/// A figure is the best of several turns, in processor time: what else goes on in a machine only ever adds to
+/// it.
+
+/// Seconds that the calling thread has spent on a processor.
+inline double processorSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+/// Seconds of the fastest of `turns` calls.
+template <typename Run>
+double fastest(int turns, Run run) {
+    double best = 1e300;
+    for (int i = 0; i < turns; ++i) {
+        const double begin = processorSeconds();
+        run();
+        best = std::min(best, processorSeconds() - begin);
+    }
+    return best;
+}
+
+/// The ratio of two runs, taken in turns so that both meet the same machine.
+template <typename Run, typename Yardstick>
+double ratioOf(int turns, Run run, Yardstick yardstick) {
+    double ours = 1e300, theirs = 1e300;
+    for (int i = 0; i < turns; ++i) {
+        ours = std::min(ours, fastest(1, run));
+        theirs = std::min(theirs, fastest(1, yardstick));
+    }
+    return ours / theirs;
+}
+
+/// The line that tools/bench reads.
+inline void report(const char *row, double value, const char *unit) {
+    std::printf("%s\t%.3f\t%s\n", row, value, unit);
+}
