@@ -5,8 +5,11 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <limits>
 #include <locale.h>
+#include <mutex>
+#include <optional>
 #include <rapidjson/error/en.h>
 #include <rapidjson/reader.h>
 #include <string_view>
@@ -61,11 +64,10 @@ void appendNumber(std::string &out, double value) {
 /// `text` is a number by JSON's grammar. Nothing here asks for the process's locale.
 Json toNumber(const char *text, std::size_t length) {
     const char *end = text + length;
-    const bool whole = std::string_view(text, length).find_first_of(".eE") == std::string_view::npos;
-    if (whole && length <= std::numeric_limits<int>::digits10) {
+    if (length <= std::numeric_limits<int>::digits10) {
         int value = 0;
-        std::from_chars(text, end, value);
-        return value;
+        if (std::from_chars(text, end, value).ptr == end)
+            return value;
     }
     double value = 0;
     if (std::from_chars(text, end, value).ec == std::errc::result_out_of_range) {
@@ -74,53 +76,6 @@ Json toNumber(const char *text, std::size_t length) {
     }
     return value;
 }
-
-/// Builds the value from the reader's events; an event that returns false ends the reading.
-class Builder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Builder> {
-public:
-    bool Null() { return add(nullptr); }
-    bool Bool(bool value) { return add(value); }
-    bool RawNumber(const char *text, rapidjson::SizeType length, bool) { return add(toNumber(text, length)); }
-    bool String(const char *text, rapidjson::SizeType length, bool) { return add(std::string(text, length)); }
-    bool StartObject() { return start(true); }
-    bool StartArray() { return start(false); }
-    bool Key(const char *text, rapidjson::SizeType length, bool) {
-        open.back().key.assign(text, length);
-        return true;
-    }
-    bool EndObject(rapidjson::SizeType) { return finish(std::move(open.back().members)); }
-    bool EndArray(rapidjson::SizeType) { return finish(std::move(open.back().items)); }
-
-    Json root;
-
-private:
-    struct Container {
-        bool isObject = false;
-        Json::array items;
-        Json::object members;
-        std::string key;
-    };
-    std::vector<Container> open;
-
-    bool start(bool isObject) {
-        open.emplace_back().isObject = isObject;
-        return open.size() - 1 <= MAX_DEPTH;
-    }
-    template <class T>
-    bool finish(T content) {
-        open.pop_back();
-        return add(std::move(content));
-    }
-    bool add(Json value) {
-        if (open.empty())
-            root = std::move(value);
-        else if (open.back().isObject)
-            open.back().members.insert_or_assign(std::move(open.back().key), std::move(value));
-        else
-            open.back().items.push_back(std::move(value));
-        return open.size() <= MAX_DEPTH;
-    }
-};
 
 /// By JSON's grammar.
 bool isNumber(std::string_view text) {
@@ -173,38 +128,178 @@ std::string withPlainNumbers(const std::string &in) {
     return out;
 }
 
-template <unsigned FLAGS>
-rapidjson::ParseResult read(const std::string &in, Builder &builder) {
-    rapidjson::StringStream stream(in.c_str());
-    return rapidjson::Reader().Parse<FLAGS | rapidjson::kParseNumbersAsStringsFlag>(stream, builder);
-}
-
 } // namespace
 
+/// What values refer to by their index. Nothing changes once it is made, but for the maps.
+struct Json::Document : std::enable_shared_from_this<Document> {
+    struct Member {
+        std::string_view key;
+        Json value;
+    };
+
+    std::vector<std::string> strings;
+    std::vector<array> arrays;
+    std::vector<Member> members; // those of an object stand side by side, as they came
+    std::string text;            // where the keys are
+
+    /// Looks among an object's members. Null where there is none; of equal keys the last one counts.
+    const Json *find(std::size_t first, std::size_t count, const std::string &key) const {
+        constexpr std::size_t FEW = 16; // members that are looked through faster than a map is made
+        if (count > FEW) {
+            const auto &items = mapOf(first, count);
+            const auto found = items.find(key);
+            return found != items.end() ? &found->second : nullptr;
+        }
+        for (std::size_t i = first + count; i > first; --i)
+            if (members[i - 1].key == key)
+                return &members[i - 1].value;
+        return nullptr;
+    }
+
+    /// Made when it is asked for: most objects are only searched.
+    const object &mapOf(std::size_t first, std::size_t count) const {
+        if (count == 0)
+            return empty<object>();
+        const std::lock_guard lock(mutex);
+        const auto [made, isNew] = maps.try_emplace(first);
+        if (isNew)
+            for (std::size_t i = first; i < first + count; ++i)
+                made->second.insert_or_assign(std::string(members[i].key), lent(members[i].value));
+        return made->second;
+    }
+
+    static Json of(std::string value) {
+        const auto made = std::make_shared<Document>();
+        made->strings.push_back(std::move(value));
+        return Json(STRING, 0, 0, made);
+    }
+    static Json of(array values) {
+        const auto made = std::make_shared<Document>();
+        made->arrays.push_back(std::move(values));
+        return Json(ARRAY, 0, 0, made);
+    }
+    static Json of(object values) {
+        const auto made = std::make_shared<Document>();
+        const object &map = made->maps[0] = std::move(values);
+        for (const auto &[key, value] : map)
+            made->members.push_back({key, value});
+        return Json(OBJECT, 0, map.size(), made);
+    }
+
+private:
+    /// A value for the document itself.
+    static Json lent(const Json &value) {
+        Json copy;
+        copy.kind = value.kind;
+        copy.index = value.index;
+        copy.number = value.number;
+        copy.document = std::shared_ptr<const Document>(std::shared_ptr<void>(), value.document.get());
+        return copy;
+    }
+
+    mutable std::mutex mutex; // guards the maps
+    mutable std::map<std::size_t, object> maps;
+};
+
+/// Builds a document from the reader's events; an event that returns false ends the reading.
+class Builder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Builder> {
+public:
+    bool Null() { return place(nullptr); }
+    bool Bool(bool value) { return place(value); }
+    bool RawNumber(const char *text, rapidjson::SizeType length, bool) {
+        return place(toNumber(text, length));
+    }
+    bool String(const char *text, rapidjson::SizeType length, bool) {
+        document->strings.emplace_back(text, length);
+        return place(Json(Json::STRING, document->strings.size() - 1, 0, inside));
+    }
+    bool StartObject() { return start('{'); }
+    bool StartArray() { return start('['); }
+    bool Key(const char *text, rapidjson::SizeType length, bool) {
+        pending.emplace_back().key = std::string_view(text, length);
+        return true;
+    }
+    bool EndObject(rapidjson::SizeType count) {
+        const auto first = pending.end() - count;
+        auto &members = document->members;
+        members.insert(members.end(), std::make_move_iterator(first), std::make_move_iterator(pending.end()));
+        return finish(count, Json(Json::OBJECT, members.size() - count, count, inside));
+    }
+    bool EndArray(rapidjson::SizeType count) {
+        auto &items = document->arrays.emplace_back();
+        items.reserve(count);
+        for (auto item = pending.end() - count; item != pending.end(); ++item)
+            items.push_back(std::move(item->value));
+        return finish(count, Json(Json::ARRAY, document->arrays.size() - 1, 0, inside));
+    }
+
+    /// The value of the text that was read.
+    Json root() const { return pending.front().value; }
+
+    /// Reads in place: the text is taken apart.
+    template <unsigned FLAGS>
+    rapidjson::ParseResult read(const std::string &text) {
+        document->text = text;
+        document->members.reserve(text.size() / 16); // about what the device's objects come to
+        pending.reserve(16);
+        rapidjson::InsituStringStream stream(document->text.data());
+        return rapidjson::Reader()
+            .Parse<FLAGS | rapidjson::kParseInsituFlag | rapidjson::kParseNumbersAsStringsFlag>(stream,
+                                                                                                *this);
+    }
+
+private:
+    const std::shared_ptr<Json::Document> document = std::make_shared<Json::Document>();
+    const std::shared_ptr<const Json::Document> inside{std::shared_ptr<void>(), document.get()};
+    /// Members and items of the containers that are open, outermost first; the last member of an object
+    /// perhaps still without its value.
+    std::vector<Json::Document::Member> pending;
+    std::string open; // the containers: '{' or '['
+
+    bool start(char container) {
+        open.push_back(container);
+        return open.size() - 1 <= MAX_DEPTH;
+    }
+    bool finish(std::size_t count, Json &&value) {
+        pending.resize(pending.size() - count);
+        open.pop_back();
+        return place(std::move(value));
+    }
+    bool place(Json &&value) {
+        if (open.empty() || open.back() == '[')
+            pending.emplace_back();
+        pending.back().value = std::move(value);
+        return open.size() <= MAX_DEPTH;
+    }
+};
+
 Json::Json(std::string value)
-    : content(std::make_shared<const std::string>(std::move(value))) {}
+    : Json(Document::of(std::move(value))) {}
 Json::Json(const char *value)
     : Json(std::string(value)) {}
 Json::Json(array values)
-    : content(std::make_shared<const array>(std::move(values))) {}
+    : Json(Document::of(std::move(values))) {}
 Json::Json(object values)
-    : content(std::make_shared<const object>(std::move(values))) {}
+    : Json(Document::of(std::move(values))) {}
+Json::Json(Type type, std::size_t first, std::size_t count, std::shared_ptr<const Document> owner)
+    : kind(type)
+    , index(static_cast<unsigned>(first))
+    , number(static_cast<double>(count))
+    , document(std::move(owner)) {}
 
-Json::Type Json::type() const {
-    constexpr Type types[] = {NUL, NUMBER, NUMBER, BOOL, STRING, ARRAY, OBJECT};
-    return types[content.index()];
-}
+Json::Json(const Json &other)
+    : kind(other.kind)
+    , index(other.index)
+    , number(other.number)
+    , document(other.document && other.document.use_count() == 0 ? other.document->shared_from_this()
+                                                                 : other.document) {}
 
 double Json::number_value() const {
-    const int *whole = std::get_if<int>(&content);
-    const double *value = std::get_if<double>(&content);
-    return whole ? *whole : value ? *value : 0;
+    return is_number() ? number : 0;
 }
 
 int Json::int_value() const {
     using Limits = std::numeric_limits<int>;
-    if (const int *whole = std::get_if<int>(&content))
-        return *whole;
     const double value = number_value();
     if (std::isnan(value))
         return 0;
@@ -214,20 +309,19 @@ int Json::int_value() const {
 }
 
 bool Json::bool_value() const {
-    const bool *value = std::get_if<bool>(&content);
-    return value && *value;
+    return is_bool() && number != 0;
 }
 
 const std::string &Json::string_value() const {
-    return is_string() ? *std::get<std::shared_ptr<const std::string>>(content) : empty<std::string>();
+    return is_string() ? document->strings[index] : empty<std::string>();
 }
 
 const Json::array &Json::array_items() const {
-    return is_array() ? *std::get<std::shared_ptr<const array>>(content) : empty<array>();
+    return is_array() ? document->arrays[index] : empty<array>();
 }
 
 const Json::object &Json::object_items() const {
-    return is_object() ? *std::get<std::shared_ptr<const object>>(content) : empty<object>();
+    return is_object() ? document->mapOf(index, static_cast<std::size_t>(number)) : empty<object>();
 }
 
 const Json &Json::operator[](std::size_t i) const {
@@ -236,9 +330,8 @@ const Json &Json::operator[](std::size_t i) const {
 }
 
 const Json &Json::operator[](const std::string &key) const {
-    const object &members = object_items();
-    const auto found = members.find(key);
-    return found != members.end() ? found->second : empty<Json>();
+    const Json *found = is_object() ? document->find(index, static_cast<std::size_t>(number), key) : nullptr;
+    return found ? *found : empty<Json>();
 }
 
 void Json::dump(std::string &out) const {
@@ -288,11 +381,11 @@ Json Json::parse(const std::string &in, std::string &err, JsonParse strategy) {
         err = "zero byte at offset " + std::to_string(zero);
         return nullptr;
     }
-    Builder builder;
+    std::optional<Builder> builder;
     const auto readAll = [&](const std::string &text) {
-        builder = Builder();
-        return strategy == JsonParse::COMMENTS ? read<rapidjson::kParseCommentsFlag>(text, builder)
-                                               : read<rapidjson::kParseNoFlags>(text, builder);
+        builder.emplace();
+        return strategy == JsonParse::COMMENTS ? builder->read<rapidjson::kParseCommentsFlag>(text)
+                                               : builder->read<rapidjson::kParseNoFlags>(text);
     };
     rapidjson::ParseResult result = readAll(in);
     if (result.Code() == rapidjson::kParseErrorNumberTooBig)
@@ -303,7 +396,7 @@ Json Json::parse(const std::string &in, std::string &err, JsonParse strategy) {
         err += " at offset " + std::to_string(result.Offset());
         return nullptr;
     }
-    return std::move(builder.root);
+    return builder->root();
 }
 
 Json Json::parse(const char *in, std::string &err, JsonParse strategy) {

@@ -6,7 +6,6 @@
 #include <string>
 #include <type_traits>
 #include <utility>
-#include <variant>
 #include <vector>
 
 namespace json11 {
@@ -15,6 +14,9 @@ enum JsonParse { STANDARD, COMMENTS };
 
 /// An immutable JSON value with the interface of json11. Copies share their content and may be read from
 /// several threads. A getter of another type than the value's own gives that type's empty value.
+///
+/// Strings, arrays and objects lie in a document: all those of a text in one, a value that was made otherwise
+/// in one of its own. A copy of any part keeps the whole document.
 class Json final {
 public:
     enum Type { NUL, NUMBER, BOOL, STRING, ARRAY, OBJECT };
@@ -24,16 +26,23 @@ public:
     Json() noexcept = default;
     Json(std::nullptr_t) noexcept {}
     Json(double value)
-        : content(value) {}
+        : kind(NUMBER)
+        , number(value) {}
     Json(int value)
-        : content(value) {}
+        : kind(NUMBER)
+        , number(value) {}
     Json(bool value)
-        : content(value) {}
+        : kind(BOOL)
+        , number(value) {}
     Json(std::string value);
     Json(const char *value);
     Json(array values);
     Json(object values);
     Json(void *) = delete; // a pointer would otherwise read as a bool
+    Json(const Json &other);
+    Json(Json &&other) noexcept = default;
+    Json &operator=(const Json &other) { return *this = Json(other); }
+    Json &operator=(Json &&other) noexcept = default;
 
     /// From a class with a `to_json()`.
     template <class T, class = decltype(&T::to_json)>
@@ -54,7 +63,7 @@ public:
     Json(const V &v)
         : Json(array(v.begin(), v.end())) {}
 
-    Type type() const;
+    Type type() const { return kind; }
     bool is_null() const { return type() == NUL; }
     bool is_number() const { return type() == NUMBER; }
     bool is_bool() const { return type() == BOOL; }
@@ -95,9 +104,15 @@ public:
     bool operator>=(const Json &other) const { return !(*this < other); }
 
 private:
-    std::variant<std::nullptr_t, int, double, bool, std::shared_ptr<const std::string>,
-                 std::shared_ptr<const array>, std::shared_ptr<const object>>
-        content;
+    struct Document;
+    friend class Builder;
+    Json(Type type, std::size_t first, std::size_t count, std::shared_ptr<const Document> owner);
+
+    Type kind = NUL;
+    unsigned index = 0; // among the document's strings or arrays; of an object's first member
+    double number = 0;  // or the truth value, or how many members there are
+    // Owned, but by the values in the document itself, which would keep it for ever.
+    std::shared_ptr<const Document> document;
 };
 
 } // namespace json11
