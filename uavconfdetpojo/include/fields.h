@@ -19,7 +19,7 @@ class Json;
 /// writer reads the presence map.
 
 /// Lets the library's reader and writer walk the fields of an object in wire order:
-/// visit(const char *key, Type &field, bool &present), or const references for a const object.
+/// visit(const std::string &key, Type &field, bool &present), or const references for a const object.
 struct FieldAccess {
     template <typename Object, typename Visit>
     static void each(Object &object, Visit visit) {

@@ -22,7 +22,11 @@ private:                                 \
     Type key{};
 
 #define FIELD_KEY(Type, key, Name) key,
-#define FIELD_VISIT(Type, key, Name) visit(#key, self.key, self.initVals.at(Key::key));
+#define FIELD_VISIT(Type, key, Name)                       \
+    {                                                      \
+        static const std::string name = #key;              \
+        visit(name, self.key, self.initVals.at(Key::key)); \
+    }
 
 #define FIELDS_BODY                                                                           \
     FIELDS(FIELD_ACCESSORS)                                                                   \

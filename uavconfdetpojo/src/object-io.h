@@ -15,7 +15,7 @@
 class ObjectWriter {
 public:
     template <typename T>
-    void field(const char *key, const T &value) {
+    void field(const std::string &key, const T &value) {
         text += first ? "\"" : ",\n\"";
         first = false;
         text += key;
@@ -27,7 +27,7 @@ public:
     void fieldsOf(const Object &object) {
         FieldAccess::each(
             object,
-            [this](const char *key, const auto &value, bool present) {
+            [this](const std::string &key, const auto &value, bool present) {
                 if (present)
                     field(key, value);
             });
@@ -43,10 +43,11 @@ private:
 /// Reads a field where its key is there and its value is of the right kind, else leaves it absent. False if
 /// so.
 template <typename T>
-bool readField(const json11::Json::object &items, const char *key, T &value, bool &present) {
-    const auto item = items.find(key);
-    auto read = item != items.end() ? FieldIo<T>::read(item->second) : std::nullopt;
-    if (!read)
+bool readField(const json11::Json &object, const std::string &key, T &value, bool &present) {
+    const json11::Json &json = object[key];
+    // Null stands for a missing key, too. Where the kind takes a null, the slower way tells.
+    auto read = FieldIo<T>::read(json);
+    if (!read || (json.is_null() && object.object_items().count(key) == 0))
         return false;
     value = std::move(*read);
     return present = true;
@@ -57,8 +58,8 @@ bool readField(const json11::Json::object &items, const char *key, T &value, boo
 template <typename Object>
 void readFields(Object &object, const json11::Json &json) {
     FieldAccess::each(
-        object, [&items = json.object_items()](const char *key, auto &value,
-                                               bool &present) { readField(items, key, value, present); });
+        object, [&json](const std::string &key, auto &value,
+                        bool &present) { readField(json, key, value, present); });
 }
 
 /// A zero inside a nested value has no sign; in a message's own fields it keeps it.
@@ -104,8 +105,8 @@ template <typename Object>
 void readNestedFields(Object &object, const json11::Json &json) {
     FieldAccess::each(
         object,
-        [&items = json.object_items()](const char *key, auto &value, bool &present) {
-            if (readField(items, key, value, present))
+        [&json](const std::string &key, auto &value, bool &present) {
+            if (readField(json, key, value, present))
                 UnsignZeros()(value);
         });
 }
