@@ -1,23 +1,41 @@
 #include "json-brace-counter.h"
 
+#include <array>
+
+namespace {
+
+/// Whether a byte counts. Nearly all do not, and every received byte is asked.
+constexpr std::array<bool, 256> counts = [] {
+    std::array<bool, 256> table{};
+    for (const char c : {'"', '{', '}'})
+        table[static_cast<unsigned char>(c)] = true;
+    return table;
+}();
+
+} // namespace
+
 std::vector<std::pair<int, int>> JsonBraceCounter::write(const buffer_t &bytes) {
     std::vector<std::pair<int, int>> result;
+    int position = count;
+    int depth = currentBraceCount; // copies, as the compiler keeps only these in registers
+    bool quoted = currentQuote;
     for (const char c : bytes) {
-        if (c == '"') {
-            currentQuote = !currentQuote;
-        } else if (c == '{' && !currentQuote) {
-            if (currentBraceCount == 0)
-                start = count;
-            ++currentBraceCount;
-        } else if (c == '}' && !currentQuote && currentBraceCount != 0) {
-            --currentBraceCount;
-            if (currentBraceCount == 0) {
-                result.emplace_back(start, count);
-                start = -1;
+        if (counts[static_cast<unsigned char>(c)]) {
+            if (c == '"') {
+                quoted = !quoted;
+            } else if (c == '{' && !quoted) {
+                if (depth++ == 0)
+                    start = position;
+            } else if (c == '}' && !quoted && depth != 0) {
+                if (--depth == 0)
+                    result.emplace_back(std::exchange(start, -1), position);
             }
         }
-        ++count;
+        ++position;
     }
+    count = position;
+    currentBraceCount = depth;
+    currentQuote = quoted;
     return result;
 }
 

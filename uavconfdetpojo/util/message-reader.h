@@ -33,7 +33,7 @@ public:
     /// Drops the bytes. Messages that ended in them are still handed out.
     void reset();
     /// The bytes that are not done with yet; valid until the next call of another operation.
-    const std::string &bytes() { return buffer.toString(); }
+    const std::string &bytes() const { return buffer.toString(); }
     bool isEmpty() const { return buffer.size() == 0; }
 
     /// For log lines. On purpose a piece is as long as the position of its end, so that all but the first run
