@@ -49,21 +49,18 @@ public:
     template <class Call>
     void fire(Call call) {
         Round round;
-        const Entry entry(*this, round);
-        std::shared_ptr<Listener> listener; // keeps it alive through its own removal
-        const auto step = [&] {
+        std::unique_lock lock(mutex); // held all the time but while a listener runs
+        const Entry entry(*this, round, lock);
+        while (round.next != listeners.size()) {
+            std::shared_ptr<Listener> listener = listeners[round.next++]; // outlives its own removal
+            round.running = listener.get();
+            lock.unlock();
+            call(*listener);
             listener.reset(); // not under the lock: what goes with it may use the list
-            const std::lock_guard lock(mutex);
+            lock.lock();
             round.running = nullptr;
             changed.notify_all();
-            if (round.next == listeners.size())
-                return false;
-            listener = listeners[round.next++];
-            round.running = listener.get();
-            return true;
-        };
-        while (step())
-            call(*listener);
+        }
     }
 
 private:
@@ -77,14 +74,15 @@ private:
 
     class Entry {
     public:
-        Entry(ListenerList &owner, Round &ofRound)
+        Entry(ListenerList &owner, Round &ofRound, std::unique_lock<std::mutex> &ofList)
             : list(owner)
-            , round(ofRound) {
-            const std::lock_guard lock(list.mutex);
+            , round(ofRound)
+            , lock(ofList) {
             list.rounds.push_back(&round);
         }
         ~Entry() {
-            const std::lock_guard lock(list.mutex);
+            if (!lock.owns_lock()) // a listener threw
+                lock.lock();
             list.rounds.erase(std::find(list.rounds.begin(), list.rounds.end(), &round));
             list.changed.notify_all();
         }
@@ -92,6 +90,7 @@ private:
     private:
         ListenerList &list;
         Round &round;
+        std::unique_lock<std::mutex> &lock;
     };
 
     /// Tells the others what this thread's rounds wait for. Under the lock, as the next one.
