@@ -9,8 +9,8 @@
 #include <thread>
 
 SerialInterfaceAdapter::SerialInterfaceAdapter()
-    : ioLogger(std::make_shared<IoLogger>(logClbck))
-    , reader(TAG, SerialInterfaceAdapter::getCurrentTimeMs()) {}
+    : reader(TAG, SerialInterfaceAdapter::getCurrentTimeMs())
+    , ioLogger(std::make_shared<IoLogger>(logClbck)) {}
 
 std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> msg,
                                                          std::chrono::milliseconds timeout,
@@ -61,11 +61,15 @@ buffer_t SerialInterfaceAdapter::getRecvBuffer() {
 }
 
 void SerialInterfaceAdapter::setIoLogger(std::shared_ptr<IoLogger> logger) {
-    std::atomic_store(&ioLogger, logger ? std::move(logger) : std::make_shared<IoLogger>(logClbck));
+    if (!logger)
+        logger = std::make_shared<IoLogger>(logClbck);
+    const std::lock_guard lock(readerMutex);
+    ioLogger.swap(logger); // the former one goes when the lock has gone
 }
 
 std::shared_ptr<IoLogger> SerialInterfaceAdapter::getIoLogger() {
-    return std::atomic_load(&ioLogger);
+    const std::lock_guard lock(readerMutex);
+    return ioLogger;
 }
 
 void SerialInterfaceAdapter::addListener(std::shared_ptr<MsgListener> listener) {
@@ -104,14 +108,17 @@ void SerialInterfaceAdapter::fireError(const std::exception *error) {
 }
 
 void SerialInterfaceAdapter::processNewData(buffer_t bytes) {
+    const long long now = getCurrentTimeMs(); // for the whole chunk: asking costs as much as a small message
+    std::shared_ptr<IoLogger> logger;
     {
         const std::lock_guard lock(readerMutex);
-        reader.write(bytes, getCurrentTimeMs());
+        reader.write(bytes, now);
+        logger = ioLogger;
     }
-    (*getIoLogger())(bytes);
-    const auto next = [this] {
+    (*logger)(std::move(bytes));
+    const auto next = [this, now] {
         const std::lock_guard lock(readerMutex);
-        return reader.next(getCurrentTimeMs());
+        return reader.next(now);
     };
     while (auto msg = next()) // no lock is held while listeners run
         fireMsg(std::move(msg));

@@ -52,11 +52,12 @@ protected:
 
 private:
     const IoLogger logClbck = [](const std::string &) {};
-    std::shared_ptr<IoLogger> ioLogger; // set by any thread, read by the reading thread: only atomic access
     ListenerList<MsgListener> msgListeners;
     ListenerList<OnErrorListener> onErrorListeners;
     std::atomic<int> trIdHolder{0};
 
-    std::mutex readerMutex; // guards `reader`: the reading thread's, but any thread may ask for the bytes
+    // Guards both: they are the reading thread's, but any thread may ask for the bytes and set the logger.
+    std::mutex readerMutex;
     MessageReader reader;
+    std::shared_ptr<IoLogger> ioLogger; // never null
 };
