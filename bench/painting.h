@@ -1,31 +1,27 @@
-// What it costs to paint one scan on the visible views of four bands, against the same rectangles, lines and
-// texts drawn by a bare painter in the same run.
+#pragma once
 
-#include "visuals/bar-scan-result-plot.h"
-#include "visuals/freq-plot.h"
-#include "visuals/hist-view.h"
+#include "bench.h"
+#include "common/history.h"
+#include "visuals/drawing.h"
 
 #include <QGuiApplication>
 #include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <random>
 #include <thread>
 #include <vector>
 
-namespace {
-
-const QSize VIEW_SIZE(800, 214); // a band's share of the window as it starts
-constexpr int TEXT_SIZE = 10;    // points, likewise
-constexpr int ROUNDS = 500;
+const QSize VIEW_SIZE(800, 184); // a band's share of the window
+constexpr int TEXT_SIZE = 10;    // points, as the window starts
 
 /// Draws one thing, after changing what differs from the thing before.
-using Drawing = std::vector<std::function<void(QPainter &)>>;
+using Steps = std::vector<std::function<void(QPainter &)>>;
 
 /// Notes what is drawn on it, down to each rectangle, line and text.
 class Recorder : public QPaintEngine, public QPaintDevice {
@@ -33,7 +29,7 @@ public:
     Recorder()
         : QPaintEngine(AllFeatures) {}
 
-    Drawing drawing;
+    Steps steps;
 
     bool begin(QPaintDevice *) override { return true; }
     bool end() override { return true; }
@@ -61,22 +57,22 @@ public:
 
     void updateState(const QPaintEngineState &next) override {
         if (next.state() & DirtyPen)
-            drawing.push_back([pen = next.pen()](QPainter &painter) { painter.setPen(pen); });
+            steps.push_back([pen = next.pen()](QPainter &painter) { painter.setPen(pen); });
         if (next.state() & DirtyBrush)
-            drawing.push_back([brush = next.brush()](QPainter &painter) { painter.setBrush(brush); });
+            steps.push_back([brush = next.brush()](QPainter &painter) { painter.setBrush(brush); });
         if (next.state() & DirtyFont)
-            drawing.push_back([font = next.font()](QPainter &painter) { painter.setFont(font); });
+            steps.push_back([font = next.font()](QPainter &painter) { painter.setFont(font); });
     }
     void drawRects(const QRectF *rects, int count) override {
         for (int i = 0; i < count; ++i)
-            drawing.push_back([rect = rects[i].toRect()](QPainter &painter) { painter.drawRect(rect); });
+            steps.push_back([rect = rects[i].toRect()](QPainter &painter) { painter.drawRect(rect); });
     }
     void drawLines(const QLineF *lines, int count) override {
         for (int i = 0; i < count; ++i)
-            drawing.push_back([line = lines[i].toLine()](QPainter &painter) { painter.drawLine(line); });
+            steps.push_back([line = lines[i].toLine()](QPainter &painter) { painter.drawLine(line); });
     }
     void drawTextItem(const QPointF &place, const QTextItem &item) override {
-        drawing.push_back([place, text = item.text()](QPainter &painter) { painter.drawText(place, text); });
+        steps.push_back([place, text = item.text()](QPainter &painter) { painter.drawText(place, text); });
     }
     void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { fail(); }
     void drawPolygon(const QPointF *, int, PolygonDrawMode) override { fail(); }
@@ -89,7 +85,7 @@ private:
 };
 
 /// Ten scans of a band over its widest range, with a weak signal in every sixth column and one that lasts.
-History historyOf(MasterFreqModeEnum band) {
+inline History historyOf(MasterFreqModeEnum band) {
     const auto freqs = FreqMode(MasterFreqMode(band).getMaxRangeFreqMode()).getFreqList()->getFreqs();
     std::mt19937 random(1);
     History history(band, History::DEFAULT_HISTORY_LEN);
@@ -113,10 +109,11 @@ History historyOf(MasterFreqModeEnum band) {
 template <typename View>
 class Band : public View {
 public:
-    explicit Band(MasterFreqModeEnum band)
+    Band(MasterFreqModeEnum band, int widthOfLines)
         : history(historyOf(band))
         , target(VIEW_SIZE, QImage::Format_ARGB32_Premultiplied) {
         this->setTextSize(TEXT_SIZE);
+        this->setLineWidth(widthOfLines);
         this->setBackgroundColor(Qt::black);
         this->setSize(VIEW_SIZE);
         this->setHistory(history);
@@ -124,7 +121,7 @@ public:
         QPainter painter(&recorder);
         paintDrawing(this->data(), painter);
         painter.end();
-        drawing = std::move(recorder.drawing);
+        steps = std::move(recorder.steps);
     }
 
     void paintScan() {
@@ -137,65 +134,34 @@ public:
         QPainter painter(&target);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.fillRect(target.rect(), Qt::black);
-        for (const auto &draw : drawing)
-            draw(painter);
+        for (const auto &step : steps)
+            step(painter);
     }
 
 private:
     History history;
     QImage target;
-    Drawing drawing;
+    Steps steps;
 };
 
-/// Seconds for one scan in the fastest rounds of both ways, taken in turn.
-struct Cost {
-    double scan = 1e9;
-    double bare = 1e9;
-};
-
-template <typename Paint>
-double secondsOf(Paint paint) {
-    const auto begin = std::chrono::steady_clock::now();
-    paint();
-    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
-    return time.count();
-}
-
-void print(const char *view, const Cost &cost) {
-    std::printf("%-18s %6.2f ms a scan, bare painter %6.2f ms, ratio %.2f\n", view, cost.scan * 1e3,
-                cost.bare * 1e3, cost.scan / cost.bare);
-}
-
+/// One scan on a view of each of the four bands, from `setHistory` to `paint`, against the same rectangles,
+/// lines and texts, all with smooth edges, by a bare painter.
 template <typename View>
-Cost measure(const char *view) {
-    std::vector<std::unique_ptr<Band<View>>> bands;
-    for (const MasterFreqModeEnum band : MasterFreqMode::values())
-        bands.push_back(std::make_unique<Band<View>>(band));
-    Cost cost;
-    for (int round = 0; round < ROUNDS; ++round) {
-        cost.scan = std::min(cost.scan, secondsOf([&] {
-                                 for (const auto &band : bands)
-                                     band->paintScan();
-                             }));
-        cost.bare = std::min(cost.bare, secondsOf([&] {
-                                 for (const auto &band : bands)
-                                     band->paintBare();
-                             }));
-    }
-    print(view, cost);
-    return cost;
-}
-
-} // namespace
-
-int main(int argc, char **argv) {
+void reportPainting(const char *row, int widthOfLines, int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
-    Cost all{0, 0};
-    for (const Cost &cost : {measure<BarScanResultPlot>("bars"), measure<FreqPlot>("strongest signal"),
-                             measure<HistView>("persistence")}) {
-        all.scan += cost.scan;
-        all.bare += cost.bare;
-    }
-    print("all three", all);
+    std::vector<std::unique_ptr<Band<View>>> bands;
+    for (const MasterFreqModeEnum band : MasterFreqMode::values())
+        bands.push_back(std::make_unique<Band<View>>(band, widthOfLines));
+    const double ratio = ratioOf(
+        500,
+        [&] {
+            for (const auto &band : bands)
+                band->paintScan();
+        },
+        [&] {
+            for (const auto &band : bands)
+                band->paintBare();
+        });
+    report(row, ratio, "bare painters");
 }
