@@ -71,12 +71,11 @@ Drawing HistView::legend() const {
 }
 
 Drawing HistView::data() const {
-    Drawing drawing;
     if (historyFreqs.empty())
-        return drawing;
-    for (const FilledRect &block : persistenceBlocks(
-             historyLevels, historyLen, static_cast<int>(historyFreqs.size()), grid.width(), rowHeight()))
-        drawing.push_back(block);
+        return {};
+    const std::vector<FilledRect> blocks = persistenceBlocks(
+        historyLevels, historyLen, static_cast<int>(historyFreqs.size()), grid.width(), rowHeight());
+    Drawing drawing(blocks.begin(), blocks.end());
     for (const int level : LevelAxis::labels(MIN_LABEL_DB))
         drawing.push_back(row(LevelAxis::blockY(level, rowHeight())));
     for (const Tick &tick : columnTicks(historyFreqs, grid.width(), labelFont.charW))
