@@ -108,7 +108,7 @@ void SerialInterfaceAdapter::fireError(const std::exception *error) {
 }
 
 void SerialInterfaceAdapter::processNewData(buffer_t bytes) {
-    const long long now = getCurrentTimeMs(); // for the whole chunk: asking costs as much as a small message
+    const long long now = getCurrentTimeMs(); // for the whole chunk: to ask anew for each message is dear
     std::shared_ptr<IoLogger> logger;
     {
         const std::lock_guard lock(readerMutex);
