@@ -234,6 +234,8 @@ void PtyDevice::run() {
             if (isOpen) {
                 write();
                 timeout = msUntilDue();
+                if (!leaving.empty())
+                    ends[1].events |= POLLOUT;
             }
         }
         // A closed port answers every poll at once, so only the other end is waited for then.
