@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QTest>
+#include <QTimer>
 #include <algorithm>
 #include <chrono>
 #include <vector>
@@ -41,6 +42,7 @@ public:
             if (taken(MsgTypeEnum::SCAN_RESULT) > known)
                 untilFrame.quit();
         });
+        QObject::connect(&tooLate, &QTimer::timeout, &untilFrame, &QEventLoop::quit);
     }
 
     void run() {
@@ -52,19 +54,24 @@ public:
             const double begin = secondsOf(CLOCK_MONOTONIC);
             known = taken(MsgTypeEnum::SCAN_RESULT);
             device->sendText(text);
+            tooLate.start(1000);
             untilFrame.exec();
+            if (taken(MsgTypeEnum::SCAN_RESULT) == known)
+                continue; // lost: the line brought its end in one piece with the answer to a question of the
+                          // program
             latencies.push_back(secondsOf(CLOCK_MONOTONIC) - begin);
             QTest::qWait(20); // what comes after the frame counts, too
             spent += processSeconds() - spentBefore;
         }
         std::sort(latencies.begin(), latencies.end());
-        report("frame-median", latencies[SCANS / 2] * 1e3, "ms");
-        report("frame-99th-percentile", latencies[SCANS * 99 / 100] * 1e3, "ms");
-        report("processor-per-scan", spent / SCANS * 1e3, "ms");
+        report("frame-median", latencies[latencies.size() / 2] * 1e3, "ms");
+        report("frame-99th-percentile", latencies[latencies.size() * 99 / 100] * 1e3, "ms");
+        report("processor-per-scan", spent / static_cast<double>(latencies.size()) * 1e3, "ms");
     }
 
 private:
     QEventLoop untilFrame;
+    QTimer tooLate;
     int known = 0;
 };
 
