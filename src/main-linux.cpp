@@ -3,6 +3,7 @@
 #include "service-objects.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <cstdio>
 
 int main(int argc, char **argv) {
@@ -13,6 +14,8 @@ int main(int argc, char **argv) {
     QGuiApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("com.kelvane"));
     QCoreApplication::setApplicationName(QStringLiteral("UavVesper"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.kelvane.UavVesper"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/program")));
     const ProcessSignals processSignals;
     ScreenEngine screens(objects);
     screens.load();
