@@ -13,6 +13,8 @@ SCREEN_PACKAGES=(
     qml-module-qtquick-templates2 qtwayland5 fonts-dejavu-core xdg-utils
 )
 TEST_PACKAGES=(locales xvfb xauth)
+CHECK_PACKAGES=(lintian desktop-file-utils appstream udev xvfb xauth xdotool imagemagick)
+PACKAGE_PACKAGES=(dpkg-dev debhelper fakeroot librsvg2-bin)
 
 fail() {
     echo "$1" >&2
@@ -27,6 +29,11 @@ apt_install() {
 # install_missing PACKAGE...: asks for sudo only when something is missing.
 install_missing() {
     local package missing=()
+    if ! command -v apt-get >/dev/null; then
+        . tools/elsewhere.sh
+        require_elsewhere "$@"
+        return
+    fi
     as_root=()
     for package in "$@"; do
         [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)" = installed ] || missing+=("$package")
