@@ -1,0 +1,31 @@
+# Sourced: what the scripts share that start programs on displays of their own. What is started ends with the script.
+export XDG_RUNTIME_DIR
+XDG_RUNTIME_DIR=$(mktemp -d)
+chmod 700 "$XDG_RUNTIME_DIR"
+started=()
+at_end=(:) # what else a script has to undo
+trap 'kill "${started[@]}" 2>/dev/null; "${at_end[@]}"; rm -rf "$XDG_RUNTIME_DIR"' EXIT
+
+# start COMMAND...: beside this script, silent.
+start() {
+    "$@" >"$XDG_RUNTIME_DIR/log" 2>&1 &
+    started+=($!)
+}
+
+# wait_for COMMAND...: until it succeeds, half a minute at most.
+wait_for() {
+    local tries
+    for ((tries = 0; tries < 60; ++tries)); do
+        "$@" >/dev/null 2>&1 && return
+        sleep 0.5
+    done
+    cat "$XDG_RUNTIME_DIR/log" >&2
+    fail "Waited in vain: $*"
+}
+
+# start_x11 SIZE: an X server without a screen, on a free display, which DISPLAY then names.
+start_x11() {
+    start Xvfb -displayfd 3 -screen 0 "$1x24" -dpi 96 3>"$XDG_RUNTIME_DIR/display"
+    wait_for test -s "$XDG_RUNTIME_DIR/display"
+    export DISPLAY=:$(<"$XDG_RUNTIME_DIR/display")
+}

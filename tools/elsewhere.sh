@@ -1,0 +1,48 @@
+# Sourced where there is no apt: which of Debian's packages are there under another name. Others, such as fonts, are left
+# to whoever knows the system.
+declare -A GENERAL=(
+    [build-essential]='command c++ a C++17 compiler'
+    [cmake]='command cmake CMake 3.25'
+    [ninja-build]='command ninja Ninja'
+    [pkg-config]='command pkg-config pkg-config'
+    [qtbase5-dev]='library Qt5Gui Qt 5.15 base with its headers'
+    [qtdeclarative5-dev]='library Qt5Quick Qt 5.15 Declarative with its headers'
+    [qtquickcontrols2-5-dev]='library Qt5QuickControls2 Qt 5.15 Quick Controls 2 with its headers'
+    [libqt5svg5-dev]='library Qt5Svg Qt 5.15 SVG with its headers'
+    [qttools5-dev]='folder Qt5LinguistTools Qt 5.15 Linguist tools'
+    [libusb-1.0-0-dev]='library libusb-1.0 libusb 1.0 with its headers'
+    [rapidjson-dev]='library RapidJSON RapidJSON'
+    [libgtest-dev]='library gtest GoogleTest'
+    [libgmock-dev]='library gmock GoogleMock'
+    [qml-module-qtquick2]='module QtQuick.2 the QML module QtQuick 2'
+    [qml-module-qtquick-controls2]='module QtQuick/Controls.2 the QML module QtQuick.Controls 2'
+    [xvfb]='command Xvfb Xvfb'
+    [xauth]='command xauth xauth'
+    [clang-format]='command clang-format clang-format'
+    [clang-tidy]='command clang-tidy clang-tidy'
+    [clang]='command clang++ Clang with libFuzzer'
+    [xdg-utils]='command xdg-open xdg-utils'
+)
+
+# is_there KIND NAME: Qt's QML modules and CMake files lie beside its libraries.
+is_there() {
+    local libraries
+    libraries=$(pkg-config --variable=libdir Qt5Core 2>/dev/null) || true
+    case "$1" in
+        command) command -v "$2" >/dev/null ;;
+        library) pkg-config --exists "$2" 2>/dev/null ;;
+        folder) [ -d "$libraries/cmake/$2" ] ;;
+        module) [ -d "$libraries/qt5/qml/$2" ] || [ -d "$libraries/qt/qml/$2" ] || [ -d "$libraries/../qml/$2" ] ;;
+    esac
+}
+
+# require_elsewhere PACKAGE...
+require_elsewhere() {
+    local package kind name what missing=
+    for package in "$@"; do
+        [ -n "${GENERAL[$package]-}" ] || continue
+        read -r kind name what <<<"${GENERAL[$package]}"
+        is_there "$kind" "$name" || missing+=", $what"
+    done
+    [ -z "$missing" ] || fail "No apt here to install what is missing: ${missing:2}."
+}
