@@ -78,8 +78,8 @@ bool UsbTty::openPort() {
         if (port < 0) {
             port = opened;
         } else {
-            dup3(opened, port,
-                 O_CLOEXEC); // under the same number, since the reading thread may be about to use it
+            // Under the same number, since the reading thread may be about to use it.
+            dup3(opened, port, O_CLOEXEC);
             ::close(opened);
         }
     }

@@ -37,8 +37,8 @@ public:
     /// link or closes it.
     void startReading();
     /// Ends all waiting on the line and returns when the reading thread has ended, at once unless a listener
-    /// is at work. On purpose: a broken object stays
-    /// in the buffer and meets what comes from the port that is opened next.
+    /// is at work. On purpose: a broken object stays in the buffer and meets what comes from the port that is
+    /// opened next.
     void serialClose() override;
     bool isClosed() override { return closed; }
     /// Waits for room on the line for the time-out at most. On purpose: one write of all bytes, and what the
