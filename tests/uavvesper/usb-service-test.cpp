@@ -75,9 +75,9 @@ struct DeviceService {
         return QTest::qWaitFor([&] { return recorder->take().find(signal) != std::string::npos; }, 60000);
     }
     /// Presses the USB button until the device is found: on a busy machine it may miss the 100 ms that it has
-    /// for an answer.
+    /// for an answer, and a message that an earlier unplugging cut takes the answers in for five seconds.
     bool connects() {
-        for (int attempt = 0; attempt < 20 && !service.isUsbActive(); ++attempt) {
+        for (int attempt = 0; attempt < 200 && !service.isUsbActive(); ++attempt) {
             recorder->take();
             service.startUsb();
             EXPECT_TRUE(hears("usbStateChanged"));
