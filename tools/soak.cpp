@@ -1,14 +1,11 @@
 // Drives the real documents through hundreds of connections with a virtual device that goes wrong now and
 // then, and tells what was lost and what has grown.
 
-#include "log.h"
 #include "message-reader.h"
+#include "screen-tool.h"
 #include "screens.h"
 
-#include <QGuiApplication>
 #include <QTest>
-#include <QTimer>
-#include <cstdio>
 #include <fstream>
 #include <random>
 
@@ -142,22 +139,13 @@ private:
 } // namespace
 
 int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
-    std::setvbuf(stdout, nullptr, _IOLBF, 0);
-    registerTypes();
-    QGuiApplication app(argc, argv);
-    if (argc != 4) {
-        std::fprintf(stderr, "Usage: soak CONNECTIONS SCANS SEED\n");
-        return 1;
-    }
-    const unsigned seed = static_cast<unsigned>(std::strtoul(argv[3], nullptr, 10));
-    std::printf("seed               %u\n", seed);
-    Log::setSink([](const std::string &) {}); // each broken message would be a page of it
-    try {
-        return Soak(std::max(std::atoi(argv[1]), WARM_UP + 1), std::atoi(argv[2]), seed).run() ? 0 : 1;
-    } catch (const std::exception &error) {
-        std::fprintf(stderr, "soak: %s\n", error.what());
-        return 1;
-    }
+    return runScreenTool(
+        "soak", argc, argv,
+        [&] {
+            if (argc != 4)
+                throw std::runtime_error("Usage: soak CONNECTIONS SCANS SEED");
+            const auto seed = static_cast<unsigned>(std::strtoul(argv[3], nullptr, 10));
+            std::printf("seed               %u\n", seed);
+            return Soak(std::max(std::atoi(argv[1]), WARM_UP + 1), std::atoi(argv[2]), seed).run();
+        });
 }

@@ -1,13 +1,9 @@
 // Presses each button that makes the program wait for the device, with devices that keep it waiting, and
 // tells how long the window stood still.
 
-#include "log.h"
+#include "screen-tool.h"
 #include "screens.h"
 
-#include <QGuiApplication>
-#include <QTest>
-#include <cstdio>
-#include <functional>
 #include <list>
 
 namespace {
@@ -77,19 +73,12 @@ private:
 } // namespace
 
 int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
-    std::setvbuf(stdout, nullptr, _IONBF, 0);
-    registerTypes();
-    QGuiApplication app(argc, argv);
-    Log::setSink([](const std::string &) {});
-    try {
-        Waits waits;
-        waits.withOneDevice();
-        waits.withSilentPorts();
-        return 0;
-    } catch (const std::exception &error) {
-        std::fprintf(stderr, "waits: %s\n", error.what());
-        return 1;
-    }
+    return runScreenTool(
+        "waits", argc, argv,
+        [] {
+            Waits waits;
+            waits.withOneDevice();
+            waits.withSilentPorts();
+            return true;
+        });
 }
