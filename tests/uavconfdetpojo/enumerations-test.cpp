@@ -1,6 +1,7 @@
 #include "msg/all-messages.h"
 
 #include <gmock/gmock.h>
+#include <sstream>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -68,28 +69,17 @@ TEST(Enumerations, HaveTheseNamesForTheUser) {
 }
 
 TEST(Enumerations, SweepRangesHaveTheirPlans) {
-    struct Range {
-        FM mode;
-        float minFreq, maxFreq, step;
-        std::size_t points;
-    };
-    int visibleIndex = 0;
-    for (const Range &range :
-         {Range{FM::STD_1200, 1000, 1680, 10, 69}, Range{FM::EXT_1200, 830, 1730, 10, 91},
-          Range{FM::STD_2400, 2400, 2484, 6, 15}, Range{FM::EXT_2400, 2350, 2550, 10, 21},
-          Range{FM::STD_4900, 5150, 5354, 6, 35}, Range{FM::EXT_4900, 4800, 5460, 10, 67},
-          Range{FM::STD_5800, 5725, 5851, 6, 22}, Range{FM::EXT_5800, 5470, 6100, 10, 64},
-          Range{FM::CUSTOM, 0, 0, 0, 0}}) {
-        const FreqMode mode(range.mode);
-        SCOPED_TRACE(mode.name());
-        EXPECT_EQ(mode.getMinFreq(), range.minFreq);
-        EXPECT_EQ(mode.getMaxFreq(), range.maxFreq);
-        EXPECT_EQ(mode.getVisibleIndex(), range.mode == FM::CUSTOM ? -1 : visibleIndex++);
-        const std::vector<float> plan = mode.getFreqList()->getFreqs();
-        ASSERT_EQ(plan.size(), range.points);
-        for (std::size_t i = 0; i < plan.size(); ++i)
-            EXPECT_EQ(plan[i], range.minFreq + static_cast<float>(i) * range.step);
-    }
+    EXPECT_EQ(each<FreqMode>([](FreqMode range) {
+                  std::ostringstream text;
+                  const std::vector<float> plan = range.getFreqList()->getFreqs();
+                  text << range.getVisibleIndex() << ':' << range.getMinFreq() << '-' << range.getMaxFreq();
+                  for (const std::size_t point : {std::size_t(1), plan.size() - 1})
+                      text << (plan.empty() ? "" : ',' + std::to_string(int(plan[point])));
+                  return text.str() + '/' + std::to_string(plan.size());
+              }),
+              "0:1000-1680,1010,1680/69 1:830-1730,840,1730/91 2:2400-2484,2406,2484/15 "
+              "3:2350-2550,2360,2550/21 4:5150-5354,5156,5354/35 5:4800-5460,4810,5460/67 "
+              "6:5725-5851,5731,5851/22 7:5470-6100,5480,6100/64 -1:0-0/0");
 }
 
 TEST(Enumerations, GenerationsHaveTheirBandsRangesAndAiModes) {

