@@ -13,7 +13,7 @@ void readUntil(const std::atomic<bool> &closed, ReadBlock readBlock) {
     while (!closed) {
         const auto start = std::chrono::steady_clock::now();
         // A device that was pulled out answers every read at once, which must not cost processor time.
-        if (!readBlock() && std::chrono::steady_clock::now() - start < PAUSE)
+        if (!readBlock() && !closed && std::chrono::steady_clock::now() - start < PAUSE)
             std::this_thread::sleep_for(PAUSE);
     }
 }
