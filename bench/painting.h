@@ -6,12 +6,8 @@
 
 #include <QGuiApplication>
 #include <QImage>
-#include <QPaintEngine>
 #include <QPainter>
 #include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <functional>
 #include <memory>
 #include <random>
 #include <thread>
@@ -19,70 +15,6 @@
 
 const QSize VIEW_SIZE(800, 184); // a band's share of the window
 constexpr int TEXT_SIZE = 10;    // points, as the window starts
-
-/// Draws one thing, after changing what differs from the thing before.
-using Steps = std::vector<std::function<void(QPainter &)>>;
-
-/// Notes what is drawn on it, down to each rectangle, line and text.
-class Recorder : public QPaintEngine, public QPaintDevice {
-public:
-    Recorder()
-        : QPaintEngine(AllFeatures) {}
-
-    Steps steps;
-
-    bool begin(QPaintDevice *) override { return true; }
-    bool end() override { return true; }
-    Type type() const override { return User; }
-    QPaintEngine *paintEngine() const override { return const_cast<Recorder *>(this); }
-    int metric(PaintDeviceMetric metric) const override {
-        switch (metric) {
-        case PdmWidth:
-            return VIEW_SIZE.width();
-        case PdmHeight:
-            return VIEW_SIZE.height();
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY:
-            return QImage(1, 1, QImage::Format_RGB32).logicalDpiX();
-        case PdmDevicePixelRatio:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return static_cast<int>(devicePixelRatioFScale());
-        default:
-            return QPaintDevice::metric(metric);
-        }
-    }
-
-    void updateState(const QPaintEngineState &next) override {
-        if (next.state() & DirtyPen)
-            steps.push_back([pen = next.pen()](QPainter &painter) { painter.setPen(pen); });
-        if (next.state() & DirtyBrush)
-            steps.push_back([brush = next.brush()](QPainter &painter) { painter.setBrush(brush); });
-        if (next.state() & DirtyFont)
-            steps.push_back([font = next.font()](QPainter &painter) { painter.setFont(font); });
-    }
-    void drawRects(const QRectF *rects, int count) override {
-        for (int i = 0; i < count; ++i)
-            steps.push_back([rect = rects[i].toRect()](QPainter &painter) { painter.drawRect(rect); });
-    }
-    void drawLines(const QLineF *lines, int count) override {
-        for (int i = 0; i < count; ++i)
-            steps.push_back([line = lines[i].toLine()](QPainter &painter) { painter.drawLine(line); });
-    }
-    void drawTextItem(const QPointF &place, const QTextItem &item) override {
-        steps.push_back([place, text = item.text()](QPainter &painter) { painter.drawText(place, text); });
-    }
-    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { fail(); }
-    void drawPolygon(const QPointF *, int, PolygonDrawMode) override { fail(); }
-
-private:
-    static void fail() {
-        std::fprintf(stderr, "A view draws something else than rectangles, lines and texts.\n");
-        std::exit(1);
-    }
-};
 
 /// Ten scans of a band over its widest range, with a weak signal in every sixth column and one that lasts.
 inline History historyOf(MasterFreqModeEnum band) {
@@ -117,11 +49,7 @@ public:
         this->setBackgroundColor(Qt::black);
         this->setSize(VIEW_SIZE);
         this->setHistory(history);
-        Recorder recorder;
-        QPainter painter(&recorder);
-        paintDrawing(this->data(), painter);
-        painter.end();
-        steps = std::move(recorder.steps);
+        shapes = this->data();
     }
 
     void paintScan() {
@@ -134,14 +62,30 @@ public:
         QPainter painter(&target);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.fillRect(target.rect(), Qt::black);
-        for (const auto &step : steps)
-            step(painter);
+        for (const auto &shape : shapes)
+            std::visit([&](const auto &known) { put(known, painter); }, shape);
     }
 
 private:
+    static void put(const FilledRect &rect, QPainter &painter) { painter.fillRect(rect.place, rect.color); }
+    static void put(const DrawnLine &line, QPainter &painter) {
+        QPen pen(line.color, line.width);
+        if (line.dash > 0) {
+            pen.setDashPattern({double(line.dash), double(line.dash)});
+            pen.setDashOffset(line.dash);
+        }
+        painter.setPen(pen);
+        painter.drawLine(line.place);
+    }
+    static void put(const Words &words, QPainter &painter) {
+        painter.setFont(fontOfSize(words.pointSize));
+        painter.setPen(words.color);
+        painter.drawText(words.place, words.text);
+    }
+
     History history;
     QImage target;
-    Steps steps;
+    Drawing shapes;
 };
 
 /// One scan on a view of each of the four bands, from `setHistory` to `paint`, against the same rectangles,

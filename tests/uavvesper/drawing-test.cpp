@@ -32,4 +32,29 @@ TEST(DrawingTest, FillsTheSamePixelsAsSmoothEdgesDo) {
         }
 }
 
+TEST(DrawingTest, DrawsTheSameDashesAsAPlainPainterDoes) {
+    std::minstd_rand random;
+    const auto from = [&](int low, int high) { return low + static_cast<int>(random() % (high - low + 1U)); };
+    for (int picture = 0; picture < 1000; ++picture) {
+        QImage drawn(120, 90, QImage::Format_RGB32);
+        drawn.fill(QColor(from(0, 255), from(0, 255), from(0, 255)));
+        QImage expected = drawn;
+        QPainter draw(&drawn), plain(&expected);
+        for (QPainter *painter : {&draw, &plain}) {
+            painter->setRenderHint(QPainter::Antialiasing);
+            painter->translate(picture % 3 * 0.5, 0);
+        }
+        const int width = from(1, 2), dash = from(1, 6), y = from(-2, 92);
+        const QColor color(from(0, 255), from(0, 255), from(0, 255), from(0, 255));
+        const QLine place(from(-9, 9), y, from(60, 140), y);
+        paintDrawing({DrawnLine{place, color, width, dash}}, draw);
+        QPen pen(color, width);
+        pen.setDashPattern({double(dash), double(dash)});
+        pen.setDashOffset(dash);
+        plain.setPen(pen);
+        plain.drawLine(place);
+        ASSERT_EQ(drawn, expected) << "picture " << picture;
+    }
+}
+
 } // namespace
