@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPen>
 #include <QPixmapCache>
+#include <QtMath>
 
 namespace {
 
@@ -13,17 +14,23 @@ void setSmooth(QPainter &painter, bool smooth) {
         painter.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
-/// Whether smooth edges change no pixel of the device: none of them falls into one, and none is beyond the
-/// device, where cutting it off would make it inexact by a hair.
-bool isExact(const QRectF &area, const QPainter &painter) {
-    const QRectF inPixels = painter.deviceTransform().mapRect(area);
-    const QRect whole = inPixels.toRect();
-    const QPaintDevice &device = *painter.device();
-    return inPixels == whole && QRect(0, 0, device.width(), device.height()).contains(whole);
+/// The part of the device, in the drawing's pixels, where smooth edges change nothing: none of them falls
+/// into a pixel of the device, and none is beyond the device, where cutting it off would make it inexact by a
+/// hair. Empty at a scale that is no whole number.
+QRect exactArea(const QPainter &painter) {
+    const QTransform transform = painter.deviceTransform();
+    const double scale = transform.m11();
+    if (scale < 1 || scale != qRound(scale) ||
+        transform != QTransform(scale, 0, 0, scale, qRound(transform.dx()), qRound(transform.dy())))
+        return {};
+    const QSize device(painter.device()->width(), painter.device()->height());
+    const QRectF area = transform.inverted().mapRect(QRectF({0, 0}, device));
+    return {QPoint(qCeil(area.left()), qCeil(area.top())),
+            QPoint(qFloor(area.right()) - 1, qFloor(area.bottom()) - 1)};
 }
 
-void put(const FilledRect &rect, QPainter &painter) {
-    setSmooth(painter, !isExact(rect.place, painter));
+void put(const FilledRect &rect, QPainter &painter, const QRect &exact) {
+    setSmooth(painter, !exact.contains(rect.place));
     painter.fillRect(rect.place, rect.color);
 }
 
@@ -36,17 +43,11 @@ QPen penOf(const DrawnLine &line) {
     return pen;
 }
 
-/// Whether a picture of the line gives the same pixels: a wider one covers pixels as a whole, which are mixed
-/// in another way, at another scale the dashes end within pixels, and what is beyond the device is cut off
-/// inexactly.
-bool isSamePicture(const DrawnLine &line, const QPainter &painter) {
-    const QTransform &transform = painter.deviceTransform();
-    const QPaintDevice &device = *painter.device();
-    const QRectF inPixels(transform.map(QPointF(line.place.p1())), transform.map(QPointF(line.place.p2())));
-    return line.dash > 0 && line.width == 1 && line.place.dy() == 0 &&
-           transform.type() <= QTransform::TxTranslate && inPixels == inPixels.toRect() &&
-           inPixels.left() >= 0 && inPixels.right() <= device.width() && inPixels.top() >= 1 &&
-           inPixels.top() < device.height();
+/// Whether a picture of the line gives the same pixels. A wider one covers pixels as a whole, which are mixed
+/// in another way.
+bool isSamePicture(const DrawnLine &line, const QPainter &painter, const QRect &exact) {
+    return line.dash > 0 && line.width == 1 && line.place.dy() == 0 && painter.deviceTransform().m11() == 1 &&
+           exact.contains({line.place.p1() - QPoint(0, 1), QSize(line.place.dx(), 2)});
 }
 
 /// A dashed line from (1, 1), as its dashes have ends of half a pixel. They are dear, and a view draws the
@@ -66,8 +67,8 @@ QPixmap pictureOf(const DrawnLine &line) {
     return picture;
 }
 
-void put(const DrawnLine &line, QPainter &painter) {
-    if (isSamePicture(line, painter)) {
+void put(const DrawnLine &line, QPainter &painter, const QRect &exact) {
+    if (isSamePicture(line, painter, exact)) {
         painter.drawPixmap(line.place.p1() - QPoint(1, 1), pictureOf(line));
         return;
     }
@@ -76,7 +77,7 @@ void put(const DrawnLine &line, QPainter &painter) {
     painter.drawLine(line.place);
 }
 
-void put(const Words &words, QPainter &painter) {
+void put(const Words &words, QPainter &painter, const QRect &) {
     setSmooth(painter, true);
     painter.setFont(fontOfSize(words.pointSize));
     painter.setPen(words.color);
@@ -95,8 +96,9 @@ void put(const Words &words, QPainter &painter) {
 } // namespace
 
 void paintDrawing(const Drawing &drawing, QPainter &painter) {
+    const QRect exact = exactArea(painter);
     for (const auto &shape : drawing)
-        std::visit([&](const auto &known) { put(known, painter); }, shape);
+        std::visit([&](const auto &known) { put(known, painter, exact); }, shape);
     setSmooth(painter, true);
 }
 
