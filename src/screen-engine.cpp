@@ -80,6 +80,10 @@ void registerTypes() {
 
 ScreenEngine::ScreenEngine(ServiceObjects &objects)
     : version(QString::fromStdString(version::getVersion())) {
+    // Qt waits 5 ms after a change before it draws, so that changes come together. Those of a scan come in
+    // one go.
+    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
+        qputenv("QT_QPA_UPDATE_IDLE_TIME", "3");
     QQmlContext &context = *engine.rootContext();
     context.setContextProperty("usbService", &objects.usbService);
     context.setContextProperty("themeData", &objects.themeData);

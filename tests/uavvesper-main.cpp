@@ -13,8 +13,9 @@ extern "C" const char *__lsan_default_suppressions() {
 #endif
 
 #ifdef __SANITIZE_THREAD__
-// Qt is built without the sanitizer, which therefore sees the queue of posted signals move and free its memory,
-// but not the mutex that guards it. Only calls that Qt itself makes are passed over: a frame of ours stays seen.
+// Qt is built without the sanitizer, which therefore sees the queue of posted signals move and free its
+// memory, but not the mutex that guards it. Only calls that Qt itself makes are passed over: a frame of ours
+// stays seen.
 extern "C" const char *__tsan_default_suppressions() {
     return "race:libQt5Core\n";
 }
