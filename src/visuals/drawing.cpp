@@ -18,7 +18,7 @@ void setSmooth(QPainter &painter, bool smooth) {
 /// into a pixel of the device, and none is beyond the device, where cutting it off would make it inexact by a
 /// hair. Empty at a scale that is no whole number.
 QRect exactArea(const QPainter &painter) {
-    const QTransform transform = painter.deviceTransform();
+    const QTransform &transform = painter.deviceTransform();
     const double scale = transform.m11();
     if (scale < 1 || scale != qRound(scale) ||
         transform != QTransform(scale, 0, 0, scale, qRound(transform.dx()), qRound(transform.dy())))
