@@ -4,7 +4,22 @@ XDG_RUNTIME_DIR=$(mktemp -d)
 chmod 700 "$XDG_RUNTIME_DIR"
 started=()
 at_end=(:) # what else a script has to undo
-trap 'kill "${started[@]}" 2>/dev/null; "${at_end[@]}"; rm -rf "$XDG_RUNTIME_DIR"' EXIT
+trap end EXIT
+
+# end: whatever of it fails, the rest is undone, and the script's own result stands.
+end() {
+    local status=$?
+    set +e
+    stop_started
+    "${at_end[@]}"
+    rm -rf "$XDG_RUNTIME_DIR"
+    exit $status
+}
+
+stop_started() {
+    [ ${#started[@]} -eq 0 ] || kill "${started[@]}" 2>/dev/null || true
+    started=()
+}
 
 # start COMMAND...: beside this script, silent.
 start() {
