@@ -3,7 +3,6 @@
 #include "service-objects.h"
 
 #include <QGuiApplication>
-#include <QIcon>
 #include <cstdio>
 
 int main(int argc, char **argv) {
@@ -12,10 +11,7 @@ int main(int argc, char **argv) {
     ServiceObjects objects;
     registerTypes();
     QGuiApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("com.kelvane"));
-    QCoreApplication::setApplicationName(QStringLiteral("UavVesper"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("com.kelvane.UavVesper"));
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/program")));
+    introduceProgram();
     const ProcessSignals processSignals;
     ScreenEngine screens(objects);
     screens.load();

@@ -11,6 +11,7 @@
 #include "visuals/uav-three-switch.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QQmlContext>
 #include <QQuickWindow>
@@ -65,6 +66,13 @@ void followDesktopScale(int argc, char **argv) {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
     // Words have their places in pixels, so a larger text of the desktop enlarges the window as a whole.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+}
+
+void introduceProgram() {
+    QCoreApplication::setOrganizationName(QStringLiteral("com.kelvane"));
+    QCoreApplication::setApplicationName(QStringLiteral("UavVesper"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.kelvane.UavVesper"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/program")));
 }
 
 void registerTypes() {

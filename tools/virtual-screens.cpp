@@ -10,13 +10,12 @@
 int main(int argc, char **argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     try {
-        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+        followDesktopScale(argc, argv);
         const SerialDirectory directory;
         ServiceObjects objects(directory.path());
         registerTypes();
         QGuiApplication app(argc, argv); // takes the toolkit's own options
-        QCoreApplication::setOrganizationName(QStringLiteral("com.kelvane"));
-        QCoreApplication::setApplicationName(QStringLiteral("UavVesper"));
+        introduceProgram();
         DeviceOptions options = parseDeviceOptions(argc, argv);
         if (options.help) {
             std::printf("./run --virtual starts the program beside a device that plays as told.\n%s",
@@ -30,6 +29,7 @@ int main(int argc, char **argv) {
         const ProcessSignals processSignals;
         ScreenEngine screens(objects);
         screens.load();
+        screens.fitToScreen();
         return QGuiApplication::exec();
     } catch (const std::exception &error) {
         std::fprintf(stderr, "./run --virtual: %s\n", error.what());
