@@ -45,6 +45,18 @@ public:
         std::printf("\n");
     }
 
+    /// In the slowest scan mode, where the pause between two scans is the longest.
+    void withSimulator() {
+        std::printf("\n| test mode | |\n|---|---|\n");
+        for (int press = 0; press < 12; ++press)
+            click("info");
+        click("cfg");
+        click("Scan mode");
+        choose("Efficient");
+        for (const char *gesture : {"Mask", "usb"})
+            std::printf("| %s | %lld ms |\n", gesture, standstillMs([&] { click(gesture); }));
+    }
+
     void withSilentPorts() {
         device.reset();
         std::list<PtyDevice> silent;
@@ -78,6 +90,7 @@ int main(int argc, char **argv) {
         [] {
             Waits waits;
             waits.withOneDevice();
+            waits.withSimulator();
             waits.withSilentPorts();
             return true;
         });
