@@ -15,6 +15,8 @@ declare -A GENERAL=(
     [libgtest-dev]='library gtest GoogleTest'
     [libgmock-dev]='library gmock GoogleMock'
     [qml-module-qtquick2]='module QtQuick.2 the QML module QtQuick 2'
+    [qml-module-qtquick-window2]='module QtQuick/Window.2 the QML module QtQuick.Window 2'
+    [qml-module-qtquick-templates2]='module QtQuick/Templates.2 the QML module QtQuick.Templates 2'
     [qml-module-qtquick-controls2]='module QtQuick/Controls.2 the QML module QtQuick.Controls 2'
     [xvfb]='command Xvfb Xvfb'
     [xauth]='command xauth xauth'
@@ -24,15 +26,16 @@ declare -A GENERAL=(
     [xdg-utils]='command xdg-open xdg-utils'
 )
 
-# is_there KIND NAME: Qt's QML modules and CMake files lie beside its libraries.
+# is_there KIND NAME: Qt's QML modules and CMake files lie beside its libraries. Without pkg-config nobody knows where those
+# are, so that it alone is missing then.
 is_there() {
     local libraries
     libraries=$(pkg-config --variable=libdir Qt5Core 2>/dev/null) || true
     case "$1" in
         command) command -v "$2" >/dev/null ;;
-        library) pkg-config --exists "$2" 2>/dev/null ;;
-        folder) [ -d "$libraries/cmake/$2" ] ;;
-        module) [ -d "$libraries/qt5/qml/$2" ] || [ -d "$libraries/qt/qml/$2" ] || [ -d "$libraries/../qml/$2" ] ;;
+        library) ! command -v pkg-config >/dev/null || pkg-config --exists "$2" 2>/dev/null ;;
+        folder) [ -z "$libraries" ] || [ -d "$libraries/cmake/$2" ] ;;
+        module) [ -z "$libraries" ] || [ -d "$libraries/qt5/qml/$2" ] || [ -d "$libraries/qt/qml/$2" ] || [ -d "$libraries/../qml/$2" ] ;;
     esac
 }
 

@@ -44,6 +44,8 @@ install_missing() {
         as_root=(sudo)
     fi
     echo "Installing: ${missing[*]}"
+    # Asks for the password here, where its prompt is seen.
+    [ ${#as_root[@]} -eq 0 ] || sudo -v || fail "Who may use sudo here has to install them: ${missing[*]}"
     logged build/install.log apt_install "${missing[@]}" || fail "Installing failed; build/install.log tells why."
 }
 
