@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <thread>
+#include <unistd.h>
 
 using namespace std::chrono_literals;
 
@@ -48,6 +49,18 @@ TEST_F(UsbTtyThreads, TellsWhyAPortDoesNotOpen) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "Error 2 from open: No such file or directory\n"
               "Error 25 from tcgetattr: Inappropriate ioctl for device\n");
+}
+
+/// Bytes 0x03 and 0x1c from a controlling terminal would end the process.
+TEST_F(UsbTtyThreads, IsNoTerminalOfAProcessThatHasNone) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            setsid();
+            const bool opened = tty.openPort();
+            std::_Exit(opened && open("/dev/tty", O_RDWR) < 0 ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
 }
 
 TEST_F(UsbTtyThreads, ASecondPortTakesThePlaceOfTheFirst) {
