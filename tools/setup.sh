@@ -21,6 +21,8 @@ fail() {
     exit 1
 }
 
+mkdir -p build 2>/dev/null && [ -w build ] || fail "You may not write to $PWD/build; run this as whom it belongs to."
+
 apt_install() {
     "${as_root[@]}" apt-get update &&
         "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
@@ -53,7 +55,6 @@ install_missing() {
 logged() {
     local log=$1 running status=0
     shift
-    mkdir -p build
     "$@" >"$log" 2>&1 &
     running=$!
     while [ -t 1 ] && kill -0 $running 2>/dev/null; do
