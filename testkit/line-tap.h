@@ -17,12 +17,12 @@ public:
     LineTap &operator=(const LineTap &) = delete;
 
     const std::string &terminal() const { return pty.terminal(); }
-    /// Until `stop` can be read. Throws std::runtime_error when the device has gone or the recording can't go
-    /// on.
+    /// Until `stop` can be read, whether either end takes bytes or not. Throws std::runtime_error when the
+    /// device has gone or the recording can't go on.
     void run(int stop);
 
 private:
-    void pass(int from, int to, bool fromDevice);
+    bool read(int from, bool fromDevice, std::string &pending);
 
     const std::string path;
     const std::filesystem::path link;

@@ -5,6 +5,7 @@
 #include "msg/all-messages.h"
 #include "usb-tty.h"
 
+#include <fcntl.h>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <sys/eventfd.h>
@@ -111,6 +112,72 @@ TEST_F(RecordingThreads, ATapPassesEveryByteOnAndItsRecordingPlaysAgain) {
     watch(device.terminal(), seen[1]);
     EXPECT_EQ(seen[0], seen[1]);
     EXPECT_THAT(seen[0][0], HasSubstr("\"battLvl\" : 12"));
+}
+
+/// A tap between a device that hears nothing until told to and a program that reads nothing until told to.
+class TappedRecordingThreads : public RecordingThreads {
+protected:
+    TappedRecordingThreads() {
+        device.setManner(PtyDevice::Manner::DEAF);
+        passing = std::thread([this] { tap.run(stop); });
+        open();
+    }
+    ~TappedRecordingThreads() override {
+        eventfd_write(stop, 1);
+        passing.join();
+        close(program);
+        close(stop);
+    }
+
+    void open() {
+        program = ::open(tap.terminal().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        termios line{};
+        tcgetattr(program, &line);
+        cfmakeraw(&line);
+        tcsetattr(program, TCSANOW, &line);
+    }
+    std::string read(std::size_t count) const {
+        std::string text(count, 0);
+        std::size_t have = 0;
+        for (ssize_t more; have < count && (more = ::read(program, &text[have], count - have)) > 0;)
+            have += static_cast<std::size_t>(more);
+        return text.substr(0, have);
+    }
+    /// False when the recording never has so many of this letter, which no other part of it may have.
+    bool records(std::ptrdiff_t count, char letter) const {
+        const auto deadline = std::chrono::steady_clock::now() + PtyDevice::DEADLINE;
+        for (;; std::this_thread::sleep_for(1ms)) {
+            std::ifstream stream(file);
+            if (std::count(std::istreambuf_iterator<char>(stream), {}, letter) >= count)
+                return true;
+            if (std::chrono::steady_clock::now() > deadline)
+                return false;
+        }
+    }
+
+    PtyDevice device{directory};
+    LineTap tap{device.terminal(), "", file};
+    const int stop = eventfd(0, EFD_CLOEXEC);
+    int program = -1;
+    std::thread passing;
+};
+
+/// More than the lines and the tap hold; at the end the device is deaf and the program reads nothing.
+TEST_F(TappedRecordingThreads, PassEveryByteOnAndEndWhereNobodyTakesThem) {
+    const std::string said(200000, 'D'), asked = std::string(60000, 'P') + R"({"type":"GET_STATE"})";
+    const auto talk = [&](int round) {
+        device.sendText(said);
+        EXPECT_EQ(::write(program, asked.data(), asked.size()), asked.size());
+        EXPECT_TRUE(records(round * 60000, 'P'));
+    };
+    talk(1);
+    EXPECT_EQ(read(said.size()), said);
+    EXPECT_TRUE(records(200000, 'D'));
+    device.setManner(PtyDevice::Manner::OBLIGING);
+    EXPECT_TRUE(device.waitForRequests(1));
+    EXPECT_EQ(device.received(), asked);
+    device.setManner(PtyDevice::Manner::DEAF);
+    talk(2);
 }
 
 TEST(DeviceFaultsThreads, ComeAndGoBySeed) {
