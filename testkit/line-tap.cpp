@@ -6,6 +6,7 @@
 #include <poll.h>
 #include <stdexcept>
 #include <unistd.h>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -58,8 +59,7 @@ LineTap::~LineTap() {
 
 void LineTap::run(int stop) {
     std::string toDevice, toProgram; // recorded, and not taken by that end yet
-    for (;;) {
-        const bool isOpen = pty.isOpen();
+    for (bool isOpen = false;;) {
         pollfd ends[] = {{stop, POLLIN, 0},
                          {device, events(toProgram, toDevice), 0},
                          {pty.descriptor(), events(toDevice, toProgram), 0}};
@@ -67,6 +67,9 @@ void LineTap::run(int stop) {
         poll(ends, isOpen ? 3 : 2, isOpen ? -1 : Pty::CLOSED_POLL);
         if (ends[0].revents != 0)
             return;
+        const bool wasOpen = std::exchange(isOpen, pty.isOpen());
+        if (wasOpen && !isOpen)
+            pty.dropUnread(); // or it would meet the next who opens the line
         if ((ends[1].revents & ~POLLOUT) && !read(device, true, toProgram))
             throw std::runtime_error(path + ": the device has gone");
         // A program may have closed the line right after its last words.

@@ -178,6 +178,15 @@ TEST_F(TappedRecordingThreads, PassEveryByteOnAndEndWhereNobodyTakesThem) {
     EXPECT_EQ(device.received(), asked);
     device.setManner(PtyDevice::Manner::DEAF);
     talk(2);
+    // What this program has not read does not meet the next one.
+    close(program);
+    for (const char letter : {'X', 'Y'}) { // the tap has seen the end when it has recorded both
+        device.sendText({letter});
+        EXPECT_TRUE(records(1, letter));
+    }
+    open();
+    device.sendText("fresh");
+    EXPECT_EQ(read(5), "fresh");
 }
 
 TEST(DeviceFaultsThreads, ComeAndGoBySeed) {
