@@ -8,8 +8,6 @@
 #include <unistd.h>
 #include <utility>
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr std::size_t MOST_PENDING = 65536; // bytes; above it the side that they come from is not read
@@ -41,9 +39,9 @@ void writeTo(int line, std::string &pending) {
 
 } // namespace
 
-LineTap::LineTap(const std::string &devicePath, fs::path linkPath, const std::string &recordingPath)
+LineTap::LineTap(const std::string &devicePath, const std::filesystem::path &link,
+                 const std::string &recordingPath)
     : path(devicePath)
-    , link(linkPath.empty() ? linkPath : fs::absolute(linkPath))
     , device(openRaw(devicePath))
     , recording(recordingPath) {
     if (!link.empty())
@@ -51,9 +49,6 @@ LineTap::LineTap(const std::string &devicePath, fs::path linkPath, const std::st
 }
 
 LineTap::~LineTap() {
-    std::error_code gone;
-    if (!link.empty())
-        fs::remove(link, gone);
     close(device);
 }
 

@@ -11,7 +11,7 @@ class LineTap {
 public:
     /// Throws std::runtime_error where the device does not open or something is at `link` already; without a
     /// link where it is empty.
-    LineTap(const std::string &device, std::filesystem::path link, const std::string &recordingPath);
+    LineTap(const std::string &device, const std::filesystem::path &link, const std::string &recordingPath);
     ~LineTap();
     LineTap(const LineTap &) = delete;
     LineTap &operator=(const LineTap &) = delete;
@@ -25,7 +25,6 @@ private:
     bool read(int from, bool fromDevice, std::string &pending);
 
     const std::string path;
-    const std::filesystem::path link;
     const int device;
     RecordingWriter recording;
     Pty pty;

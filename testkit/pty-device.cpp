@@ -105,8 +105,7 @@ void PtyDevice::plugIn() {
 void PtyDevice::unplug() {
     if (!plugged.exchange(false))
         return;
-    if (!link.empty())
-        fs::remove(link);
+    pty->unlink();
     wake();
     thread.join();
     pty.reset();

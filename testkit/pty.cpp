@@ -7,6 +7,9 @@
 #include <poll.h>
 #include <stdexcept>
 #include <unistd.h>
+#include <utility>
+
+namespace fs = std::filesystem;
 
 int checked(int result, const std::string &operation) {
     if (result < 0)
@@ -27,16 +30,28 @@ Pty::Pty()
 }
 
 Pty::~Pty() {
+    unlink();
     close(master);
 }
 
-void Pty::linkAt(const std::filesystem::path &link) const {
+void Pty::linkAt(const fs::path &path) {
+    const fs::path link = fs::absolute(path);
     std::error_code error;
-    std::filesystem::create_symlink(std::filesystem::relative(slaveName, link.parent_path(), error), link,
-                                    error);
+    for (fs::path folder = link.parent_path(); !fs::exists(folder, error); folder = folder.parent_path())
+        made.push_back(folder);
+    fs::create_directories(link.parent_path(), error);
+    if (!error)
+        fs::create_symlink(fs::relative(slaveName, link.parent_path(), error), link, error);
     if (error)
-        throw std::runtime_error(link.string() + ": " + error.message() +
+        throw std::runtime_error(path.string() + ": " + error.message() +
                                  (error == std::errc::permission_denied ? "; that needs root" : ""));
+    made.insert(made.begin(), link);
+}
+
+void Pty::unlink() {
+    std::error_code stays; // a folder that others use by now
+    for (const fs::path &path : std::exchange(made, {}))
+        fs::remove(path, stays);
 }
 
 bool Pty::isOpen() const {

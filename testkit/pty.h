@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 #include <termios.h>
+#include <vector>
 
 /// A pseudo-terminal: what is written to one end is read at the other. The program under test opens the other
 /// end by its path. Throws std::runtime_error where the system has none left.
@@ -16,9 +17,11 @@ public:
     Pty(const Pty &) = delete;
     Pty &operator=(const Pty &) = delete;
 
-    /// Links the terminal at this path. Throws std::runtime_error where something is there already or the
-    /// directory is not the user's.
-    void linkAt(const std::filesystem::path &link) const;
+    /// Links the terminal at this path, until `unlink` or the end, and makes the folders that are missing on
+    /// the way there for as long. Throws std::runtime_error where something is there already or the directory
+    /// is not the user's.
+    void linkAt(const std::filesystem::path &path);
+    void unlink();
     /// Our end, which does not block.
     int descriptor() const { return master; }
     const std::string &terminal() const { return slaveName; }
@@ -33,6 +36,7 @@ public:
 private:
     int master = -1;
     std::string slaveName;
+    std::vector<std::filesystem::path> made; // the link and its folders, to be removed in this order
 };
 
 /// The result of a system call, or std::runtime_error with the operation's name and the reason.

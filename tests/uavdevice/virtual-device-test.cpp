@@ -58,6 +58,23 @@ TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
     EXPECT_EQ(options.seed, 7U);
 }
 
+/// As /dev/serial/by-id comes with the first serial device and goes with the last.
+TEST(VirtualDeviceThreads, MakesTheFoldersOfItsLinkForAsLongAsItIsThere) {
+    const SerialDirectory directory;
+    const auto serial = directory.path() / "serial", link = serial / "by-id/usb-virtual";
+    {
+        PtyDevice device(link);
+        EXPECT_TRUE(UsbTty(link).openPort());
+        device.unplug();
+        EXPECT_FALSE(exists(serial));
+        device.plugIn();
+        EXPECT_TRUE(UsbTty(link).openPort());
+        std::ofstream(serial / "of somebody else");
+    }
+    EXPECT_FALSE(exists(serial / "by-id"));
+    EXPECT_TRUE(exists(serial / "of somebody else"));
+}
+
 class RecordingThreads : public Test {
 protected:
     SerialDirectory directory;
