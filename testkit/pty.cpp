@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <stdexcept>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -22,6 +23,9 @@ Pty::Pty()
     checked(grantpt(master), "grantpt");
     checked(unlockpt(master), "unlockpt");
     slaveName = ptsname(master);
+    // It is root's, who plays a device at the system's own place; whoever sits here plays with it.
+    if (geteuid() == 0)
+        checked(chmod(slaveName.c_str(), 0666), "chmod");
     // Whoever opens the port sets the line up; before that it must not send back what the device says.
     termios line = lineSettings();
     line.c_lflag &= ~static_cast<tcflag_t>(ECHO);

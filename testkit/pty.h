@@ -6,7 +6,8 @@
 #include <vector>
 
 /// A pseudo-terminal: what is written to one end is read at the other. The program under test opens the other
-/// end by its path. Throws std::runtime_error where the system has none left.
+/// end by its path; where root plays, so may everybody. Throws std::runtime_error where the system has none
+/// left.
 class Pty {
 public:
     /// ms between looks whether somebody opened the other end, which no event tells.

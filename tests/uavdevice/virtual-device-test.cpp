@@ -60,11 +60,13 @@ TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
 
 /// As /dev/serial/by-id comes with the first serial device and goes with the last.
 TEST(VirtualDeviceThreads, MakesTheFoldersOfItsLinkForAsLongAsItIsThere) {
+    using std::filesystem::perms;
     const SerialDirectory directory;
     const auto serial = directory.path() / "serial", link = serial / "by-id/usb-virtual";
     {
         PtyDevice device(link);
         EXPECT_TRUE(UsbTty(link).openPort());
+        EXPECT_EQ((status(link).permissions() & perms::others_write) != perms::none, geteuid() == 0);
         device.unplug();
         EXPECT_FALSE(exists(serial));
         device.plugIn();
