@@ -67,6 +67,9 @@ TEST(VirtualDeviceThreads, MakesTheFoldersOfItsLinkForAsLongAsItIsThere) {
         PtyDevice device(link);
         EXPECT_TRUE(UsbTty(link).openPort());
         EXPECT_EQ((status(link).permissions() & perms::others_write) != perms::none, geteuid() == 0);
+        EXPECT_EQ(errorOf([&] { PtyDevice{link}; }),
+                  link.string() + ": File exists; remove it if no other virtual device runs there");
+        EXPECT_TRUE(exists(link));
         device.unplug();
         EXPECT_FALSE(exists(serial));
         device.plugIn();
