@@ -39,6 +39,7 @@ void play(const DeviceOptions &options, int ending) {
 
 int main(int argc, char **argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    std::signal(SIGPIPE, SIG_IGN); // it plays on when nobody reads what it says any more
     try {
         const DeviceOptions options = parseDeviceOptions(argc, argv);
         if (options.help)
