@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <cstdio>
 #include <getopt.h>
+#include <initializer_list>
 #include <iomanip>
 #include <random>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 
@@ -94,15 +96,28 @@ void takeOption(DeviceOptions &options, const std::string &name, const std::stri
         options.record = value;
 }
 
-void checkTogether(const DeviceOptions &options) {
+/// `given` are the names of the options that the user gave.
+void checkTogether(const DeviceOptions &options, const std::set<std::string> &given) {
     const auto require = [](bool holds, const char *what) {
         if (!holds)
             throw std::runtime_error(what);
     };
+    const auto refuse = [&](std::initializer_list<const char *> names, const std::string &why) {
+        for (const char *name : names)
+            if (given.count(name) > 0)
+                throw std::runtime_error("--" + std::string(name) + why);
+    };
     require(sceneOf(options.scene).has_value(), "--scene: drone, street, silence or peaks");
     require(options.tapped.empty() == options.record.empty(), "--tap and --record go together");
-    require(options.tapped.empty() || (options.replay.empty() && options.faults.empty()),
-            "--tap has a real device, which needs no --replay and no --faults");
+    if (!options.tapped.empty())
+        refuse({"generation", "pace", "scene", "battery", "faults", "replay"},
+               " is for a device that is played; --tap has a real one");
+    if (options.replay.empty())
+        refuse({"speed"}, " needs --replay");
+    else
+        refuse({"pace", "scene"}, " is not for --replay, which plays the scans of the recording");
+    if (options.faults.empty())
+        refuse({"period", "seed"}, " needs --faults");
     const bool unplugs = std::count(options.faults.begin(), options.faults.end(), "unplug") > 0;
     require(options.faultPeriod.count() > 0 || (options.faults.size() <= 1 && !unplugs),
             "--faults: several of them, or unplug, need a --period");
@@ -121,16 +136,20 @@ DeviceOptions parseDeviceOptions(int argc, char **argv) {
     options.seed = std::random_device()();
     optind = 0;
     opterr = 0;
-    for (int result, index = 0; (result = getopt_long(argc, argv, ":", known.data(), &index)) != -1;) {
+    std::set<std::string> given;
+    for (int word = 1, index = 0, result;
+         (result = getopt_long(argc, argv, "+:", known.data(), &index)) != -1; word = optind) {
         if (result == ':')
-            throw std::runtime_error(std::string(argv[optind - 1]) + " needs a value");
+            throw std::runtime_error(std::string(argv[word]) + " needs a value");
         if (result != 0)
-            throw std::runtime_error(std::string(argv[optind - 1]) + " is no option; --help tells of all");
-        takeOption(options, known[static_cast<std::size_t>(index)].name, optarg ? optarg : "");
+            throw std::runtime_error(std::string(argv[word]) + " is no option; --help tells of all");
+        const std::string name = known[static_cast<std::size_t>(index)].name;
+        takeOption(options, name, optarg ? optarg : "");
+        given.insert(name);
     }
     if (optind < argc)
         throw std::runtime_error(std::string(argv[optind]) + " is no option; --help tells of all");
-    checkTogether(options);
+    checkTogether(options, given);
     return options;
 }
 

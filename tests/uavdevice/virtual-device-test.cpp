@@ -38,6 +38,7 @@ TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
     const std::pair<std::vector<std::string>, const char *> cases[] = {
         {{"--rain"}, "--rain is no option; --help tells of all"},
         {{"rain"}, "rain is no option; --help tells of all"},
+        {{"--battery", "9", "-help"}, "-help is no option; --help tells of all"},
         {{"--pace"}, "--pace needs a value"},
         {{"--pace", "fast"}, "--pace: \"fast\" is no number from 1 to 3600000"},
         {{"--battery", "101"}, "--battery: \"101\" is no number from 0 to 100"},
@@ -47,7 +48,22 @@ TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
         {{"--faults", "cut,rain"}, "--faults: there is no fault \"rain\""},
         {{"--faults", "unplug"}, "--faults: several of them, or unplug, need a --period"},
         {{"--tap", "/dev/null"}, "--tap and --record go together"},
+        {{"--speed", "2"}, "--speed needs --replay"},
+        {{"--period", "2"}, "--period needs --faults"},
+        {{"--seed", "2"}, "--seed needs --faults"},
+        {{"--replay", "x", "--pace", "9"},
+         "--pace is not for --replay, which plays the scans of the recording"},
+        {{"--replay", "x", "--scene", "drone"},
+         "--scene is not for --replay, which plays the scans of the recording"},
     };
+    const std::pair<const char *, const char *> playing[] = {{"--pace", "9"},      {"--generation", "K6"},
+                                                             {"--scene", "drone"}, {"--battery", "9"},
+                                                             {"--replay", "x"},    {"--faults", "cut"}};
+    for (const auto &[option, value] : playing)
+        EXPECT_EQ(errorOf([&, &given = option, &of = value] {
+                      parse({"--tap", "x", "--record", "x", given, of});
+                  }),
+                  option + std::string(" is for a device that is played; --tap has a real one"));
     for (const auto &[words, error] : cases)
         EXPECT_EQ(errorOf([&, &given = words] { parse(given); }), error);
     const DeviceOptions options =
