@@ -18,7 +18,8 @@ int main(int argc, char **argv) {
         introduceProgram();
         DeviceOptions options = parseDeviceOptions(argc, argv);
         if (options.help) {
-            std::printf("./run --virtual starts the program beside a device that plays as told.\n%s",
+            std::printf("./run --virtual starts the program beside a device that plays as told.\n"
+                        "--link, --tap and --record are for tools/virtual-device alone.\n%s",
                         DEVICE_OPTIONS_HELP);
             return 0;
         }
