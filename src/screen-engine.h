@@ -18,8 +18,8 @@
 /// Before the application object, to which the arguments go on.
 void followDesktopScale(int argc, char **argv);
 
-/// Says which program this is: to the desktop, with its icon, and in the names of files. After the application
-/// object.
+/// Says which program this is: to the desktop, with its icon, and in the names of files. After the
+/// application object.
 void introduceProgram();
 
 /// Tells Qt of the elements that the documents import and of the values that cross threads and documents.
