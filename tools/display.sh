@@ -2,6 +2,7 @@
 export XDG_RUNTIME_DIR
 XDG_RUNTIME_DIR=$(mktemp -d)
 chmod 700 "$XDG_RUNTIME_DIR"
+export XDG_CACHE_HOME=$XDG_RUNTIME_DIR/cache # nothing of theirs stays in the user's own
 started=()
 at_end=(:) # what else a script has to undo
 trap end EXIT
