@@ -1,4 +1,4 @@
-# Shared by ./run, ./test and tools/lint: installs what is missing and builds. Sourced with the tree's top as the working
+# Shared by ./run, ./test and the scripts here: installs what is missing and builds. Sourced with the tree's top as the working
 # directory.
 
 set -euo pipefail

@@ -53,7 +53,8 @@ bool isSamePicture(const DrawnLine &line, const QPainter &painter, const QRect &
 /// A dashed line from (1, 1), as its dashes have ends of half a pixel. They are dear, and a view draws the
 /// same lines again with each scan.
 QPixmap pictureOf(const DrawnLine &line) {
-    const QString key = QStringLiteral("%1 %2 %3").arg(line.place.dx()).arg(line.dash).arg(line.color.rgba());
+    const QString key =
+        QStringLiteral("dashes %1 %2 %3").arg(line.place.dx()).arg(line.dash).arg(line.color.rgba());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
         picture = QPixmap(line.place.dx() + 2, 2);
