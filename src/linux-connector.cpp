@@ -81,3 +81,9 @@ std::shared_ptr<Msg> LinuxConnector::simpleTransaction(std::shared_ptr<Msg> msg,
         return testService.acceptMsg(msg);
     return transaction(std::move(msg), timeout, MsgType::values());
 }
+
+void LinuxConnector::transactionGaveUp(const std::shared_ptr<Msg> &request, Sent sent,
+                                       std::chrono::milliseconds timeout) {
+    if (request && !isClosed())
+        reportPort((getPortName() + ": " + adviceOnRefusal(*request, sent, timeout)).c_str());
+}

@@ -18,8 +18,10 @@ public:
     using Report = std::function<void(const char *)>;
 
     /// `serialDirectory` holds a symbolic link to the terminal of each serial device. On the searching thread
-    /// `reportError` gets the text of a file system error that ended a search, and `reportPort` a line for
-    /// each terminal that was tried and did not become the device: its path, what failed and what helps.
+    /// `reportError` gets the text of a file system error that ended a search. `reportPort` gets a line with
+    /// the path of a terminal, what failed and what helps: on the searching thread for each one that was
+    /// tried and did not become the device, and on the thread of a transaction for each request that the line
+    /// did not take in time.
     explicit LinuxConnector(
         std::filesystem::path serialDirectory = SERIAL_DIRECTORY, Report reportError = [](const char *) {},
         Report reportPort = [](const char *) {});
@@ -43,6 +45,10 @@ public:
     /// where it tells its listeners alone.
     std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg,
                                            std::chrono::milliseconds timeout) override;
+
+protected:
+    void transactionGaveUp(const std::shared_ptr<Msg> &request, Sent sent,
+                           std::chrono::milliseconds timeout) override;
 
 private:
     bool probe(const std::string &devicePath);

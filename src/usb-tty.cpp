@@ -1,6 +1,5 @@
 #include "usb-tty.h"
 
-#include "bounded-write.h"
 #include "reading-loop.h"
 
 #include <cerrno>
@@ -9,20 +8,31 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
+
+namespace {
+
+/// In ms; closing wakes it.
+constexpr int READ_WAIT = 1000;
+/// In ms, while a rest waits for room, which the line may have without telling.
+constexpr int REST_WAIT = 5;
+/// What unsent bytes get to leave at the end: a sweep, in which a device takes none, is shorter.
+constexpr std::chrono::milliseconds END_PATIENCE{500};
+
+} // namespace
 
 UsbTty::UsbTty()
     : UsbTty("") {}
 
 UsbTty::UsbTty(std::string name)
     : portName(std::move(name))
-    , closing(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {}
+    , news(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
+    , writer([this] { eventfd_write(news, 1); }) {}
 
 UsbTty::~UsbTty() {
     UsbTty::serialClose();
-    ::close(closing);
+    ::close(news);
 }
 
 bool UsbTty::failed(const char *operation) {
@@ -66,23 +76,23 @@ bool UsbTty::openPort() {
     lastOpenError = 0;
     if (path.empty())
         return false;
-    const int opened = open(path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    const int opened = open(path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK);
     if (opened < 0)
         return failed("open");
     if (!setUpLine(opened)) {
         ::close(opened);
         return false;
     }
-    {
-        const std::lock_guard portLock(portMutex);
-        if (port < 0) {
-            port = opened;
-        } else {
-            // Under the same number, since the reading thread may be about to use it.
-            dup3(opened, port, O_CLOEXEC);
-            ::close(opened);
-        }
+    if (port < 0) {
+        port = opened;
+    } else {
+        writer.finish(END_PATIENCE);
+        // Under the same number, since the reading thread may be about to use it.
+        dup3(opened, port, O_CLOEXEC);
+        ::close(opened);
+        eventfd_write(news, 1); // it waits for the former one's bytes
     }
+    writer.use(port);
     closed = false;
     startReading();
     return true;
@@ -94,11 +104,17 @@ void UsbTty::startReading() {
         readingThread.start([this] { readUntil(closed, [this] { return readBlock(); }); });
 }
 
+/// False where it came back at once and nothing has happened.
 bool UsbTty::readBlock() {
-    // As long as a read of the line waits, but closing ends it.
-    pollfd waited[] = {{port, POLLIN, 0}, {closing, POLLIN, 0}};
-    if (poll(waited, 2, 1000) <= 0 || waited[1].revents != 0)
-        return false;
+    const bool hasRest = writer.hasRest();
+    const short line = hasRest ? POLLIN | POLLOUT : POLLIN;
+    pollfd waited[] = {{port, line, 0}, {news, POLLIN, 0}};
+    const int ready = poll(waited, 2, hasRest ? REST_WAIT : READ_WAIT);
+    eventfd_t told;
+    const bool isNews = waited[1].revents != 0 && eventfd_read(news, &told) == 0;
+    const bool hasSent = writer.sendRest();
+    if (ready <= 0 || closed || (waited[0].revents & ~POLLOUT) == 0)
+        return ready == 0 || isNews || hasSent;
     buffer_t bytes(buffer_size, '\0');
     const ssize_t count = ::read(port, bytes.data(), bytes.size());
     // On purpose: errno counts whatever the read gave, and nothing clears it, so that on a thread that was
@@ -107,29 +123,15 @@ bool UsbTty::readBlock() {
         bytes.resize(static_cast<std::size_t>(count));
         processNewData(std::move(bytes));
     }
-    return count > 0;
-}
-
-void UsbTty::sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) {
-    const std::lock_guard lock(portMutex);
-    if (port >= 0)
-        writeWithin(timeout, port, closing, bytes.data(), bytes.size());
+    return count > 0 || hasSent;
 }
 
 void UsbTty::serialClose() {
     const std::lock_guard lock(lifecycle);
+    writer.finish(END_PATIENCE);
     closed = true;
-    eventfd_write(closing, 1);
+    eventfd_write(news, 1);
     readingThread.finish();
-    const std::lock_guard portLock(portMutex);
-    if (port >= 0) {
-        // Every request has waited for its reply. What a hung device has not taken would keep the system's
-        // close waiting for half a minute.
-        int unsent = 0;
-        if (ioctl(port, TIOCOUTQ, &unsent) == 0 && unsent > 0)
-            tcflush(port, TCOFLUSH);
+    if (port >= 0)
         ::close(port.exchange(-1));
-    }
-    eventfd_t closings;
-    eventfd_read(closing, &closings);
 }

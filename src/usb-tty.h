@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/joining-thread.h"
+#include "line-writer.h"
 #include "serial-interface-adapter.h"
 
 #include <atomic>
@@ -25,25 +26,29 @@ public:
 
     /// The path of the terminal; a change shows at the next `openPort`.
     void setPortName(std::string name);
-    /// No caller today.
     std::string getPortName() const;
     /// No caller today.
     std::string getName() override { return "UsbTTY"; }
 
     /// Opens the port, sets the line up for the device and starts reading. The speed stays as it is. An open
-    /// port is replaced.
+    /// port is replaced, once its unsent bytes had the time that `serialClose` gives them.
     bool openPort();
     /// Starts the reading thread of an open link where none is. Does nothing while another thread opens the
     /// link or closes it.
     void startReading();
-    /// Ends all waiting on the line and returns when the reading thread has ended, at once unless a listener
-    /// is at work. On purpose: a broken object stays in the buffer and meets what comes from the port that is
-    /// opened next.
+    /// Gives unsent bytes up to half a second to leave, while reading goes on, then ends all waiting on the
+    /// line, drops what is left and returns when the reading thread has ended. At once where nothing is
+    /// unsent and no listener is at work. On purpose: a broken object stays in the buffer and meets what
+    /// comes from the port that is opened next.
     void serialClose() override;
     bool isClosed() override { return closed; }
-    /// Waits for room on the line for the time-out at most. On purpose: one write of all bytes, and what the
-    /// terminal does not take, or refuses, is lost without a word, as the missing reply tells.
-    void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override;
+    /// Blocks for the time-out at most; `sendWithin` tells what the line has taken by then.
+    void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override { sendWithin(bytes, timeout); }
+    /// A request that has begun leaves as a whole, before any other, as long as the port is open; the reading
+    /// thread sends on what is left.
+    Sent sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout) override {
+        return writer.send(bytes, timeout);
+    }
 
 protected:
     /// What kept the last `openPort` from opening, as in `errno`; 0 where nothing did.
@@ -65,11 +70,11 @@ private:
     std::recursive_mutex lifecycle;
     JoiningThread readingThread;
     std::atomic<int> lastOpenError{0};
-    const int closing; ///< an event that can be read while the link is being closed
-
-    /// Held for a write and for closing or replacing the descriptor, so that no write lands on a descriptor
-    /// that was handed out again.
-    std::mutex portMutex;
-    std::atomic<int> port{-1}; ///< -1 while closed; only changed under both mutexes
+    /// An event that wakes the reading thread: the link is being closed, or there is a rest to send on.
+    const int news;
+    std::atomic<int> port{-1}; ///< -1 while closed; only changed under `lifecycle`
     std::atomic<bool> closed{true};
+    /// Has the port from its opening until it is about to be closed or replaced, so that no write lands on a
+    /// descriptor that was handed out again.
+    LineWriter writer;
 };

@@ -19,8 +19,17 @@ public:
     void serialClose() override {}
     bool isClosed() override { return false; }
     void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override { onSend(bytes, timeout); }
+    Sent sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout) override {
+        SerialInterfaceAdapter::sendWithin(bytes, timeout);
+        return sent;
+    }
+    void transactionGaveUp(const std::shared_ptr<Msg> &msg, Sent, std::chrono::milliseconds) override {
+        givenUp.push_back(msg->getType());
+    }
 
     std::function<void(buffer_t, std::chrono::milliseconds)> onSend = [](auto, auto) {};
+    Sent sent = Sent::WHOLE;
+    Types givenUp;
     Types received;
     const std::shared_ptr<MsgListener> collector = std::make_shared<MsgListener>(
         [this](const std::shared_ptr<Msg> &msg) { received.push_back(msg->getType()); });
@@ -62,6 +71,28 @@ TEST(SerialInterfaceAdapter, TransactionTakesMessagesOfTheExpectedTypesOnly) {
     EXPECT_THROW(link.transaction(request(), 1ms, MsgType::values()), std::chrono::milliseconds);
     link.processNewData(STATE); // reaches no listener of the transactions that are over
     EXPECT_EQ(link.received.size(), 5u);
+}
+
+TEST(SerialInterfaceAdapterThreads, TransactionWaitsForAReplyFromWhenItsRequestHasLeft) {
+    Link link;
+    std::thread device;
+    link.onSend = [&](auto, auto timeout) {
+        std::this_thread::sleep_for(timeout);
+        device = std::thread([&] {
+            std::this_thread::sleep_for(50ms);
+            link.processNewData(STATE);
+        });
+    };
+    EXPECT_NE(link.transaction(request(), 500ms, MsgType::values()), nullptr);
+    device.join();
+    EXPECT_EQ(link.givenUp, Types{});
+    link.onSend = [&](auto, auto) { link.processNewData(OK); };
+    for (const Sent sent : {Sent::PART, Sent::NOTHING}) {
+        link.sent = sent;
+        EXPECT_EQ(link.transaction(request(), 24h, {MsgTypeEnum::OK}), nullptr) << "at once";
+    }
+    EXPECT_EQ(link.givenUp, Types(2, MsgTypeEnum::GET_STATE));
+    EXPECT_EQ(link.received.back(), MsgTypeEnum::OK) << "heard like any message";
 }
 
 TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {

@@ -83,26 +83,6 @@ TEST_F(UsbTtyThreads, AnUnpluggedDeviceCostsNoProcessorTime) {
     EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 10);
 }
 
-TEST_F(UsbTtyThreads, AHungDeviceHoldsNobodyUp) {
-    device.setManner(PtyDevice::Manner::DEAF);
-    ASSERT_TRUE(tty.openPort());
-    const buffer_t request(1000, ' ');
-    for (int i = 0; i < 40; ++i)
-        tty.sendBytes(request, 10ms);
-    const auto start = std::chrono::steady_clock::now();
-    std::thread other([&] { tty.sendBytes(request, 60s); });
-    std::this_thread::sleep_for(50ms);
-    tty.serialClose();
-    other.join();
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 30s) << "closing ends the wait";
-    EXPECT_TRUE(device.waitForOpen(false));
-    device.setManner(PtyDevice::Manner::OBLIGING);
-    ASSERT_TRUE(tty.openPort());
-    device.clearRecord();
-    tty.sendBytes("{\"type\":\"GET_STATE\"}", 10s);
-    EXPECT_TRUE(device.waitForRequests(1));
-}
-
 /// A program that it starts, such as a viewer, would keep the port open.
 TEST_F(UsbTtyThreads, ChildrenDoNotInheritTheLine) {
     for (const char *end : {"first", "in its place"}) {

@@ -15,7 +15,6 @@ SerialInterfaceAdapter::SerialInterfaceAdapter()
 std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> msg,
                                                          std::chrono::milliseconds timeout,
                                                          std::vector<MsgTypeEnum> expected) {
-    const auto deadline = std::chrono::steady_clock::now() + timeout; // also where sending takes some of it
     const std::string name = "transaction " + std::to_string(++trIdHolder);
     std::shared_ptr<Msg> result;
     std::condition_variable arrived;
@@ -28,23 +27,33 @@ std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> ms
         std::atomic_store(&result, std::move(reply));
         arrived.notify_one();
     });
+    Sent sent = Sent::WHOLE;
     addListener(listener);
     {
         // The listener refers to this stack: it goes before anything else, also when sending throws.
         const ScopeGuard removal([&] { removeListener(listener); });
         try {
-            send(std::move(msg), timeout);
+            sent = sendWithin(MsgToJsonParser::toJson(msg), timeout);
         } catch (const std::exception *e) { // On purpose by pointer, here and below: others pass through.
             Log::error(TAG, name + " send ERROR: " + e->what());
         }
         try {
             std::unique_lock lock(mutex);
-            arrived.wait_until(lock, deadline, hasResult);
+            if (sent == Sent::WHOLE)
+                arrived.wait_for(lock, timeout, hasResult);
         } catch (const std::exception *e) {
             Log::error(TAG, name + " msg.wait ERROR: " + e->what());
         }
     }
-    return std::atomic_load(&result);
+    if (sent == Sent::WHOLE)
+        return std::atomic_load(&result);
+    transactionGaveUp(msg, sent, timeout); // what came meanwhile answers something else
+    return nullptr;
+}
+
+Sent SerialInterfaceAdapter::sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout) {
+    sendBytes(bytes, timeout);
+    return Sent::WHOLE;
 }
 
 void SerialInterfaceAdapter::send(std::shared_ptr<Msg> msg, std::chrono::milliseconds timeout) {

@@ -33,6 +33,9 @@ public:
 
     /// Called on the caller's thread, next to the reading.
     virtual void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) = 0;
+    /// As `sendBytes`, and tells what the line has taken within the time-out. A link that cannot tell has
+    /// sent all.
+    virtual Sent sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout);
 
     std::shared_ptr<IoLogger> getIoLogger();
     void fireMsg(std::shared_ptr<Msg> msg);
@@ -49,6 +52,10 @@ public:
 
 protected:
     const std::string TAG = "RFD24";
+
+    /// A transaction ended without waiting for a reply, since the line had not taken all of its request
+    /// within the time-out. On the thread of the transaction, once for each.
+    virtual void transactionGaveUp(const std::shared_ptr<Msg> &, Sent, std::chrono::milliseconds) {}
 
 private:
     const IoLogger logClbck = [](const std::string &) {};

@@ -10,8 +10,13 @@
 #include <string>
 #include <vector>
 
+/// Gets each message. It must throw nothing but a `const std::exception *`, which becomes an error line in
+/// the log: any other exception leaves the thread that delivers messages, and so ends the process.
 using MsgListener = std::function<void(std::shared_ptr<Msg>)>;
 using IoLogger = std::function<void(std::string)>;
+
+/// What a line has taken of a request within its time-out.
+enum class Sent { NOTHING, PART, WHOLE };
 
 /// Hears of errors that a link does not get over by itself.
 class OnErrorListener {
@@ -26,7 +31,9 @@ public:
     virtual ~SerialInterface() = default;
     virtual std::string getName() = 0;
     /// Sends a request and blocks for the first message of an expected type, whatever request made the device
-    /// send it; null after the time-out. Not to be called from a listener, which would hold up the reply.
+    /// send it; null after the time-out, which runs from when the request has left. Null at once where the
+    /// line has not taken all of the request within the same time. Not to be called from a listener, which
+    /// would hold up the reply.
     virtual std::shared_ptr<Msg> transaction(std::shared_ptr<Msg> msg, std::chrono::milliseconds timeout,
                                              std::vector<MsgTypeEnum> expected) = 0;
     virtual void send(std::shared_ptr<Msg> msg, std::chrono::milliseconds timeout) = 0;

@@ -1,0 +1,111 @@
+#include "line-writer.h"
+
+#include <algorithm>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
+
+using std::chrono::milliseconds;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// Between two tries. A driver of USB lines holds sixteen pieces, of about a tenth of a millisecond each.
+constexpr milliseconds RETRY{1};
+
+Clock::time_point nextTry(Clock::time_point deadline) {
+    return std::min(deadline, Clock::now() + RETRY);
+}
+
+} // namespace
+
+LineWriter::LineWriter(std::function<void()> call)
+    : onRest(std::move(call)) {}
+
+void LineWriter::use(int newTerminal) {
+    const std::lock_guard lock(mutex);
+    terminal = newTerminal;
+}
+
+Sent LineWriter::send(const std::string &bytes, milliseconds timeout) {
+    const auto deadline = Clock::now() + timeout;
+    std::unique_lock lock(mutex);
+    const auto holdsInTime = [&, line = lines](auto condition) {
+        while (line == lines && terminal >= 0) {
+            if (condition())
+                return true;
+            if (Clock::now() >= deadline)
+                break;
+            changed.wait_until(lock, nextTry(deadline));
+        }
+        return false;
+    };
+    if (!holdsInTime([&] { return begin(bytes); }))
+        return Sent::NOTHING;
+    const auto hasLeft = [this, request = begun] {
+        push();
+        return rest.empty() || begun != request;
+    };
+    return holdsInTime(hasLeft) ? Sent::WHOLE : Sent::PART;
+}
+
+bool LineWriter::hasRest() const {
+    const std::lock_guard lock(mutex);
+    return !rest.empty();
+}
+
+bool LineWriter::sendRest() {
+    const std::lock_guard lock(mutex);
+    return push();
+}
+
+void LineWriter::finish(milliseconds patience) {
+    const auto deadline = Clock::now() + patience;
+    std::unique_lock lock(mutex);
+    if (terminal < 0)
+        return;
+    finishing = true;
+    bool isUnsent;
+    while ((isUnsent = holdsUnsent()) && Clock::now() < deadline)
+        changed.wait_until(lock, nextTry(deadline));
+    if (isUnsent)
+        tcflush(terminal, TCOFLUSH);
+    rest.clear();
+    terminal = -1;
+    finishing = false;
+    ++lines;
+    changed.notify_all();
+}
+
+/// Under the lock, as the next two.
+bool LineWriter::begin(const std::string &bytes) {
+    push();
+    if (finishing || !rest.empty())
+        return false;
+    const ssize_t taken = ::write(terminal, bytes.data(), bytes.size());
+    if (taken <= 0 && !bytes.empty())
+        return false;
+    ++begun;
+    rest = bytes.substr(static_cast<std::size_t>(std::max<ssize_t>(taken, 0)));
+    if (!rest.empty())
+        onRest();
+    return true;
+}
+
+bool LineWriter::push() {
+    const ssize_t taken = rest.empty() ? 0 : ::write(terminal, rest.data(), rest.size());
+    if (taken <= 0)
+        return false;
+    rest.erase(0, static_cast<std::size_t>(taken));
+    if (rest.empty())
+        changed.notify_all();
+    return true;
+}
+
+/// A line that has gone holds nothing: there is nobody whom it could reach.
+bool LineWriter::holdsUnsent() {
+    push();
+    int underWay = 0;
+    return ioctl(terminal, TIOCOUTQ, &underWay) == 0 && (underWay > 0 || !rest.empty());
+}

@@ -1,0 +1,244 @@
+#include "cdc-acm-line.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdarg>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <termios.h>
+#include <vector>
+
+using namespace std::chrono_literals;
+
+// The linker's option --wrap sends the program's calls to the functions "__wrap_", and these to the system's.
+extern "C" {
+int __real_tcsetattr(int descriptor, int when, const termios *settings);
+int __real_close(int descriptor);
+int __real_dup3(int from, int to, int flags);
+ssize_t __real_write(int descriptor, const void *bytes, size_t count);
+int __real_poll(pollfd *ends, nfds_t count, int timeout);
+int __real_ioctl(int descriptor, unsigned long request, ...);
+int __real_tcflush(int descriptor, int queue);
+}
+
+namespace {
+
+constexpr std::size_t MOST_PIECES = 16, PIECE_SIZE = 1280; // bytes
+constexpr auto STEP = 1ms;                                 // between looks at what no event tells
+
+std::atomic<CdcAcmLine *> theLine{nullptr};
+
+} // namespace
+
+CdcAcmLine::CdcAcmLine(std::string terminal)
+    : path(std::move(terminal))
+    , thread([this] { run(); }) {
+    theLine = this;
+}
+
+CdcAcmLine::~CdcAcmLine() {
+    theLine = nullptr;
+    {
+        const std::lock_guard lock(mutex);
+        ending = true;
+    }
+    changed.notify_all();
+    thread.join();
+}
+
+void CdcAcmLine::setPace(std::chrono::microseconds perPiece) {
+    const std::lock_guard lock(mutex);
+    pace = perPiece;
+}
+
+void CdcAcmLine::takeWhile(std::function<bool()> isTaking) {
+    const std::lock_guard lock(mutex);
+    takes = std::move(isTaking);
+    changed.notify_all();
+}
+
+void CdcAcmLine::whenAsked(std::function<void()> call) {
+    const std::lock_guard lock(mutex);
+    asked = std::make_shared<std::function<void()>>(std::move(call));
+}
+
+std::size_t CdcAcmLine::leftToClose() const {
+    const std::lock_guard lock(mutex);
+    return left;
+}
+
+CdcAcmLine *CdcAcmLine::of(int terminal) {
+    CdcAcmLine *line = theLine;
+    return line && line->descriptor == terminal ? line : nullptr;
+}
+
+void CdcAcmLine::setUp(int terminal) {
+    CdcAcmLine *line = theLine;
+    struct stat ours {
+    }, named{};
+    if (line && fstat(terminal, &ours) == 0 && stat(line->path.c_str(), &named) == 0 &&
+        ours.st_rdev == named.st_rdev)
+        line->use(terminal);
+}
+
+void CdcAcmLine::use(int terminal) {
+    const std::lock_guard lock(mutex);
+    descriptor = terminal;
+}
+
+void CdcAcmLine::close() {
+    const std::lock_guard lock(mutex);
+    left += hasGone() ? 0 : underWay.size();
+    underWay.clear();
+    descriptor = -1;
+}
+
+/// The device was pulled out. Under the lock.
+bool CdcAcmLine::hasGone() const {
+    pollfd end{descriptor, 0, 0};
+    __real_poll(&end, 1, 0);
+    return end.revents & (POLLHUP | POLLNVAL);
+}
+
+ssize_t CdcAcmLine::write(const char *bytes, std::size_t count) {
+    std::unique_lock lock(mutex);
+    std::size_t taken = 0;
+    while (taken < count) {
+        if (hasGone())
+            return errno = EIO, -1;
+        if (underWay.size() >= MOST_PIECES) {
+            if (fcntl(descriptor, F_GETFL) & O_NONBLOCK)
+                break;
+            changed.wait_for(lock, STEP);
+            continue;
+        }
+        const char *const first = bytes + taken;
+        const auto *const lineEnd = static_cast<const char *>(std::memchr(first, '\n', count - taken));
+        const std::size_t line = lineEnd ? static_cast<std::size_t>(lineEnd - first) : count - taken;
+        const std::size_t piece = line == 0 ? 1 : std::min(line, PIECE_SIZE);
+        underWay.emplace_back(first, piece);
+        taken += piece;
+    }
+    changed.notify_all();
+    if (taken == 0 && count > 0)
+        return errno = EAGAIN, -1;
+    return static_cast<ssize_t>(taken);
+}
+
+bool CdcAcmLine::reportsRoom() const {
+    const std::lock_guard lock(mutex);
+    return underWay.empty();
+}
+
+int CdcAcmLine::ask(int *unsent) {
+    std::shared_ptr<std::function<void()>> call;
+    {
+        const std::lock_guard lock(mutex);
+        if (hasGone())
+            return errno = EIO, -1;
+        *unsent = static_cast<int>(underWay.size() * PIECE_SIZE);
+        call = asked;
+    }
+    (*call)();
+    return 0;
+}
+
+void CdcAcmLine::flush() {
+    const std::lock_guard lock(mutex);
+    underWay.clear();
+}
+
+void CdcAcmLine::run() {
+    std::unique_lock lock(mutex);
+    /// Without the lock: what is asked may have locks of its own.
+    const auto isTaking = [&] {
+        const auto condition = takes;
+        const auto wait = pace;
+        lock.unlock();
+        const bool holds = condition();
+        if (holds && wait.count() > 0)
+            std::this_thread::sleep_for(wait);
+        lock.lock();
+        return holds;
+    };
+    while (!ending) {
+        changed.wait_for(lock, STEP);
+        while (!underWay.empty() && !ending && isTaking() && !underWay.empty()) {
+            // The terminal makes carriage return and line feed of a line end itself.
+            std::string &piece = underWay.front();
+            const ssize_t taken = __real_write(descriptor, piece.data(), piece.size());
+            if (taken <= 0)
+                break;
+            piece.erase(0, static_cast<std::size_t>(taken));
+            if (piece.empty())
+                underWay.pop_front();
+            changed.notify_all();
+        }
+    }
+}
+
+extern "C" {
+
+int __wrap_tcsetattr(int descriptor, int when, const termios *settings) {
+    CdcAcmLine::setUp(descriptor);
+    return __real_tcsetattr(descriptor, when, settings);
+}
+
+int __wrap_close(int descriptor) {
+    if (CdcAcmLine *line = CdcAcmLine::of(descriptor))
+        line->close();
+    return __real_close(descriptor);
+}
+
+int __wrap_dup3(int from, int to, int flags) {
+    CdcAcmLine *const line = CdcAcmLine::of(from);
+    if (CdcAcmLine *former = CdcAcmLine::of(to))
+        former->close();
+    const int copy = __real_dup3(from, to, flags);
+    if (line)
+        line->use(copy);
+    return copy;
+}
+
+ssize_t __wrap_write(int descriptor, const void *bytes, size_t count) {
+    CdcAcmLine *const line = CdcAcmLine::of(descriptor);
+    return line ? line->write(static_cast<const char *>(bytes), count)
+                : __real_write(descriptor, bytes, count);
+}
+
+int __wrap_poll(pollfd *ends, nfds_t count, int timeout) {
+    const auto isOnLine = [](const pollfd &end) { return (end.events & POLLOUT) && CdcAcmLine::of(end.fd); };
+    if (std::none_of(ends, ends + count, isOnLine))
+        return __real_poll(ends, count, timeout);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeout);
+    for (;;) {
+        std::vector<pollfd> asked(ends, ends + count);
+        for (pollfd &end : asked)
+            if (CdcAcmLine *line = CdcAcmLine::of(end.fd); line && !line->reportsRoom())
+                end.events &= static_cast<short>(~POLLOUT);
+        const int ready = __real_poll(asked.data(), count, timeout == 0 ? 0 : 1);
+        for (nfds_t i = 0; i < count; ++i)
+            ends[i].revents = asked[i].revents;
+        if (ready != 0 || (timeout >= 0 && std::chrono::steady_clock::now() >= deadline))
+            return ready;
+    }
+}
+
+int __wrap_ioctl(int descriptor, unsigned long request, ...) {
+    va_list arguments;
+    va_start(arguments, request);
+    void *const argument = va_arg(arguments, void *);
+    va_end(arguments);
+    CdcAcmLine *const line = request == TIOCOUTQ ? CdcAcmLine::of(descriptor) : nullptr;
+    return line ? line->ask(static_cast<int *>(argument)) : __real_ioctl(descriptor, request, argument);
+}
+
+int __wrap_tcflush(int descriptor, int queue) {
+    CdcAcmLine *const line = queue == TCOFLUSH ? CdcAcmLine::of(descriptor) : nullptr;
+    return line ? line->flush(), 0 : __real_tcflush(descriptor, queue);
+}
+
+} // extern "C"
