@@ -1,5 +1,6 @@
 #include "serial-interface-adapter.h"
 
+#include "log.h"
 #include "wire-text.h"
 
 #include <gtest/gtest.h>
@@ -113,6 +114,18 @@ TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
     EXPECT_EQ(link.getRecvBuffer(), "");
     logOf([&] { link.processNewData(STATE); });
     EXPECT_EQ(link.received, (Types{MsgTypeEnum::OK, MsgTypeEnum::STATE}));
+}
+
+TEST(SerialInterfaceAdapterThreads, ASinkOfTheLogMayAskTheLink) {
+    Link link;
+    std::string seen;
+    Log::setSink([&](const std::string &line) {
+        std::thread([&] { seen += line + "|" + link.getRecvBuffer() + "|"; }).join();
+        link.setIoLogger(link.getIoLogger());
+    });
+    link.processNewData("{}");
+    Log::setSink(nullptr);
+    EXPECT_EQ(seen, "[RFD24] received unknown msg: {}||");
 }
 
 TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {

@@ -5,8 +5,11 @@
 #include <limits>
 #include <stdexcept>
 
-MessageReader::MessageReader(std::string logTag, long long nowMs)
-    : tag(std::move(logTag))
+MessageReader::MessageReader(const std::string &logTag, long long nowMs)
+    : MessageReader([logTag](auto operation, const std::string &msg) { operation(logTag, msg); }, nowMs) {}
+
+MessageReader::MessageReader(Logger logger, long long nowMs)
+    : log(std::move(logger))
     , lastParsed(nowMs) {}
 
 void MessageReader::write(const buffer_t &bytes, long long nowMs) {
@@ -37,7 +40,7 @@ std::shared_ptr<Msg> MessageReader::next(long long nowMs) {
         try {
             if (auto msg = Msg::parseJson(frame))
                 return msg;
-            Log::write(tag, "received unknown msg: " + frame);
+            log(Log::write, "received unknown msg: " + frame);
         } catch (const std::invalid_argument *) { // On purpose by pointer: nothing throws it.
         }
     }
@@ -63,11 +66,11 @@ void MessageReader::endChunk(long long nowMs) {
 void MessageReader::recover() {
     const std::string all = bytes();
     logBuffer("recvBuffer: ", all);
-    Log::write(tag, "reset recv buffer by LAST_PARSED_TIMEOUT");
+    log(Log::write, "reset recv buffer by LAST_PARSED_TIMEOUT");
     const auto border = all.rfind("}\n{");
     reset();
     if (border == std::string::npos) {
-        Log::write(tag, "reset all recv buffer");
+        log(Log::write, "reset all recv buffer");
         return;
     }
     const std::string kept = all.substr(border + 2);
@@ -88,9 +91,9 @@ void MessageReader::reset() {
 }
 
 void MessageReader::logBuffer(const std::string &title, const std::string &all) const {
-    Log::write(tag, title);
+    log(Log::write, title);
     for (const std::string &piece : split(all, "\n"))
-        Log::debug(tag, "|" + piece);
+        log(Log::debug, "|" + piece);
 }
 
 std::vector<std::string> MessageReader::split(const std::string &text, const std::string &delimiter) {

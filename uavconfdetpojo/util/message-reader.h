@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -20,8 +21,14 @@ public:
     /// So long, in ms, bytes may go on arriving without an object's end before they are given up.
     static constexpr long long LAST_PARSED_TIMEOUT = 5000;
 
-    /// `nowMs`, here and below, is on one clock of the caller's choice.
-    MessageReader(std::string logTag, long long nowMs);
+    /// Gets each line for the log, with the operation of `Log` that it is for.
+    using Logger = std::function<void(void (*operation)(const std::string &tag, const std::string &msg),
+                                      const std::string &msg)>;
+
+    /// `nowMs`, here and below, is on one clock of the caller's choice. Lines go to the log at once.
+    MessageReader(const std::string &logTag, long long nowMs);
+    /// `logger` is called inside `next`.
+    MessageReader(Logger logger, long long nowMs);
 
     /// Takes the next bytes; `next` is then to be called until it gives null.
     void write(const buffer_t &bytes, long long nowMs);
@@ -45,7 +52,7 @@ private:
     void recover();
     void logBuffer(const std::string &title, const std::string &all) const;
 
-    const std::string tag;
+    const Logger log;
     CharBuffer buffer;
     JsonBraceCounter jbc;                   // over the bytes of `buffer`
     std::deque<std::pair<int, int>> frames; // not handed out yet: positions of their first and last brace

@@ -7,9 +7,14 @@
 #include <algorithm>
 #include <condition_variable>
 #include <thread>
+#include <utility>
 
 SerialInterfaceAdapter::SerialInterfaceAdapter()
-    : reader(TAG, SerialInterfaceAdapter::getCurrentTimeMs())
+    : reader(
+          [this](auto operation, const std::string &line) {
+              unlogged.push_back([this, operation, line] { operation(TAG, line); });
+          },
+          SerialInterfaceAdapter::getCurrentTimeMs())
     , ioLogger(std::make_shared<IoLogger>(logClbck)) {}
 
 std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> msg,
@@ -117,7 +122,7 @@ void SerialInterfaceAdapter::fireError(const std::exception *error) {
 }
 
 void SerialInterfaceAdapter::processNewData(buffer_t bytes) {
-    const long long now = getCurrentTimeMs(); // for the whole chunk: to ask anew for each message is dear
+    const long long now = getCurrentTimeMs(); // for the whole chunk: asking again for each message costs much
     std::shared_ptr<IoLogger> logger;
     {
         const std::lock_guard lock(readerMutex);
@@ -126,8 +131,13 @@ void SerialInterfaceAdapter::processNewData(buffer_t bytes) {
     }
     (*logger)(std::move(bytes));
     const auto next = [this, now] {
-        const std::lock_guard lock(readerMutex);
-        return reader.next(now);
+        std::unique_lock lock(readerMutex);
+        auto msg = reader.next(now);
+        const auto lines = std::exchange(unlogged, {});
+        lock.unlock();
+        for (const auto &log : lines)
+            log();
+        return msg;
     };
     while (auto msg = next()) // no lock is held while listeners run
         fireMsg(std::move(msg));

@@ -63,8 +63,10 @@ private:
     ListenerList<OnErrorListener> onErrorListeners;
     std::atomic<int> trIdHolder{0};
 
-    // Guards both: they are the reading thread's, but any thread may ask for the bytes and set the logger.
+    // Guards the three below: they are the reading thread's, but any thread may ask for the bytes and set the
+    // logger. Not held while a line is logged, since a sink of the log may ask, too.
     std::mutex readerMutex;
+    std::vector<std::function<void()>> unlogged;
     MessageReader reader;
     std::shared_ptr<IoLogger> ioLogger; // never null
 };
