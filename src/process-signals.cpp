@@ -2,8 +2,10 @@
 
 #include <QCoreApplication>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <ctime>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -14,14 +16,31 @@ constexpr std::array endingSignals = {SIGINT, SIGTERM, SIGHUP};
 // A handler may do next to nothing, so it only writes into this pair, whose other end the event loop watches.
 std::array<int, 2> wakeUp = {-1, -1};
 
-void wake(int) {
-    // Who asks again does not want to wait. A terminal that closes may hang up more than once.
-    for (const int number : {SIGINT, SIGTERM})
-        if (std::signal(number, SIG_DFL) == SIG_IGN)
-            std::signal(number, SIG_IGN);
+/// In ms. Who asks twice in a row, or holds Ctrl-C down, still leaves the time to stop the device's scan.
+constexpr long long GRACE = 1000;
+
+long long nowMs() {
+    timespec now{};
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec * 1000LL + now.tv_nsec / 1000000;
+}
+
+std::atomic<long long> firstMs{0}; // 0: nobody has asked yet
+
+void wake(int number) {
     const int interrupted = errno; // another thread may be about to look at it
-    const char byte = 0;
-    [[maybe_unused]] const auto written = ::write(wakeUp[0], &byte, sizeof byte);
+    long long first = 0;
+    const long long now = nowMs();
+    if (!firstMs.compare_exchange_strong(first, now)) {
+        // A terminal that closes may hang up more than once.
+        if (number != SIGHUP && now - first >= GRACE) {
+            std::signal(number, SIG_DFL);
+            ::raise(number); // ends the process when this handler returns
+        }
+    } else {
+        const char byte = 0;
+        [[maybe_unused]] const auto written = ::write(wakeUp[0], &byte, sizeof byte);
+    }
     errno = interrupted;
 }
 
@@ -46,6 +65,7 @@ ProcessSignals::~ProcessSignals() {
     for (const int number : endingSignals)
         std::signal(number, SIG_DFL);
     std::signal(SIGPIPE, SIG_DFL);
+    firstMs = 0;
     for (int &end : wakeUp) {
         ::close(end);
         end = -1;

@@ -43,6 +43,26 @@ public:
     }
 };
 
+/// Sets a variable of the process's environment where the user has not, as long as it lives: programs that
+/// are started later inherit the user's.
+class SetForNow {
+public:
+    SetForNow(const char *variable, const char *value)
+        : name(qEnvironmentVariableIsSet(variable) ? nullptr : variable) {
+        if (name)
+            qputenv(name, value);
+    }
+    ~SetForNow() {
+        if (name)
+            qunsetenv(name);
+    }
+    SetForNow(const SetForNow &) = delete;
+    SetForNow &operator=(const SetForNow &) = delete;
+
+private:
+    const char *const name;
+};
+
 /// Whether the desktop's text asks for a whole factor but for a twentieth: a display tells its resolution by
 /// its size in whole millimetres, so that 96 dpi read as 96.1, and screens that are made up have 100.
 bool isAboutWhole(const QScreen *screen) {
@@ -88,10 +108,6 @@ void registerTypes() {
 
 ScreenEngine::ScreenEngine(ServiceObjects &objects)
     : version(QString::fromStdString(version::getVersion())) {
-    // Qt waits 5 ms after a change before it draws, so that changes come together. Those of a scan come in
-    // one go.
-    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
-        qputenv("QT_QPA_UPDATE_IDLE_TIME", "3");
     QQmlContext &context = *engine.rootContext();
     context.setContextProperty("usbService", &objects.usbService);
     context.setContextProperty("themeData", &objects.themeData);
@@ -125,9 +141,15 @@ void ScreenEngine::load(const QUrl &document) {
     static auto *const translator = new QTranslator; // in use until the process ends
     translator->load("UavVesper-ru", ".", QString(), QString());
     QCoreApplication::installTranslator(translator);
+    // Qt waits 5 ms after a change before it draws, so that changes come together. Those of a scan come in
+    // one go. It asks for the time once, when a window is first to be drawn again.
+    const SetForNow idleTime("QT_QPA_UPDATE_IDLE_TIME", "3");
     engine.load(document);
-    for (QObject *window : engine.rootObjects())
-        window->installEventFilter(new LastGesture(window));
+    for (QObject *root : engine.rootObjects()) {
+        root->installEventFilter(new LastGesture(root));
+        if (auto *window = qobject_cast<QWindow *>(root))
+            window->requestUpdate();
+    }
 }
 
 void ScreenEngine::fitToScreen() {
