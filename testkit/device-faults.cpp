@@ -8,11 +8,10 @@ namespace {
 
 constexpr milliseconds LATE{1000}; // more than a device has for its first answer
 
-const std::map<std::string, PtyDevice::Manner> MANNERS = {{"silent", PtyDevice::Manner::SILENT},
-                                                          {"deaf", PtyDevice::Manner::DEAF},
-                                                          {"refusing", PtyDevice::Manner::REFUSING},
-                                                          {"noise", PtyDevice::Manner::NOISY},
-                                                          {"cut", PtyDevice::Manner::CUT}};
+const std::map<std::string, PtyDevice::Manner> MANNERS = {
+    {"silent", PtyDevice::Manner::SILENT},     {"deaf", PtyDevice::Manner::DEAF},
+    {"refusing", PtyDevice::Manner::REFUSING}, {"noise", PtyDevice::Manner::NOISY},
+    {"cut", PtyDevice::Manner::CUT},           {"sweeps", PtyDevice::Manner::SWEEPING}};
 
 } // namespace
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-/// What may be wrong with a device on its line: "late", "silent", "deaf", "refusing", "noise", "cut" and
-/// "unplug".
+/// What may be wrong with a device on its line: "late", "silent", "deaf", "sweeps", "refusing", "noise",
+/// "cut" and "unplug".
 bool isDeviceFault(const std::string &name);
 
 /// Has a device go wrong now and then, on a thread of its own: after about a period of good time one of the

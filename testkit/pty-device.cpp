@@ -225,17 +225,16 @@ void PtyDevice::run() {
         bool isOpen = false;
         {
             const std::lock_guard lock(mutex);
-            if (manner != Manner::DEAF)
+            isOpen = pty->isOpen(); // before it reads, so that it has all when a closed port shows
+            if (isListening())
                 readBytes();
-            ends[1].events = manner == Manner::DEAF ? 0 : POLLIN;
-            isOpen = pty->isOpen();
             setOpen(isOpen);
             if (isOpen) {
                 write();
                 timeout = msUntilDue();
-                if (!leaving.empty())
-                    ends[1].events |= POLLOUT;
             }
+            ends[1].events =
+                static_cast<short>((isListening() ? POLLIN : 0) | (leaving.empty() ? 0 : POLLOUT));
         }
         // A closed port answers every poll at once, so only the other end is waited for then.
         poll(ends, isOpen ? 2 : 1, timeout);
@@ -323,6 +322,8 @@ void PtyDevice::write() {
         scanDue = Clock::now() + scanPeriod;
         if (leaving.empty()) // it has room for one
             queue(MsgToJsonParser::toJson(nextScan()), milliseconds(0));
+        if (manner == Manner::SWEEPING)
+            readBytes();
     }
     for (auto next = outgoing.begin(); next != outgoing.end() && next->first <= Clock::now();
          next = outgoing.erase(next))
@@ -333,6 +334,10 @@ void PtyDevice::write() {
 
 bool PtyDevice::isStreaming() const {
     return scanning && manner != Manner::SILENT && scanPeriod.count() > 0;
+}
+
+bool PtyDevice::isListening() const {
+    return manner != Manner::DEAF && !(manner == Manner::SWEEPING && isStreaming() && open);
 }
 
 /// -1 for ever.

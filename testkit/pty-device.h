@@ -42,7 +42,8 @@ public:
         SILENT,   // hears everything, says nothing
         REFUSING, // FAIL to every change of a setting and to the mask
         NOISY,    // bytes that belong to no object in front of each message
-        CUT       // messages end in the middle
+        CUT,      // messages end in the middle
+        SWEEPING  // while it streams, takes bytes from the line only between two scans
     };
     static constexpr std::chrono::seconds DEADLINE{10};
 
@@ -107,6 +108,7 @@ private:
     void takeRequests();
     void write();
     bool isStreaming() const;
+    bool isListening() const;
     int msUntilDue() const;
     json11::Json answer(const std::string &type, const json11::Json &request);
     void queue(const std::string &message, std::chrono::milliseconds delay);

@@ -88,10 +88,11 @@ TEST_F(LineThreads, TheEndWaitsForWhatADeviceTakesLate) {
 
 /// It takes nothing as long as nobody takes what it has to say.
 TEST_F(LineThreads, TheEndGoesOnReading) {
-    std::atomic<bool> isHeard{false};
-    tty.addListener(std::make_shared<MsgListener>([&](const std::shared_ptr<Msg> &) { isHeard = true; }));
+    const auto isHeard = std::make_shared<std::atomic<bool>>(false);
+    tty.addListener(
+        std::make_shared<MsgListener>([isHeard](const std::shared_ptr<Msg> &) { *isHeard = true; }));
     ASSERT_TRUE(tty.openPort());
-    line.takeWhile([&] { return isHeard.load(); });
+    line.takeWhile([isHeard] { return isHeard->load(); });
     EXPECT_EQ(tty.sendWithin(ask, 0ms), Sent::WHOLE);
     line.whenAsked([this, looks = 0]() mutable {
         if (++looks == 3)

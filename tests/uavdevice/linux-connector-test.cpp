@@ -63,7 +63,7 @@ TEST_F(LinuxConnectorThreads, FindsTheDeviceBesideOthers) {
         streaming->setAnswerDelay(50ms); // so that a scan comes first
         ASSERT_TRUE(connects());
         EXPECT_EQ(connector.getPortName(), device->terminal());
-        EXPECT_EQ(device->received(), "{\r\n\"type\" : \"GET_STATE\"\r\n}");
+        EXPECT_THAT(device->requestTypes(), testing::Each("GET_STATE"));
         connector.disconnect();
         EXPECT_TRUE(device->waitForOpen(false));
     }

@@ -116,8 +116,8 @@ TEST_F(RecordingThreads, SaysWhatIsWrongWithIt) {
 TEST_F(RecordingThreads, ATapPassesEveryByteOnAndItsRecordingPlaysAgain) {
     std::vector<std::string> seen[2];
     const auto watch = [&](const std::string &terminal, std::vector<std::string> &texts) {
-        UsbTty tty(terminal);
         Inbox inbox;
+        UsbTty tty(terminal);
         tty.addListener(inbox.listener);
         ASSERT_TRUE(tty.openPort());
         tty.send(std::make_shared<GetStateMsg>());
@@ -219,6 +219,28 @@ TEST_F(TappedRecordingThreads, PassEveryByteOnAndEndWhereNobodyTakesThem) {
     open();
     device.sendText("fresh");
     EXPECT_EQ(read(5), "fresh");
+}
+
+TEST(DeviceFaultsThreads, ASweepingDeviceTakesRequestsBetweenScansAlone) {
+    const SerialDirectory directory;
+    PtyDevice device(directory);
+    device.setScanPeriod(200ms);
+    device.startStreaming();
+    const DeviceFaults faults(device, {"sweeps"}, 0ms, 0, [](const std::string &) {});
+    Inbox inbox;
+    UsbTty tty(device.terminal());
+    tty.addListener(inbox.listener);
+    ASSERT_TRUE(tty.openPort());
+    ASSERT_TRUE(inbox.next<ScanResultMsg>());
+    tty.send(std::make_shared<GetStateMsg>());
+    auto heard = inbox.take();
+    for (; heard.empty(); heard = inbox.take())
+        std::this_thread::sleep_for(1ms);
+    EXPECT_EQ(heard.front()->getType(), MsgTypeEnum::SCAN_RESULT);
+    tty.send(std::make_shared<ScanMsg>(ScanMsgBuilder().scan(false).build()));
+    tty.serialClose();
+    EXPECT_TRUE(device.waitForRequests(2)) << "also once the port is closed";
+    EXPECT_FALSE(device.isScanning());
 }
 
 TEST(DeviceFaultsThreads, ComeAndGoBySeed) {

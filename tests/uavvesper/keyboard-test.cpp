@@ -1,6 +1,7 @@
 #include "screen-fixture.h"
 
 #include <QAccessible>
+#include <regex>
 
 using namespace testing;
 
@@ -101,7 +102,13 @@ TEST_F(KeyboardTest, PressesAsAClickDoes) {
               R"({"type":"SCAN_RESULT","mask":false})"})
             deviceSays(text);
         walkTo(control.section('/', 1).toStdString(), control.section('/', 0, 0).toStdString());
-        return sentBy(gesture);
+        // What was answered in 5 ms is read back, which is a matter of the machine's pace.
+        auto texts = sentBy(gesture);
+        const auto isReadBack = [](const std::string &text) {
+            return std::regex_search(text, std::regex("\"GET_(CONFIG|AI)"));
+        };
+        texts.erase(std::remove_if(texts.begin(), texts.end(), isReadBack), texts.end());
+        return texts;
     };
     const Qt::Key keys[] = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
     int presses = 0;
