@@ -1,10 +1,12 @@
 // Presses each button that makes the program wait for the device, with devices that keep it waiting, and
 // tells how long the window stood still.
 
+#include "cdc-acm-line.h"
 #include "screen-tool.h"
 #include "screens.h"
 
 #include <list>
+#include <optional>
 
 namespace {
 
@@ -16,33 +18,37 @@ long long standstillMs(const std::function<void()> &gesture) {
     return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count();
 }
 
+/// What may keep a user of the device waiting. The line is that of a USB device.
+struct Trouble {
+    const char *name;
+    void (*begin)(PtyDevice &device, CdcAcmLine &line);
+    bool isFull; ///< the line takes nothing any more
+};
+
+/// A sweep has just begun.
+void sweep(PtyDevice &, CdcAcmLine &line) {
+    static constexpr auto SWEEP = std::chrono::milliseconds(250), GAP = std::chrono::milliseconds(5);
+    line.takeWhile([start = Clock::now()] { return (Clock::now() - start) % (SWEEP + GAP) >= SWEEP; });
+}
+
+const Trouble TROUBLES[] = {
+    {"answers", [](PtyDevice &, CdcAcmLine &) {}, false},
+    {"silent", [](PtyDevice &device, CdcAcmLine &) { device.setManner(PtyDevice::Manner::SILENT); }, false},
+    {"sweeps", sweep, false},
+    {"hung", [](PtyDevice &, CdcAcmLine &line) { line.hold(); }, true}};
+
 class Waits : Screens {
 public:
     /// A line for each gesture with a connected device.
     void withOneDevice() {
-        const PtyDevice::Manner manners[] = {PtyDevice::Manner::OBLIGING, PtyDevice::Manner::SILENT,
-                                             PtyDevice::Manner::DEAF};
-        const char *gestures[] = {"87%", "Mask", "Vibro", "AI: *", "Fabric settings", "usb"};
-        std::printf("| | obliging | silent | hung |\n|---|---|---|---|\n");
-        for (const char *gesture : gestures) {
-            std::printf("| %s |", gesture);
-            for (const auto manner : manners) {
-                connectTo(ProtoEnum::K7);
-                waitForBattery();
-                hang(manner);
-                std::printf(" %lld ms |", standstillMs([&] { click(gesture); }));
-                if (isConnected())
-                    disconnect();
-            }
-            std::printf("\n");
-        }
-        std::printf("| end |");
-        for (const auto manner : manners) {
-            connectTo(ProtoEnum::K7);
-            hang(manner);
-            std::printf(" %lld ms |", standstillMs([&] { objects.usbService.shutDown(); }));
-        }
-        std::printf("\n");
+        std::printf("| |");
+        for (const Trouble &trouble : TROUBLES)
+            std::printf(" %s |", trouble.name);
+        std::printf("\n|---|---|---|---|---|\n");
+        for (const char *gesture : {"87%", "Mask", "Vibro", "AI: *", "Fabric settings", "usb"})
+            row(
+                gesture, [&] { click(gesture); });
+        row("end", [this] { objects.usbService.shutDown(); });
     }
 
     /// In the slowest scan mode, where the pause between two scans is the longest.
@@ -58,6 +64,7 @@ public:
     }
 
     void withSilentPorts() {
+        usb.reset();
         device.reset();
         std::list<PtyDevice> silent;
         for (const char *name : {"usb-1", "usb-2", "usb-3", "usb-4"})
@@ -69,17 +76,33 @@ public:
     }
 
 private:
-    void waitForBattery() {
-        if (!ScreenDriver::waitFor([this] { return driver->control("87%"); }))
-            throw std::runtime_error("The battery does not show.");
+    void row(const char *name, const std::function<void()> &gesture) {
+        std::printf("| %s |", name);
+        for (const Trouble &trouble : TROUBLES) {
+            const CdcAcmLine &line = connectOverUsb(trouble);
+            std::printf(" %lld ms |", standstillMs(gesture));
+            if (isConnected())
+                disconnect();
+            if (line.leftToClose() > 0)
+                throw std::runtime_error("The system's close has to wait for the device.");
+        }
+        std::printf("\n");
     }
 
-    /// A device that has hung takes no bytes; it keeps nobody waiting for room before the line is full.
-    void hang(PtyDevice::Manner manner) {
-        device->setManner(manner);
-        for (int press = 0; press < 12 && manner == PtyDevice::Manner::DEAF; ++press)
+    CdcAcmLine &connectOverUsb(const Trouble &trouble) {
+        plugIn(ProtoEnum::K7);
+        usb.reset();
+        usb.emplace(device->terminal());
+        connect();
+        if (!ScreenDriver::waitFor([this] { return driver->control("87%"); }))
+            throw std::runtime_error("The battery does not show.");
+        trouble.begin(*device, *usb);
+        for (int press = 0; press < 4 && trouble.isFull; ++press)
             click("Vibro");
+        return *usb;
     }
+
+    std::optional<CdcAcmLine> usb;
 };
 
 } // namespace
