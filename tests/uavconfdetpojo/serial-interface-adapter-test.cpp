@@ -90,9 +90,10 @@ TEST(SerialInterfaceAdapterThreads, TransactionWaitsForAReplyFromWhenItsRequestH
     link.onSend = [&](auto, auto) { link.processNewData(OK); };
     for (const Sent sent : {Sent::PART, Sent::NOTHING}) {
         link.sent = sent;
-        EXPECT_EQ(link.transaction(request(), 24h, {MsgTypeEnum::OK}), nullptr) << "at once";
+        EXPECT_EQ(link.transaction(request(), 24h, {MsgTypeEnum::OK}), nullptr) << "what comes is no reply";
+        EXPECT_EQ(link.transaction(request(), 24h, {MsgTypeEnum::STATE}), nullptr) << "at once";
     }
-    EXPECT_EQ(link.givenUp, Types(2, MsgTypeEnum::GET_STATE));
+    EXPECT_EQ(link.givenUp, Types(4, MsgTypeEnum::GET_STATE));
     EXPECT_EQ(link.received.back(), MsgTypeEnum::OK) << "heard like any message";
 }
 
