@@ -8,6 +8,8 @@
 #include <mutex>
 #include <string>
 
+inline namespace kelvane {
+
 /// Sends requests over a terminal that takes bytes in pieces, each request whole and in order.
 ///
 /// A request of which the line takes nothing within its time-out is not sent. One that has begun is never
@@ -49,3 +51,5 @@ private:
     unsigned begun = 0; // requests
     unsigned lines = 0; // terminals that are done with
 };
+
+} // namespace kelvane

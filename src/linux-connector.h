@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 
+inline namespace kelvane {
+
 /// Finds the device among the serial terminals of the system, and stands for the simulator in test mode. It
 /// is itself the link to the device.
 class LinuxConnector : public SerialInterfaceConnector, public UsbTty {
@@ -61,3 +63,5 @@ private:
     /// Makes what the simulator fires reach the listeners of the link.
     const std::shared_ptr<MsgListener> testListener;
 };
+
+} // namespace kelvane

@@ -5,6 +5,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+inline namespace kelvane {
+
 static std::string userName() {
     const passwd *user = getpwuid(geteuid());
     return user ? user->pw_name : "$USER";
@@ -46,3 +48,5 @@ std::string adviceOnRefusal(const Msg &request, Sent sent, std::chrono::millisec
            " ms: " + (hasBegun ? "the rest is sent once it takes more" : "it was not sent") +
            "; if that stays so, plug the device in anew";
 }
+
+} // namespace kelvane

@@ -9,6 +9,8 @@
 #include <mutex>
 #include <string>
 
+inline namespace kelvane {
+
 /// The link to a device on a serial terminal.
 ///
 /// Everything but the listeners may be called from any thread; a listener, which runs on the reading thread,
@@ -78,3 +80,5 @@ private:
     /// descriptor that was handed out again.
     LineWriter writer;
 };
+
+} // namespace kelvane

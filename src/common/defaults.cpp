@@ -54,7 +54,7 @@ std::shared_ptr<ConfigK7Msg> Defaults::getDefaultConfigK7Msg() {
 std::shared_ptr<ConfigEwMsg> Defaults::getDefaultConfigEwMsg(ProtoEnum proto) {
     std::vector<std::shared_ptr<EwTarget>> targets;
     for (const MasterFreqModeEnum band : Proto(proto).getMasterModes()) {
-        const FreqMode widest(MasterFreqMode(band).getMaxRangeFreqMode());
+        const FreqMode widest = MasterFreqMode(band).getWidestRange();
         targets.push_back(std::make_shared<EwTarget>(EwTargetBuilder()
                                                          .freqMax(widest.getMaxFreq())
                                                          .freqMin(widest.getMinFreq())

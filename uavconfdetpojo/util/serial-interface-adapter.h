@@ -7,6 +7,8 @@
 #include <atomic>
 #include <mutex>
 
+inline namespace kelvane {
+
 /// What all byte links share: finds the messages in the bytes, hands them to the listeners, and matches
 /// requests with replies. A link adds `sendBytes`, and a reading thread that calls `processNewData`.
 class SerialInterfaceAdapter : public virtual SerialInterface {
@@ -70,3 +72,5 @@ private:
     MessageReader reader;
     std::shared_ptr<IoLogger> ioLogger; // never null
 };
+
+} // namespace kelvane

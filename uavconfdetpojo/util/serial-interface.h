@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+inline namespace kelvane {
+
 /// Gets each message. It must throw nothing but a `const std::exception *`, which becomes an error line in
 /// the log: any other exception leaves the thread that delivers messages, and so ends the process.
 using MsgListener = std::function<void(std::shared_ptr<Msg>)>;
@@ -52,3 +54,5 @@ public:
     virtual void addOnErrorListener(std::shared_ptr<OnErrorListener> listener) = 0;
     virtual void removeOnErrorListener(std::shared_ptr<OnErrorListener> listener) = 0;
 };
+
+} // namespace kelvane

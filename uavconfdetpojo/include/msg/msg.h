@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+inline namespace kelvane {
+
 /// What all messages have: their type. There are no virtual operations, so a message is made by
 /// `std::make_shared` of its concrete class, and a holder of a `shared_ptr<Msg>` reaches that class by
 /// `messageCast`. A message is filled by one thread and only read once others have it.
@@ -60,3 +62,5 @@ public:
 private:
     Msg m_msg;
 };
+
+} // namespace kelvane
