@@ -131,7 +131,7 @@ void UsbService::stopScan() {
 }
 
 void UsbService::sendScan(bool scan) {
-    request(std::make_shared<ScanMsg>(ScanMsgBuilder().scan(scan).build()), SCAN_TIMEOUT);
+    request(ScanMsgBuilder().scan(scan).share(), SCAN_TIMEOUT);
 }
 
 void UsbService::sendConfig(MsgHolder holder) {

@@ -58,6 +58,7 @@ public:
         return *this;
     }
     Msg build() const { return m_msg; }
+    std::shared_ptr<Msg> share() const { return std::make_shared<Msg>(m_msg); }
 
 private:
     Msg m_msg;
