@@ -2,6 +2,7 @@
 
 } // namespace kelvane
 
+#pragma pop_macro("FIELD")
 #pragma pop_macro("FIELDS")
 #pragma pop_macro("FIELD_ACCESSORS")
 #pragma pop_macro("FIELD_KEY")

@@ -5,6 +5,7 @@
 // The namespace is inline: a client spells each name without it, and a Log or Utils of the client's own, in
 // another source file, is another one to the linker.
 
+#pragma push_macro("FIELD")
 #pragma push_macro("FIELDS")
 #pragma push_macro("FIELD_ACCESSORS")
 #pragma push_macro("FIELD_KEY")
@@ -26,6 +27,7 @@
 #pragma push_macro("DECLARE_CLASS")
 #pragma push_macro("VISIT_CLASS")
 #pragma push_macro("MAKE_ROW")
+#undef FIELD
 #undef FIELDS
 #undef FIELD_ACCESSORS
 #undef FIELD_KEY
