@@ -59,6 +59,10 @@ private:
     const Report report;
     const Report reportPort;
     std::atomic<bool> test{false};
+    std::atomic<unsigned> givenUp{0}; ///< transactions
+    /// The order to stop scanning, where the line has taken nothing of it. It becomes the last request, or
+    /// the device would scan on after the end. Only atomic access.
+    std::shared_ptr<Msg> unsentStop;
     TestService testService;
     /// Makes what the simulator fires reach the listeners of the link.
     const std::shared_ptr<MsgListener> testListener;

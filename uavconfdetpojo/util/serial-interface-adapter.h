@@ -35,8 +35,8 @@ public:
 
     /// Called on the caller's thread, next to the reading.
     virtual void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) = 0;
-    /// As `sendBytes`, and tells what the line has taken within the time-out. A link that cannot tell has
-    /// sent all.
+    /// As `sendBytes`, and tells what the line has taken within the time-out. Transactions send by it. A link
+    /// that cannot tell has sent all.
     virtual Sent sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout);
 
     std::shared_ptr<IoLogger> getIoLogger();
