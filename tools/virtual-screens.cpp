@@ -1,8 +1,8 @@
 // The application beside a virtual device, which is all that it finds. Options are those of the device.
 
-#include "device-options.h"
 #include "process-signals.h"
 #include "screen-engine.h"
+#include "virtual-device.h"
 
 #include <QGuiApplication>
 #include <cstdio>

@@ -1,9 +1,9 @@
 #include "device-options.h"
 
+#include "device-faults.h"
 #include "scenes.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <getopt.h>
 #include <initializer_list>
 #include <iomanip>
@@ -152,23 +152,4 @@ DeviceOptions parseDeviceOptions(int argc, char **argv) {
         throw std::runtime_error(std::string(argv[optind]) + " is no option; --help tells of all");
     checkTogether(options, given);
     return options;
-}
-
-VirtualDevice::VirtualDevice(const DeviceOptions &options)
-    : device(std::make_unique<PtyDevice>(std::filesystem::path(options.link), options.generation)) {
-    device->setScanPeriod(options.pace);
-    device->setScene(*sceneOf(options.scene));
-    device->setBattery(options.battery);
-    if (!options.replay.empty())
-        replay = std::make_unique<Replay>(*device, readRecording(options.replay), options.speed);
-    const std::string where = options.link.empty() ? device->terminal() : options.link;
-    std::printf("A detector of generation %s at %s\n", Proto(options.generation).name().c_str(),
-                where.c_str());
-    if (options.faults.empty())
-        return;
-    std::printf("Faults from seed %u\n", options.seed);
-    faults = std::make_unique<DeviceFaults>(
-        *device, options.faults, options.faultPeriod, options.seed, [](const std::string &fault) {
-            std::printf("%s\n", fault.empty() ? "all is well" : ("fault: " + fault).c_str());
-        });
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "device-faults.h"
-#include "replay.h"
+#include "proto.h"
 
-#include <memory>
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -28,17 +27,3 @@ extern const char *const DEVICE_OPTIONS_HELP;
 
 /// Throws std::runtime_error with one line for the user.
 DeviceOptions parseDeviceOptions(int argc, char **argv);
-
-/// A device that plays as told, and says on standard output what it does.
-class VirtualDevice {
-public:
-    /// Throws std::runtime_error with one line for the user.
-    explicit VirtualDevice(const DeviceOptions &options);
-
-    PtyDevice &pty() { return *device; }
-
-private:
-    std::unique_ptr<PtyDevice> device;
-    std::unique_ptr<Replay> replay;
-    std::unique_ptr<DeviceFaults> faults;
-};

@@ -1,7 +1,7 @@
 // Plays a detector on a pseudo-terminal, or stands between a real one and the program.
 
-#include "device-options.h"
 #include "line-tap.h"
+#include "virtual-device.h"
 
 #include <csignal>
 #include <cstdio>

@@ -1,8 +1,10 @@
+#include "device-faults.h"
 #include "device-options.h"
 #include "inbox.h"
 #include "line-tap.h"
 #include "msg-to-json-parser.h"
 #include "msg/all-messages.h"
+#include "replay.h"
 #include "usb-tty.h"
 
 #include <fcntl.h>
