@@ -18,9 +18,9 @@ int main(int argc, char **argv) {
         introduceProgram();
         DeviceOptions options = parseDeviceOptions(argc, argv);
         if (options.help) {
-            std::printf("./run --virtual starts the program beside a device that plays as told.\n"
-                        "--link, --tap and --record are for tools/virtual-device alone.\n%s",
-                        DEVICE_OPTIONS_HELP);
+            std::printf("./run --virtual starts the program beside a detector that plays as told.\n"
+                        "--link, --tap and --record are for tools/virtual-device alone.\n\n%s",
+                        deviceOptionsHelp().c_str());
             return 0;
         }
         if (!options.link.empty() || !options.tapped.empty())

@@ -1,22 +1,39 @@
 #include "device-faults.h"
 
-#include <map>
+#include <algorithm>
 
 using std::chrono::milliseconds;
+using Manner = PtyDevice::Manner;
 
 namespace {
 
 constexpr milliseconds LATE{1000}; // more than a device has for its first answer
 
-const std::map<std::string, PtyDevice::Manner> MANNERS = {
-    {"silent", PtyDevice::Manner::SILENT},     {"deaf", PtyDevice::Manner::DEAF},
-    {"refusing", PtyDevice::Manner::REFUSING}, {"noise", PtyDevice::Manner::NOISY},
-    {"cut", PtyDevice::Manner::CUT},           {"sweeps", PtyDevice::Manner::SWEEPING}};
+std::vector<DeviceFault>::const_iterator faultNamed(const std::string &name) {
+    return std::find_if(
+        deviceFaults().begin(), deviceFaults().end(),
+        [&](const DeviceFault &fault) { return fault.name == name; });
+}
 
 } // namespace
 
+const std::vector<DeviceFault> &deviceFaults() {
+    static const std::vector<DeviceFault> FAULTS = {
+        {"late", "Answers come a second late.", Manner::OBLIGING, LATE},
+        {"silent", "The detector hears everything and says nothing.", Manner::SILENT},
+        {"deaf", "The detector takes no bytes, like one that has hung.", Manner::DEAF},
+        {"sweeps", "The detector takes bytes only between two scans.", Manner::SWEEPING},
+        {"refusing", "Every change of a setting fails.", Manner::REFUSING},
+        {"noise", "Bytes of no meaning come before each message.", Manner::NOISY},
+        {"cut", "Messages end in the middle.", Manner::CUT},
+        {"unplug", "The detector is unplugged for a while. Needs --period.", Manner::OBLIGING,
+         milliseconds(0), true},
+    };
+    return FAULTS;
+}
+
 bool isDeviceFault(const std::string &name) {
-    return name == "late" || name == "unplug" || MANNERS.count(name) > 0;
+    return faultNamed(name) != deviceFaults().end();
 }
 
 DeviceFaults::DeviceFaults(PtyDevice &faulty, std::vector<std::string> names, milliseconds about,
@@ -59,13 +76,15 @@ bool DeviceFaults::lasts(milliseconds about) {
     return !changed.wait_for(lock, time, [this] { return ending; });
 }
 
-void DeviceFaults::set(const std::string &fault) {
-    const auto manner = MANNERS.find(fault);
-    device.setManner(manner == MANNERS.end() ? PtyDevice::Manner::OBLIGING : manner->second);
-    device.setAnswerDelay(fault == "late" ? LATE : milliseconds(0));
-    if (fault == "unplug")
+/// Empty for none.
+void DeviceFaults::set(const std::string &name) {
+    const auto named = faultNamed(name);
+    const DeviceFault fault = named == deviceFaults().end() ? DeviceFault() : *named;
+    device.setManner(fault.manner);
+    device.setAnswerDelay(fault.answerDelay);
+    if (fault.unplugged)
         device.unplug();
     else
         device.plugIn();
-    report(fault);
+    report(name);
 }

@@ -14,87 +14,107 @@
 
 using std::chrono::milliseconds;
 
-const char *const DEVICE_OPTIONS_HELP =
-    "  --link PATH         where the program finds it; a directory of root's, such as the system's\n"
-    "                      /dev/serial/by-id, needs root. Without it the terminal's own path is printed\n"
-    "  --generation NAME   of the detector, K6 for one; K7 unless told\n"
-    "  --pace MS           between scans; 500 unless told\n"
-    "  --scene NAME        drone (comes nearer and goes; unless told), street (busy Wi-Fi), silence, peaks\n"
-    "  --battery PERCENT   0 to 100\n"
-    "  --faults LIST       with commas: late, silent, deaf, sweeps (takes bytes only between scans),\n"
-    "                      refusing, noise, cut, unplug\n"
-    "  --period SECONDS    a fault comes about so often and stays for a quarter of that; without it the one\n"
-    "                      fault stays\n"
-    "  --seed NUMBER       the same faults after the same times again\n"
-    "  --replay FILE       plays a recording when told to scan\n"
-    "  --speed NUMBER      so many times as fast as it was recorded\n"
-    "  --tap DEVICE        stands between this device and the program and passes every byte on\n"
-    "  --record FILE       where --tap writes both directions, a JSON object a line: ms, from, text\n"
-    "  --help              this\n";
-
 namespace {
 
-double number(const std::string &option, const std::string &text, double least, double most) {
+double number(const std::string &text, double least, double most) {
     std::istringstream stream(text);
     stream.imbue(std::locale::classic());
     double value = 0;
     if (!(stream >> value) || !stream.eof() || value < least || value > most) {
         std::ostringstream error;
         error << std::setprecision(10);
-        error << option << ": \"" << text << "\" is no number from " << least << " to " << most;
+        error << '"' << text << "\" is no number from " << least << " to " << most;
         throw std::runtime_error(error.str());
     }
     return value;
+}
+
+void requireName(bool known, const std::string &kind, const std::string &name) {
+    if (!known)
+        throw std::runtime_error("there is no " + kind + " \"" + name + "\"; --help tells of all");
 }
 
 std::vector<std::string> faultNames(const std::string &list) {
     std::vector<std::string> names;
     std::istringstream stream(list);
     for (std::string name; std::getline(stream, name, ',');) {
-        if (!isDeviceFault(name))
-            throw std::runtime_error("--faults: there is no fault \"" + name + "\"");
+        requireName(isDeviceFault(name), "fault", name);
         names.push_back(name);
     }
     if (names.empty())
-        throw std::runtime_error("--faults: none is named");
+        throw std::runtime_error("none is named");
     return names;
 }
 
-ProtoEnum generationNamed(const std::string &name) {
-    const auto generation = Proto::getEnumValue(name);
-    if (!generation)
-        throw std::runtime_error("--generation: there is no generation \"" + name + "\"");
-    return *generation;
-}
+struct Option {
+    const char *name;
+    const char *value; ///< what --help calls it, or nullptr where the option has none
+    const char *what;  ///< for --help, in lines of at most 58 characters
+    /// Throws std::runtime_error with what is wrong with the value.
+    void (*take)(DeviceOptions &options, const std::string &value);
+};
 
-void takeOption(DeviceOptions &options, const std::string &name, const std::string &value) {
-    const std::string option = "--" + name;
-    if (name == "help")
-        options.help = true;
-    else if (name == "link")
-        options.link = value;
-    else if (name == "generation")
-        options.generation = generationNamed(value);
-    else if (name == "pace")
-        options.pace = milliseconds(static_cast<int>(number(option, value, 1, 3600000)));
-    else if (name == "scene")
-        options.scene = value;
-    else if (name == "battery")
-        options.battery = static_cast<int>(number(option, value, 0, 100));
-    else if (name == "faults")
-        options.faults = faultNames(value);
-    else if (name == "period")
-        options.faultPeriod = milliseconds(static_cast<int>(1000 * number(option, value, 0.001, 86400)));
-    else if (name == "seed")
-        options.seed = static_cast<unsigned>(number(option, value, 0, 4294967295.0));
-    else if (name == "replay")
-        options.replay = value;
-    else if (name == "speed")
-        options.speed = number(option, value, 0.001, 1000);
-    else if (name == "tap")
-        options.tapped = value;
-    else if (name == "record")
-        options.record = value;
+const Option OPTIONS[] = {
+    {"link", "PATH",
+     "PATH leads to the detector while it plays. The program\n"
+     "looks into /dev/serial/by-id, which is root's. Without\n"
+     "--link the detector's own terminal is printed.",
+     [](DeviceOptions &options, const std::string &value) { options.link = value; }},
+    {"generation", "NAME", "The detector is of this generation. Default: K7",
+     [](DeviceOptions &options, const std::string &value) {
+         const auto generation = Proto::getEnumValue(value);
+         requireName(generation.has_value(), "generation", value);
+         options.generation = *generation;
+     }},
+    {"pace", "MS", "A scan comes every MS milliseconds. Default: 500",
+     [](DeviceOptions &options, const std::string &value) {
+         options.pace = milliseconds(static_cast<int>(number(value, 1, 3600000)));
+     }},
+    {"scene", "NAME", "The detector hears this scene. Default: drone",
+     [](DeviceOptions &options, const std::string &value) {
+         requireName(sceneOf(value).has_value(), "scene", value);
+         options.scene = value;
+     }},
+    {"battery", "PERCENT", "The battery has this charge, 0 to 100. Default: 87",
+     [](DeviceOptions &options, const std::string &value) {
+         options.battery = static_cast<int>(number(value, 0, 100));
+     }},
+    {"faults", "LIST", "The detector has these faults, separated by commas.",
+     [](DeviceOptions &options, const std::string &value) { options.faults = faultNames(value); }},
+    {"period", "SECONDS",
+     "One of the faults comes about every SECONDS and stays for\n"
+     "a quarter of that time. Without --period it always stays.",
+     [](DeviceOptions &options, const std::string &value) {
+         options.faultPeriod = milliseconds(static_cast<int>(1000 * number(value, 0.001, 86400)));
+     }},
+    {"seed", "NUMBER",
+     "The same number brings the same faults after the same\n"
+     "times. Without --seed a number is drawn and printed.",
+     [](DeviceOptions &options, const std::string &value) {
+         options.seed = static_cast<unsigned>(number(value, 0, 4294967295.0));
+     }},
+    {"replay", "FILE", "The detector plays this recording when told to scan.",
+     [](DeviceOptions &options, const std::string &value) { options.replay = value; }},
+    {"speed", "NUMBER", "The recording plays NUMBER times as fast. Default: 1",
+     [](DeviceOptions &options, const std::string &value) { options.speed = number(value, 0.001, 1000); }},
+    {"tap", "DEVICE",
+     "Every byte passes between this real detector and the\n"
+     "program. Needs --record.",
+     [](DeviceOptions &options, const std::string &value) { options.tapped = value; }},
+    {"record", "FILE", "The tap writes what either side says to this file.",
+     [](DeviceOptions &options, const std::string &value) { options.record = value; }},
+    {"help", nullptr, "This text is printed.",
+     [](DeviceOptions &options, const std::string &) { options.help = true; }},
+};
+
+/// A line of --help, or several, with the text in a column of its own.
+std::string row(const std::string &head, std::size_t width, std::string what) {
+    const std::string margin(width, ' ');
+    for (std::size_t end = 0; (end = what.find('\n', end)) != std::string::npos; end += width)
+        what.insert(++end, margin);
+    std::string line = "  " + head;
+    line.resize(std::max(width, line.size() + 1), ' ');
+    return line + what + "\n";
 }
 
 /// `given` are the names of the options that the user gave.
@@ -108,7 +128,6 @@ void checkTogether(const DeviceOptions &options, const std::set<std::string> &gi
             if (given.count(name) > 0)
                 throw std::runtime_error("--" + std::string(name) + why);
     };
-    require(sceneOf(options.scene).has_value(), "--scene: drone, street, silence or peaks");
     require(options.tapped.empty() == options.record.empty(), "--tap and --record go together");
     if (!options.tapped.empty())
         refuse({"generation", "pace", "scene", "battery", "faults", "replay"},
@@ -126,16 +145,31 @@ void checkTogether(const DeviceOptions &options, const std::set<std::string> &gi
 
 } // namespace
 
+std::string deviceOptionsHelp() {
+    std::string help = "Options:\n";
+    for (const Option &option : OPTIONS)
+        help +=
+            row(std::string("--") + option.name + " " + (option.value ? option.value : ""), 22, option.what);
+    help += "\nGenerations:\n ";
+    for (const ProtoEnum generation : Proto::values())
+        help += " " + Proto(generation).name();
+    help += "\n\nScenes:\n";
+    for (const NamedScene &scene : namedScenes())
+        help += row(scene.name, 12, scene.what);
+    help += "\nFaults:\n";
+    for (const DeviceFault &fault : deviceFaults())
+        help += row(fault.name, 12, fault.what);
+    return help;
+}
+
 DeviceOptions parseDeviceOptions(int argc, char **argv) {
-    static const char *const NAMES[] = {"link", "generation", "pace",  "scene", "battery", "faults", "period",
-                                        "seed", "replay",     "speed", "tap",   "record",  "help"};
     std::vector<option> known;
-    for (const char *name : NAMES)
-        known.push_back({name, std::string(name) == "help" ? no_argument : required_argument, nullptr, 0});
+    for (const Option &option : OPTIONS)
+        known.push_back({option.name, option.value ? required_argument : no_argument, nullptr, 0});
     known.push_back({});
     DeviceOptions options;
     options.seed = std::random_device()();
-    optind = 0;
+    optind = 0; // getopt begins anew
     opterr = 0;
     std::set<std::string> given;
     for (int word = 1, index = 0, result;
@@ -144,9 +178,13 @@ DeviceOptions parseDeviceOptions(int argc, char **argv) {
             throw std::runtime_error(std::string(argv[word]) + " needs a value");
         if (result != 0)
             throw std::runtime_error(std::string(argv[word]) + " is no option; --help tells of all");
-        const std::string name = known[static_cast<std::size_t>(index)].name;
-        takeOption(options, name, optarg ? optarg : "");
-        given.insert(name);
+        const Option &option = OPTIONS[index];
+        try {
+            option.take(options, optarg ? optarg : "");
+        } catch (const std::runtime_error &error) {
+            throw std::runtime_error(std::string("--") + option.name + ": " + error.what());
+        }
+        given.insert(option.name);
     }
     if (optind < argc)
         throw std::runtime_error(std::string(argv[optind]) + " is no option; --help tells of all");

@@ -22,8 +22,8 @@ struct DeviceOptions {
     bool help = false;
 };
 
-/// What --help says of the options.
-extern const char *const DEVICE_OPTIONS_HELP;
+/// What --help says of the options, and of the names that they take.
+std::string deviceOptionsHelp();
 
 /// Throws std::runtime_error with one line for the user.
 DeviceOptions parseDeviceOptions(int argc, char **argv);
