@@ -1,8 +1,8 @@
 // The application beside a virtual device, which is all that it finds. Options are those of the device.
 
-#include "device-options.h"
 #include "process-signals.h"
 #include "screen-engine.h"
+#include "virtual-device.h"
 
 #include <QGuiApplication>
 #include <cstdio>
@@ -18,9 +18,9 @@ int main(int argc, char **argv) {
         introduceProgram();
         DeviceOptions options = parseDeviceOptions(argc, argv);
         if (options.help) {
-            std::printf("./run --virtual starts the program beside a device that plays as told.\n"
-                        "--link, --tap and --record are for tools/virtual-device alone.\n%s",
-                        DEVICE_OPTIONS_HELP);
+            std::printf("./run --virtual starts the program beside a detector that plays as told.\n"
+                        "--link, --tap and --record are for tools/virtual-device alone.\n\n%s",
+                        deviceOptionsHelp().c_str());
             return 0;
         }
         if (!options.link.empty() || !options.tapped.empty())

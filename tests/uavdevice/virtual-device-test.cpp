@@ -1,8 +1,10 @@
+#include "device-faults.h"
 #include "device-options.h"
 #include "inbox.h"
 #include "line-tap.h"
 #include "msg-to-json-parser.h"
 #include "msg/all-messages.h"
+#include "replay.h"
 #include "usb-tty.h"
 
 #include <fcntl.h>
@@ -43,9 +45,9 @@ TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
         {{"--pace", "fast"}, "--pace: \"fast\" is no number from 1 to 3600000"},
         {{"--battery", "101"}, "--battery: \"101\" is no number from 0 to 100"},
         {{"--speed", "2x"}, "--speed: \"2x\" is no number from 0.001 to 1000"},
-        {{"--generation", "K99"}, "--generation: there is no generation \"K99\""},
-        {{"--scene", "sea"}, "--scene: drone, street, silence or peaks"},
-        {{"--faults", "cut,rain"}, "--faults: there is no fault \"rain\""},
+        {{"--generation", "K99"}, "--generation: there is no generation \"K99\"; --help tells of all"},
+        {{"--scene", "sea"}, "--scene: there is no scene \"sea\"; --help tells of all"},
+        {{"--faults", "cut,rain"}, "--faults: there is no fault \"rain\"; --help tells of all"},
         {{"--faults", "unplug"}, "--faults: several of them, or unplug, need a --period"},
         {{"--tap", "/dev/null"}, "--tap and --record go together"},
         {{"--speed", "2"}, "--speed needs --replay"},

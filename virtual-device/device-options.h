@@ -1,9 +1,8 @@
 #pragma once
 
-#include "device-faults.h"
-#include "replay.h"
+#include "proto.h"
 
-#include <memory>
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -23,22 +22,8 @@ struct DeviceOptions {
     bool help = false;
 };
 
-/// What --help says of the options.
-extern const char *const DEVICE_OPTIONS_HELP;
+/// What --help says of the options, and of the names that they take.
+std::string deviceOptionsHelp();
 
 /// Throws std::runtime_error with one line for the user.
 DeviceOptions parseDeviceOptions(int argc, char **argv);
-
-/// A device that plays as told, and says on standard output what it does.
-class VirtualDevice {
-public:
-    /// Throws std::runtime_error with one line for the user.
-    explicit VirtualDevice(const DeviceOptions &options);
-
-    PtyDevice &pty() { return *device; }
-
-private:
-    std::unique_ptr<PtyDevice> device;
-    std::unique_ptr<Replay> replay;
-    std::unique_ptr<DeviceFaults> faults;
-};

@@ -1,7 +1,7 @@
 // Plays a detector on a pseudo-terminal, or stands between a real one and the program.
 
-#include "device-options.h"
 #include "line-tap.h"
+#include "virtual-device.h"
 
 #include <csignal>
 #include <cstdio>
@@ -43,13 +43,15 @@ int main(int argc, char **argv) {
     try {
         const DeviceOptions options = parseDeviceOptions(argc, argv);
         if (options.help)
-            std::printf("tools/virtual-device plays a detector of drone signals until Ctrl-C.\n%s",
-                        DEVICE_OPTIONS_HELP);
+            std::printf("Usage: uav-vesper-device [OPTIONS]\n"
+                        "       uav-vesper-device --tap DEVICE --record FILE [--link PATH]\n\n"
+                        "It plays a detector of drone signals on a terminal, until Ctrl-C.\n\n%s",
+                        deviceOptionsHelp().c_str());
         else
             play(options, endingEvent());
         return 0;
     } catch (const std::exception &error) {
-        std::fprintf(stderr, "virtual-device: %s\n", error.what());
+        std::fprintf(stderr, "uav-vesper-device: %s\n", error.what());
         return 1;
     }
 }

@@ -31,6 +31,13 @@ ScanResults hear(const std::vector<Source> &sources, const std::vector<FreqModeE
 /// A peak wanders through each active range, a Wi-Fi one, a digital one, an FPV one.
 ScanResults wanderingPeaks(std::size_t scan, const std::vector<FreqModeEnum> &ranges);
 
-/// The scenes that a user may choose: "peaks", "drone" (an FPV drone comes nearer and goes), "street" (busy
-/// Wi-Fi) and "silence". Nothing for another name.
+/// A scene that a user may choose.
+struct NamedScene {
+    std::string name;
+    std::string what; ///< a sentence for --help
+    Scene scene;
+};
+
+const std::vector<NamedScene> &namedScenes();
+/// Nothing for a name that no scene has.
 std::optional<Scene> sceneOf(const std::string &name);

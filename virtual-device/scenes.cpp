@@ -71,21 +71,28 @@ ScanResults wanderingPeaks(std::size_t scan, const std::vector<FreqModeEnum> &ra
     return results;
 }
 
+const std::vector<NamedScene> &namedScenes() {
+    static const std::vector<NamedScene> SCENES = {
+        {"drone", "An FPV drone comes nearer and goes again.",
+         sceneWith({{2420, 15, SigTypeEnum::WIFI, -90, -90},
+                    {2470, 10, SigTypeEnum::DIG, -104, -82},
+                    {5800, 15, SigTypeEnum::FPV, -106, -71}})},
+        {"street", "Wi-Fi networks are busy.",
+         sceneWith({{2412, 11, SigTypeEnum::WIFI, -72, -80},
+                    {2437, 11, SigTypeEnum::WIFI, -90, -70},
+                    {2462, 11, SigTypeEnum::WIFI, -83, -88},
+                    {5180, 20, SigTypeEnum::WIFI, -86, -92},
+                    {5500, 20, SigTypeEnum::WIFI, -95, -88},
+                    {5745, 20, SigTypeEnum::WIFI, -80, -84}})},
+        {"silence", "Nothing but noise is heard.", sceneWith({})},
+        {"peaks", "A strong signal wanders through each band.", wanderingPeaks},
+    };
+    return SCENES;
+}
+
 std::optional<Scene> sceneOf(const std::string &name) {
-    if (name == "peaks")
-        return wanderingPeaks;
-    if (name == "silence")
-        return sceneWith({});
-    if (name == "street")
-        return sceneWith({{2412, 11, SigTypeEnum::WIFI, -72, -80},
-                          {2437, 11, SigTypeEnum::WIFI, -90, -70},
-                          {2462, 11, SigTypeEnum::WIFI, -83, -88},
-                          {5180, 20, SigTypeEnum::WIFI, -86, -92},
-                          {5500, 20, SigTypeEnum::WIFI, -95, -88},
-                          {5745, 20, SigTypeEnum::WIFI, -80, -84}});
-    if (name == "drone")
-        return sceneWith({{2420, 15, SigTypeEnum::WIFI, -90, -90},
-                          {2470, 10, SigTypeEnum::DIG, -104, -82},
-                          {5800, 15, SigTypeEnum::FPV, -106, -71}});
+    for (const NamedScene &scene : namedScenes())
+        if (scene.name == name)
+            return scene.scene;
     return {};
 }

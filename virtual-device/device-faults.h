@@ -7,8 +7,16 @@
 #include <string>
 #include <vector>
 
-/// What may be wrong with a device on its line: "late", "silent", "deaf", "sweeps", "refusing", "noise",
-/// "cut" and "unplug".
+/// What may be wrong with a device on its line.
+struct DeviceFault {
+    std::string name;
+    std::string what; ///< a sentence for --help
+    PtyDevice::Manner manner = PtyDevice::Manner::OBLIGING;
+    std::chrono::milliseconds answerDelay{0};
+    bool unplugged = false;
+};
+
+const std::vector<DeviceFault> &deviceFaults();
 bool isDeviceFault(const std::string &name);
 
 /// Has a device go wrong now and then, on a thread of its own: after about a period of good time one of the
@@ -27,7 +35,7 @@ public:
 private:
     void run();
     bool lasts(std::chrono::milliseconds about);
-    void set(const std::string &fault);
+    void set(const std::string &name);
 
     PtyDevice &device;
     const std::vector<std::string> faults;
