@@ -44,25 +44,20 @@ public:
     }
 };
 
-/// Sets a variable of the process's environment where the user has not, as long as it lives: programs that
-/// are started later inherit the user's.
-class SetForNow {
-public:
-    SetForNow(const char *variable, const char *value)
-        : name(qEnvironmentVariableIsSet(variable) ? nullptr : variable) {
-        if (name)
-            qputenv(name, value);
-    }
-    ~SetForNow() {
-        if (name)
-            qunsetenv(name);
-    }
-    SetForNow(const SetForNow &) = delete;
-    SetForNow &operator=(const SetForNow &) = delete;
-
-private:
-    const char *const name;
-};
+/// Qt waits 5 ms after a change before it draws, so that changes come together. Those of a scan come in one
+/// go. Qt asks the environment for the time once, when the first window is to be drawn again. Here this is
+/// one that never shows, while there is no thread that draws; then the environment is the user's again, which
+/// the viewers that the program starts inherit.
+void drawSoon() {
+    constexpr const char *variable = "QT_QPA_UPDATE_IDLE_TIME";
+    if (qEnvironmentVariableIsSet(variable))
+        return;
+    qputenv(variable, "3");
+    QWindow window;
+    window.create();
+    window.requestUpdate();
+    qunsetenv(variable);
+}
 
 /// Whether the desktop's text asks for a whole factor but for a twentieth: a display tells its resolution by
 /// its size in whole millimetres, so that 96 dpi read as 96.1, and screens that are made up have 100.
@@ -143,15 +138,10 @@ void ScreenEngine::load(const QUrl &document) {
     static auto *const translator = new QTranslator; // in use until the process ends
     translator->load("UavVesper-ru", ".", QString(), QString());
     QCoreApplication::installTranslator(translator);
-    // Qt waits 5 ms after a change before it draws, so that changes come together. Those of a scan come in
-    // one go. It asks for the time once, when a window is first to be drawn again.
-    const SetForNow idleTime("QT_QPA_UPDATE_IDLE_TIME", "3");
+    drawSoon();
     engine.load(document);
-    for (QObject *root : engine.rootObjects()) {
-        root->installEventFilter(new LastGesture(root));
-        if (auto *window = qobject_cast<QWindow *>(root))
-            window->requestUpdate();
-    }
+    for (QObject *window : engine.rootObjects())
+        window->installEventFilter(new LastGesture(window));
 }
 
 void ScreenEngine::fitToScreen() {
