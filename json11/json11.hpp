@@ -106,7 +106,11 @@ public:
 private:
     struct Document;
     friend class Builder;
-    Json(Type type, std::size_t first, std::size_t count, std::shared_ptr<const Document> owner);
+    Json(Type type, std::size_t first, std::size_t count, std::shared_ptr<const Document> owner)
+        : kind(type)
+        , index(static_cast<unsigned>(first))
+        , number(static_cast<double>(count))
+        , document(std::move(owner)) {}
 
     Type kind = NUL;
     unsigned index = 0; // among the document's strings or arrays; of an object's first member

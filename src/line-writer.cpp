@@ -11,7 +11,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// Between two tries. A driver of USB lines holds sixteen pieces, of about a tenth of a millisecond each.
+/// Between two tries. A driver of USB lines holds sixteen pieces, of a tenth of a millisecond to one each.
 constexpr milliseconds RETRY{1};
 
 Clock::time_point nextTry(Clock::time_point deadline) {
@@ -29,10 +29,11 @@ void LineWriter::use(int newTerminal) {
 }
 
 Sent LineWriter::send(const std::string &bytes, milliseconds timeout) {
-    const auto deadline = Clock::now() + timeout;
+    const auto deadline = Clock::now() + waitable(timeout);
     std::unique_lock lock(mutex);
-    const auto holdsInTime = [&, line = lines](auto condition) {
-        while (line == lines && terminal >= 0) {
+    const auto isOpen = [this, line = lines] { return line == lines && terminal >= 0; };
+    const auto holdsInTime = [&](auto condition) {
+        while (isOpen()) {
             if (condition())
                 return true;
             if (Clock::now() >= deadline)
@@ -41,13 +42,15 @@ Sent LineWriter::send(const std::string &bytes, milliseconds timeout) {
         }
         return false;
     };
-    if (!holdsInTime([&] { return begin(bytes); }))
-        return Sent::NOTHING;
+    if (!holdsInTime([&] { return !finishing && begin(bytes); }))
+        return isOpen() ? Sent::NOTHING : Sent::CLOSED;
     const auto hasLeft = [this, request = begun] {
         push();
         return rest.empty() || begun != request;
     };
-    return holdsInTime(hasLeft) ? Sent::WHOLE : Sent::PART;
+    if (!holdsInTime(hasLeft))
+        return isOpen() ? Sent::PART : Sent::CLOSED;
+    return Sent::WHOLE;
 }
 
 bool LineWriter::hasRest() const {
@@ -60,16 +63,20 @@ bool LineWriter::sendRest() {
     return push();
 }
 
-void LineWriter::finish(milliseconds patience) {
+void LineWriter::finish(milliseconds patience, const std::string &last) {
     const auto deadline = Clock::now() + patience;
     std::unique_lock lock(mutex);
     if (terminal < 0)
         return;
     finishing = true;
-    bool isUnsent;
-    while ((isUnsent = holdsUnsent()) && Clock::now() < deadline)
+    auto hasLeft = [&, isToBegin = !last.empty()]() mutable {
+        isToBegin = isToBegin && !begin(last);
+        return !holdsUnsent(isToBegin);
+    };
+    bool isDone = false;
+    while (!(isDone = hasLeft()) && Clock::now() < deadline)
         changed.wait_until(lock, nextTry(deadline));
-    if (isUnsent)
+    if (!isDone)
         tcflush(terminal, TCOFLUSH);
     rest.clear();
     terminal = -1;
@@ -81,7 +88,7 @@ void LineWriter::finish(milliseconds patience) {
 /// Under the lock, as the next two.
 bool LineWriter::begin(const std::string &bytes) {
     push();
-    if (finishing || !rest.empty())
+    if (!rest.empty())
         return false;
     const ssize_t taken = ::write(terminal, bytes.data(), bytes.size());
     if (taken <= 0 && !bytes.empty())
@@ -104,8 +111,8 @@ bool LineWriter::push() {
 }
 
 /// A line that has gone holds nothing: there is nobody whom it could reach.
-bool LineWriter::holdsUnsent() {
+bool LineWriter::holdsUnsent(bool isToBegin) {
     push();
     int underWay = 0;
-    return ioctl(terminal, TIOCOUTQ, &underWay) == 0 && (underWay > 0 || !rest.empty());
+    return ioctl(terminal, TIOCOUTQ, &underWay) == 0 && (isToBegin || underWay > 0 || !rest.empty());
 }

@@ -1,6 +1,8 @@
 #include "linux-connector.h"
 
+#include "msg-to-json-parser.h"
 #include "msg/get-state-msg.h"
+#include "msg/scan-msg.h"
 #include "msg/state-msg.h"
 #include "port-advice.h"
 
@@ -43,18 +45,20 @@ bool LinuxConnector::probe(const std::string &devicePath) {
     setPortName(devicePath);
     if (!openPort())
         return passedOver(adviceOnError(openError()));
+    const unsigned before = givenUp;
     const auto reply = busyTransaction(std::make_shared<GetStateMsg>(), PROBE_TIMEOUT);
     if (messageCast<StateMsg>(reply))
         return true;
     serialClose();
-    return passedOver(adviceOnReply(reply, PROBE_TIMEOUT));
+    return givenUp == before && passedOver(adviceOnReply(reply, PROBE_TIMEOUT));
 }
 
 void LinuxConnector::disconnect() {
+    const auto stop = std::atomic_exchange(&unsentStop, std::shared_ptr<Msg>());
     if (test)
         LinuxConnector::stopTesting(); // by name, as the destructor comes here too
     else if (!isClosed())
-        serialClose();
+        closeAfter(stop ? MsgToJsonParser::toJson(stop) : buffer_t());
 }
 
 void LinuxConnector::startTesting() {
@@ -79,11 +83,16 @@ std::shared_ptr<Msg> LinuxConnector::simpleTransaction(std::shared_ptr<Msg> msg,
                                                        std::chrono::milliseconds timeout) {
     if (test)
         return testService.acceptMsg(msg);
+    std::atomic_store(&unsentStop, std::shared_ptr<Msg>());
     return transaction(std::move(msg), timeout, MsgType::values());
 }
 
 void LinuxConnector::transactionGaveUp(const std::shared_ptr<Msg> &request, Sent sent,
                                        std::chrono::milliseconds timeout) {
-    if (request && !isClosed())
+    ++givenUp;
+    const auto scan = messageCast<ScanMsg>(request);
+    if (scan && !scan->getScan() && sent == Sent::NOTHING)
+        std::atomic_store(&unsentStop, request);
+    if (request)
         reportPort((getPortName() + ": " + adviceOnRefusal(*request, sent, timeout)).c_str());
 }

@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 
+inline namespace kelvane {
+
 /// Finds the device among the serial terminals of the system, and stands for the simulator in test mode. It
 /// is itself the link to the device.
 class LinuxConnector : public SerialInterfaceConnector, public UsbTty {
@@ -57,7 +59,13 @@ private:
     const Report report;
     const Report reportPort;
     std::atomic<bool> test{false};
+    std::atomic<unsigned> givenUp{0}; ///< transactions
+    /// The order to stop scanning, where the line has taken nothing of it. It becomes the last request, or
+    /// the device would scan on after the end. Only atomic access.
+    std::shared_ptr<Msg> unsentStop;
     TestService testService;
     /// Makes what the simulator fires reach the listeners of the link.
     const std::shared_ptr<MsgListener> testListener;
 };
+
+} // namespace kelvane

@@ -5,6 +5,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+inline namespace kelvane {
+
 static std::string userName() {
     const passwd *user = getpwuid(geteuid());
     return user ? user->pw_name : "$USER";
@@ -42,7 +44,9 @@ std::string adviceOnReply(const std::shared_ptr<Msg> &reply, std::chrono::millis
 std::string adviceOnRefusal(const Msg &request, Sent sent, std::chrono::milliseconds timeout) {
     const bool hasBegun = sent == Sent::PART;
     return "the device took " + std::string(hasBegun ? "only a part of " : "nothing of ") +
-           MsgType(request.getType()).name() + " within " + std::to_string(timeout.count()) +
-           " ms: " + (hasBegun ? "the rest is sent once it takes more" : "it was not sent") +
-           "; if that stays so, plug the device in anew";
+           MsgType(request.getType()).name() + " within " + std::to_string(timeout.count()) + " ms: " +
+           (hasBegun ? "the rest is sent once it takes more"
+                     : "it was not sent; if that stays so, plug the device in again");
 }
+
+} // namespace kelvane

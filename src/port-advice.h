@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+inline namespace kelvane {
+
 /// Why a serial terminal did not become the device, or took no request, and what helps, in words for the
 /// terminal's user.
 
@@ -15,3 +17,5 @@ std::string adviceOnError(int error);
 std::string adviceOnReply(const std::shared_ptr<Msg> &reply, std::chrono::milliseconds timeout);
 /// The line did not take all of this request within the time-out.
 std::string adviceOnRefusal(const Msg &request, Sent sent, std::chrono::milliseconds timeout);
+
+} // namespace kelvane

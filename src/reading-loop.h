@@ -4,6 +4,8 @@
 #include <chrono>
 #include <thread>
 
+inline namespace kelvane {
+
 /// The body of a link's reading thread. `readBlock` waits for bytes for a while, delivers them and tells
 /// whether some came. On purpose: it goes on after errors, so that a device that was pulled out shows only in
 /// what does not come, until its link is closed.
@@ -17,3 +19,5 @@ void readUntil(const std::atomic<bool> &closed, ReadBlock readBlock) {
             std::this_thread::sleep_for(PAUSE);
     }
 }
+
+} // namespace kelvane

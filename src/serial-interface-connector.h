@@ -8,6 +8,8 @@
 #include <memory>
 #include <mutex>
 
+inline namespace kelvane {
+
 /// Finds the device, owns the link to it and puts one request at a time on that link.
 class SerialInterfaceConnector {
 public:
@@ -43,3 +45,5 @@ private:
     std::mutex busyMutex; ///< held for the length of a whole transaction
     std::atomic<bool> busy{false};
 };
+
+} // namespace kelvane

@@ -8,6 +8,8 @@
 #include <libusb.h>
 #include <shared_mutex>
 
+inline namespace kelvane {
+
 /// The link to a device by bulk transfers, past the system's serial driver. No caller today.
 ///
 /// Calls go in the order `init`, `openDevice`, `startReading`; all but the transfers belong to one thread.
@@ -53,3 +55,5 @@ private:
     std::shared_mutex devhMutex;
     JoiningThread readingThread;
 };
+
+} // namespace kelvane

@@ -1,20 +1,17 @@
 #include "usb-service.h"
 
 #include "common/defaults.h"
-#include "common/strongest-signals.h"
 #include "linux-connector.h"
 #include "log.h"
 #include "msg/ai-prior-msg.h"
 #include "msg/config-k7-msg.h"
 #include "msg/config-msg.h"
-#include "msg/fail-msg.h"
 #include "msg/get-ai-prior-msg.h"
 #include "msg/get-config-k7-msg.h"
 #include "msg/get-config-msg.h"
 #include "msg/get-state-msg.h"
 #include "msg/mask-result-msg.h"
 #include "msg/scan-msg.h"
-#include "msg/scan-result-msg.h"
 #include "msg/set-mask-msg.h"
 #include "msg/state-msg.h"
 
@@ -134,7 +131,7 @@ void UsbService::stopScan() {
 }
 
 void UsbService::sendScan(bool scan) {
-    request(std::make_shared<ScanMsg>(ScanMsgBuilder().scan(scan).build()), SCAN_TIMEOUT);
+    request(ScanMsgBuilder().scan(scan).share(), SCAN_TIMEOUT);
 }
 
 void UsbService::sendConfig(MsgHolder holder) {

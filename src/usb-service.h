@@ -1,7 +1,11 @@
 #pragma once
 
 #include "common/joining-thread.h"
+#include "common/strongest-signals.h"
+#include "level-scale.h"
 #include "msg-holder.h"
+#include "msg/fail-msg.h"
+#include "msg/scan-result-msg.h"
 #include "serial-interface-connector.h"
 
 #include <QObject>
@@ -11,9 +15,6 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
-
-class FailMsg;
-class ScanResultMsg;
 
 /// The one object through which the screens talk to the device: starts and ends the connection, sends
 /// requests, and turns every message that the device volunteers into a signal.
@@ -32,9 +33,9 @@ public:
     /// screens, and what a slower device answers still arrives through `acceptMsg`.
     static constexpr std::chrono::milliseconds TIMEOUT{5};
     /// The signals named in `gotMaxFreqs`.
-    static constexpr int MAX_FREQS_DISPLAYED = 3;
+    static constexpr int MAX_FREQS_DISPLAYED = STRONGEST_SIGNALS_NAMED;
     /// In dB; a signal must exceed it to be named.
-    static constexpr int MIN_FREQ_DISPLAYED = -105;
+    static constexpr int MIN_FREQ_DISPLAYED = LevelScale::SILENCE;
 
     /// On the serial devices of this system.
     explicit UsbService(QObject *parent = nullptr);

@@ -13,8 +13,6 @@
 
 namespace {
 
-/// In ms; closing wakes it.
-constexpr int READ_WAIT = 1000;
 /// In ms, while a rest waits for room, which the line may have without telling.
 constexpr int REST_WAIT = 5;
 /// What unsent bytes get to leave at the end: a sweep, in which a device takes none, is shorter.
@@ -31,7 +29,7 @@ UsbTty::UsbTty(std::string name)
     , writer([this] { eventfd_write(news, 1); }) {}
 
 UsbTty::~UsbTty() {
-    UsbTty::serialClose();
+    closeAfter({});
     ::close(news);
 }
 
@@ -86,7 +84,7 @@ bool UsbTty::openPort() {
     if (port < 0) {
         port = opened;
     } else {
-        writer.finish(END_PATIENCE);
+        writer.finish(END_PATIENCE, {});
         // Under the same number, since the reading thread may be about to use it.
         dup3(opened, port, O_CLOEXEC);
         ::close(opened);
@@ -109,7 +107,7 @@ bool UsbTty::readBlock() {
     const bool hasRest = writer.hasRest();
     const short line = hasRest ? POLLIN | POLLOUT : POLLIN;
     pollfd waited[] = {{port, line, 0}, {news, POLLIN, 0}};
-    const int ready = poll(waited, 2, hasRest ? REST_WAIT : READ_WAIT);
+    const int ready = poll(waited, 2, hasRest ? REST_WAIT : -1);
     eventfd_t told;
     const bool isNews = waited[1].revents != 0 && eventfd_read(news, &told) == 0;
     const bool hasSent = writer.sendRest();
@@ -126,9 +124,9 @@ bool UsbTty::readBlock() {
     return count > 0 || hasSent;
 }
 
-void UsbTty::serialClose() {
+void UsbTty::closeAfter(const buffer_t &last) {
     const std::lock_guard lock(lifecycle);
-    writer.finish(END_PATIENCE);
+    writer.finish(END_PATIENCE, last);
     closed = true;
     eventfd_write(news, 1);
     readingThread.finish();

@@ -9,6 +9,8 @@
 #include <mutex>
 #include <string>
 
+inline namespace kelvane {
+
 /// The link to a device on a serial terminal.
 ///
 /// Everything but the listeners may be called from any thread; a listener, which runs on the reading thread,
@@ -40,7 +42,7 @@ public:
     /// line, drops what is left and returns when the reading thread has ended. At once where nothing is
     /// unsent and no listener is at work. On purpose: a broken object stays in the buffer and meets what
     /// comes from the port that is opened next.
-    void serialClose() override;
+    void serialClose() override { closeAfter({}); }
     bool isClosed() override { return closed; }
     /// Blocks for the time-out at most; `sendWithin` tells what the line has taken by then.
     void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override { sendWithin(bytes, timeout); }
@@ -51,6 +53,8 @@ public:
     }
 
 protected:
+    /// As `serialClose`, and this is the last request, which leaves after what is unsent.
+    void closeAfter(const buffer_t &last);
     /// What kept the last `openPort` from opening, as in `errno`; 0 where nothing did.
     int openError() const { return lastOpenError; }
 
@@ -78,3 +82,5 @@ private:
     /// descriptor that was handed out again.
     LineWriter writer;
 };
+
+} // namespace kelvane

@@ -29,18 +29,23 @@ namespace {
 constexpr std::size_t MOST_PIECES = 16, PIECE_SIZE = 1280; // bytes
 constexpr auto STEP = 1ms;                                 // between looks at what no event tells
 
-std::atomic<CdcAcmLine *> theLine{nullptr};
+std::mutex registry;           // taken by every thread that makes a call; guards theLine and its descriptors
+CdcAcmLine *theLine = nullptr; // outlives the program's use of the terminal, not that of other descriptors
 
 } // namespace
 
 CdcAcmLine::CdcAcmLine(std::string terminal)
     : path(std::move(terminal))
     , thread([this] { run(); }) {
+    const std::lock_guard lock(registry);
     theLine = this;
 }
 
 CdcAcmLine::~CdcAcmLine() {
-    theLine = nullptr;
+    {
+        const std::lock_guard lock(registry);
+        theLine = nullptr;
+    }
     {
         const std::lock_guard lock(mutex);
         ending = true;
@@ -71,34 +76,47 @@ std::size_t CdcAcmLine::leftToClose() const {
 }
 
 CdcAcmLine *CdcAcmLine::of(int terminal) {
-    CdcAcmLine *line = theLine;
-    return line && line->descriptor == terminal ? line : nullptr;
+    const std::lock_guard lock(registry);
+    if (!theLine)
+        return nullptr;
+    const auto &known = theLine->descriptors;
+    return std::find(known.begin(), known.end(), terminal) == known.end() ? nullptr : theLine;
 }
 
 void CdcAcmLine::setUp(int terminal) {
-    CdcAcmLine *line = theLine;
-    struct stat ours {
+    const std::lock_guard lock(registry);
+    struct stat given {
     }, named{};
-    if (line && fstat(terminal, &ours) == 0 && stat(line->path.c_str(), &named) == 0 &&
-        ours.st_rdev == named.st_rdev)
-        line->use(terminal);
+    if (theLine && fstat(terminal, &given) == 0 && stat(theLine->path.c_str(), &named) == 0 &&
+        given.st_rdev == named.st_rdev)
+        theLine->descriptors.push_back(terminal);
 }
 
 void CdcAcmLine::use(int terminal) {
-    const std::lock_guard lock(mutex);
-    descriptor = terminal;
+    const std::lock_guard lock(registry);
+    descriptors.push_back(terminal);
 }
 
-void CdcAcmLine::close() {
+void CdcAcmLine::close(int terminal) {
     const std::lock_guard lock(mutex);
-    left += hasGone() ? 0 : underWay.size();
+    const bool isGone = hasGone();
+    const std::lock_guard registryLock(registry);
+    descriptors.erase(std::find(descriptors.begin(), descriptors.end(), terminal));
+    if (!descriptors.empty())
+        return;
+    left += isGone ? 0 : underWay.size();
     underWay.clear();
-    descriptor = -1;
+}
+
+/// Any of the program's, which all lead to the same terminal; -1 without one.
+int CdcAcmLine::descriptor() const {
+    const std::lock_guard lock(registry);
+    return descriptors.empty() ? -1 : descriptors.front();
 }
 
 /// The device was pulled out. Under the lock.
 bool CdcAcmLine::hasGone() const {
-    pollfd end{descriptor, 0, 0};
+    pollfd end{descriptor(), 0, 0};
     __real_poll(&end, 1, 0);
     return end.revents & (POLLHUP | POLLNVAL);
 }
@@ -110,7 +128,7 @@ ssize_t CdcAcmLine::write(const char *bytes, std::size_t count) {
         if (hasGone())
             return errno = EIO, -1;
         if (underWay.size() >= MOST_PIECES) {
-            if (fcntl(descriptor, F_GETFL) & O_NONBLOCK)
+            if (fcntl(descriptor(), F_GETFL) & O_NONBLOCK)
                 break;
             changed.wait_for(lock, STEP);
             continue;
@@ -169,7 +187,7 @@ void CdcAcmLine::run() {
         while (!underWay.empty() && !ending && isTaking() && !underWay.empty()) {
             // The terminal makes carriage return and line feed of a line end itself.
             std::string &piece = underWay.front();
-            const ssize_t taken = __real_write(descriptor, piece.data(), piece.size());
+            const ssize_t taken = __real_write(descriptor(), piece.data(), piece.size());
             if (taken <= 0)
                 break;
             piece.erase(0, static_cast<std::size_t>(taken));
@@ -189,14 +207,14 @@ int __wrap_tcsetattr(int descriptor, int when, const termios *settings) {
 
 int __wrap_close(int descriptor) {
     if (CdcAcmLine *line = CdcAcmLine::of(descriptor))
-        line->close();
+        line->close(descriptor);
     return __real_close(descriptor);
 }
 
 int __wrap_dup3(int from, int to, int flags) {
     CdcAcmLine *const line = CdcAcmLine::of(from);
     if (CdcAcmLine *former = CdcAcmLine::of(to))
-        former->close();
+        former->close(to);
     const int copy = __real_dup3(from, to, flags);
     if (line)
         line->use(copy);

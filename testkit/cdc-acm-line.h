@@ -1,6 +1,5 @@
 #pragma once
 
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -9,15 +8,16 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <vector>
 
 /// Has a pseudo-terminal behave to the program as the line of a USB device does, at the program's own system
 /// calls. It takes what the system's driver of such devices (CDC ACM) takes, and hands it to the terminal's
 /// other end at the device's pace.
 ///
 /// A bare pseudo-terminal takes whole requests until it is full. This driver takes a line and then a line
-/// end, each as a piece; sixteen pieces may be under way. It reports room only while none is. Closing would
-/// wait for them: that is counted, and they are dropped. A program that links this target makes its calls
-/// through it; calls for other descriptors go on to the system.
+/// end, each as a piece; sixteen pieces may be under way. It reports room only while none is. The last
+/// closing would wait for them: that is counted, and they are dropped. A program that links this target makes
+/// its calls through it; calls for other descriptors go on to the system.
 class CdcAcmLine {
 public:
     /// In front of this terminal once the program sets the line up. One at a time, made and ended while no
@@ -48,7 +48,7 @@ public:
     static CdcAcmLine *of(int terminal);
     static void setUp(int terminal);
     void use(int terminal);
-    void close();
+    void close(int terminal);
     ssize_t write(const char *bytes, std::size_t count);
     bool reportsRoom() const;
     int ask(int *unsent);
@@ -56,10 +56,12 @@ public:
 
 private:
     void run();
+    int descriptor() const;
     bool hasGone() const;
 
     const std::string path;
-    std::atomic<int> descriptor{-1}; // the program's
+    std::vector<int>
+        descriptors; // the program's; guarded by a mutex of the source file, which finds the line by them
 
     mutable std::mutex mutex; // guards everything below
     std::condition_variable changed;

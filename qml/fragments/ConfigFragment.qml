@@ -6,7 +6,7 @@ Item {
 
     property alias open: customDrawer.visible
     property alias opener: customDrawer.opener
-    readonly property bool hasK7Settings: confHndlr.proto >= 2
+    readonly property bool hasK7Settings: confHndlr.hasK7Settings
 
     function setHeight(comp) {
         var sum = 0

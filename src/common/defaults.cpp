@@ -18,57 +18,57 @@ std::vector<FreqModeEnum> defaultRanges(ProtoEnum proto) {
 } // namespace
 
 std::shared_ptr<ConfigMsg> Defaults::getDefaultConfigMsg(ProtoEnum proto) {
-    return std::make_shared<ConfigMsg>(ConfigMsgBuilder()
-                                           .proto(proto)
-                                           .indLed(true)
-                                           .indSnd(true)
-                                           .indVibro(false)
-                                           .indLedLvl(50)
-                                           .indSndLvl(100)
-                                           .mode(DetModeEnum::BASE)
-                                           .wifiDet(false)
-                                           .uavDet(true)
-                                           .ranges(defaultRanges(proto))
-                                           .atten(0)
-                                           .build());
+    return ConfigMsgBuilder()
+        .proto(proto)
+        .indLed(true)
+        .indSnd(true)
+        .indVibro(false)
+        .indLedLvl(50)
+        .indSndLvl(100)
+        .mode(DetModeEnum::BASE)
+        .wifiDet(false)
+        .uavDet(true)
+        .ranges(defaultRanges(proto))
+        .atten(0)
+        .share();
 }
 
 std::shared_ptr<AiPriorMsg> Defaults::getDefaultAiPriorMsg() {
-    return std::make_shared<AiPriorMsg>(AiPriorMsgBuilder().aiPrior(AiPriorEnum::DEFAULT).build());
+    return AiPriorMsgBuilder().aiPrior(AiPriorEnum::DEFAULT).share();
 }
 
 std::shared_ptr<ConfigK7Msg> Defaults::getDefaultConfigK7Msg() {
     // On purpose: the voice level is none of those that the screens offer, and so none shows as chosen.
-    return std::make_shared<ConfigK7Msg>(ConfigK7MsgBuilder()
-                                             .voiceEn(true)
-                                             .dispLvl(50)
-                                             .dispOffTime(30)
-                                             .indHeadLvl(25)
-                                             .indHeadMode(HeadModeEnum::SOUND)
-                                             .btEn(false)
-                                             .btPowerDbm(0)
-                                             .voiceDbLvl(-97)
-                                             .build());
+    return ConfigK7MsgBuilder()
+        .voiceEn(true)
+        .dispLvl(50)
+        .dispOffTime(30)
+        .indHeadLvl(25)
+        .indHeadMode(HeadModeEnum::SOUND)
+        .btEn(false)
+        .btPowerDbm(0)
+        .voiceDbLvl(-97)
+        .share();
 }
 
 std::shared_ptr<ConfigEwMsg> Defaults::getDefaultConfigEwMsg(ProtoEnum proto) {
     std::vector<std::shared_ptr<EwTarget>> targets;
     for (const MasterFreqModeEnum band : Proto(proto).getMasterModes()) {
-        const FreqMode widest(MasterFreqMode(band).getMaxRangeFreqMode());
-        targets.push_back(std::make_shared<EwTarget>(EwTargetBuilder()
-                                                         .freqMax(widest.getMaxFreq())
-                                                         .freqMin(widest.getMinFreq())
-                                                         .sigType(SigTypeEnum::ALL)
-                                                         .timeSecOfDetect(10)
-                                                         .lvlOver(-95)
-                                                         .prior(0)
-                                                         .actType(EwActivateEnum::TIMEOUT)
-                                                         .timeout(60)
-                                                         .ewOutId(0)
-                                                         .ewOutConf({})
-                                                         .build()));
+        const FreqMode widest = MasterFreqMode(band).getWidestRange();
+        targets.push_back(EwTargetBuilder()
+                              .freqMax(widest.getMaxFreq())
+                              .freqMin(widest.getMinFreq())
+                              .sigType(SigTypeEnum::ALL)
+                              .timeSecOfDetect(10)
+                              .lvlOver(-95)
+                              .prior(0)
+                              .actType(EwActivateEnum::TIMEOUT)
+                              .timeout(60)
+                              .ewOutId(0)
+                              .ewOutConf({})
+                              .share());
     }
-    return std::make_shared<ConfigEwMsg>(ConfigEwMsgBuilder().targets(targets).build());
+    return ConfigEwMsgBuilder().targets(targets).share();
 }
 
 std::vector<std::shared_ptr<Msg>> Defaults::getDefaults(ProtoEnum proto) {

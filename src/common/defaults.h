@@ -8,6 +8,8 @@
 #include <memory>
 #include <vector>
 
+inline namespace kelvane {
+
 /// The factory settings as messages, newly built on each call.
 class Defaults {
 public:
@@ -21,3 +23,5 @@ public:
     /// All messages of a factory reset, in the order of sending: those that the generation has.
     static std::vector<std::shared_ptr<Msg>> getDefaults(ProtoEnum proto);
 };
+
+} // namespace kelvane

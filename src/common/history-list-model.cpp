@@ -61,7 +61,7 @@ void HistoryListModel::acceptScanResult(MsgHolder holder) {
     if (freqs.empty())
         return;
     for (_listData &band : m_data) {
-        const FreqMode widest(MasterFreqMode(band.masterMode).getMaxRangeFreqMode());
+        const FreqMode widest = MasterFreqMode(band.masterMode).getWidestRange();
         History::Scan ofBand;
         std::copy_if(freqs.begin(), freqs.end(), std::back_inserter(ofBand), [&](const auto &result) {
             return result && result->getFreqMHz() >= widest.getMinFreq() &&

@@ -9,6 +9,8 @@
 #include <memory>
 #include <vector>
 
+inline namespace kelvane {
+
 /// The last scans of one frequency band: a matrix of one row per scan, oldest first, by one column per
 /// frequency, and the results of the newest scan as they came. A plain value for the UI thread: each view
 /// gets a copy, and only the results of the newest scan, which nobody changes, are shared.
@@ -64,3 +66,5 @@ private:
     std::vector<float> historyFreqs;
     Scan freqScanResults;
 };
+
+} // namespace kelvane

@@ -3,6 +3,8 @@
 #include <thread>
 #include <utility>
 
+inline namespace kelvane {
+
 /// A thread that is waited for, at the latest where its owner ends; the owner sees to it that the body comes
 /// to an end. One thread at a time uses it, never the body.
 class JoiningThread {
@@ -31,3 +33,5 @@ public:
 private:
     std::thread thread;
 };
+
+} // namespace kelvane

@@ -3,6 +3,8 @@
 #include <array>
 #include <string>
 
+inline namespace kelvane {
+
 /// A step of the detector's sensitivity, as a user chooses it.
 enum class _SensLevelEnum : int { UNKNOWN, LOW, MIDDLE, HIGH };
 using SensLevelEnum = _SensLevelEnum;
@@ -31,3 +33,5 @@ private:
 
     SensLevelEnum sens;
 };
+
+} // namespace kelvane

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+inline namespace kelvane {
+
 std::vector<std::shared_ptr<FreqScanResult>>
 strongestSignals(const std::vector<std::shared_ptr<FreqScanResult>> &scan, std::size_t maxCount,
                  float floor) {
@@ -22,3 +24,5 @@ strongestSignals(const std::vector<std::shared_ptr<FreqScanResult>> &scan, std::
     }
     return strongest;
 }
+
+} // namespace kelvane

@@ -3,6 +3,8 @@
 #include <chrono>
 #include <cstdint>
 
+inline namespace kelvane {
+
 /// Time since the program started.
 class Uptime {
 public:
@@ -12,3 +14,5 @@ public:
 private:
     static const std::chrono::steady_clock::time_point startTime;
 };
+
+} // namespace kelvane

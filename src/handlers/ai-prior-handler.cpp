@@ -59,5 +59,5 @@ void AiPriorHandler::accept(MsgHolder holder) {
 void AiPriorHandler::commit() {
     if (aiPriros.empty())
         return;
-    emit gotMsg(MsgHolder(std::make_shared<AiPriorMsg>(AiPriorMsgBuilder().aiPrior(selected()).build())));
+    emit gotMsg(MsgHolder(AiPriorMsgBuilder().aiPrior(selected()).share()));
 }

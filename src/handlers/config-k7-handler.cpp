@@ -2,7 +2,7 @@
 
 ConfigK7Handler::ConfigK7Handler(QObject *parent)
     : QObject(parent)
-    , msg(std::make_shared<ConfigK7Msg>(ConfigK7MsgBuilder().indHeadLvl(0).build())) {
+    , msg(ConfigK7MsgBuilder().indHeadLvl(0).share()) {
     connect(this, &ConfigK7Handler::changed, this, &ConfigK7Handler::commit);
 }
 

@@ -2,7 +2,7 @@
 
 ConfigMsgHandler::ConfigMsgHandler(QObject *parent)
     : QObject(parent)
-    , msg(std::make_shared<ConfigMsg>(ConfigMsgBuilder().indLedLvl(75).indSndLvl(100).build())) {
+    , msg(ConfigMsgBuilder().indLedLvl(75).indSndLvl(100).share()) {
     connect(this, &ConfigMsgHandler::changed, this, &ConfigMsgHandler::commit);
 }
 

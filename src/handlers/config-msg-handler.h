@@ -36,6 +36,7 @@ class ConfigMsgHandler : public QObject {
     Q_PROPERTY(QString stringMode READ stringMode NOTIFY stringModeChanged)
     Q_PROPERTY(QString sens READ getSens NOTIFY sensChanged)
     Q_PROPERTY(QString enumMode READ enumMode NOTIFY stringModeChanged)
+    Q_PROPERTY(bool hasK7Settings READ hasK7Settings NOTIFY protoChanged)
 
 public:
     explicit ConfigMsgHandler(QObject *parent = nullptr);
@@ -44,6 +45,8 @@ public:
     /// ignored: a device always has one.
     CONFIG_PROPERTIES(MIRRORED_ACCESSORS, MIRRORED_ACCESSORS)
 
+    /// The device's generation has the settings of CONFIG_K7.
+    bool hasK7Settings() const { return msg->getProto() >= MsgType(MsgTypeEnum::CONFIG_K7).getSinceProto(); }
     /// The display name of the detection mode. No caller today.
     QString stringMode() const;
     /// The name of the sensitivity step.

@@ -6,8 +6,6 @@ using std::chrono::milliseconds;
 
 namespace {
 
-constexpr int RSSI_FLOOR = -105; // dB, the level of silence
-constexpr int RSSI_TOP = -75;    // dB
 constexpr int RSSI_PER_ATTEN = 3;
 constexpr int MAX_ATTEN = 1000; // far more than reaches the floor, and no overflow
 constexpr int BASE_CHANCE = 5;  // percent
@@ -80,8 +78,9 @@ void ScanPlan::setByConfig(const ConfigMsg &config) {
         plans.push_back(FreqMode(range).getFreqList()->getFreqs());
     freqs = std::move(plans);
     period = scanPeriod(config.getMode());
-    rssiMax = std::max(RSSI_TOP - RSSI_PER_ATTEN * std::clamp(config.getAtten(), -MAX_ATTEN, MAX_ATTEN),
-                       RSSI_FLOOR);
+    rssiMax =
+        std::max(LevelScale::TOP - RSSI_PER_ATTEN * std::clamp(config.getAtten(), -MAX_ATTEN, MAX_ATTEN),
+                 LevelScale::SILENCE);
     wifi = config.getWifiDet() ? BASE_CHANCE : 0;
     dig = config.getUavDet() ? BASE_CHANCE : 0;
     fpv = BASE_CHANCE;
@@ -112,8 +111,8 @@ std::shared_ptr<ScanResultMsg> ScanPlan::makeScan(std::default_random_engine &en
             const auto result = std::make_shared<FreqScanResult>();
             result->setFreqMHz(freq);
             result->setType(drawType(*this, engine));
-            result->setRssi(
-                static_cast<float>(hit(engine, 50) ? RSSI_FLOOR : draw(engine, RSSI_FLOOR, rssiMax)));
+            result->setRssi(static_cast<float>(hit(engine, 50) ? LevelScale::SILENCE
+                                                               : draw(engine, LevelScale::SILENCE, rssiMax)));
             results.push_back(result);
         }
     }

@@ -9,14 +9,16 @@
 #include <random>
 #include <vector>
 
+inline namespace kelvane {
+
 /// What the simulated device does under its settings.
 struct ScanPlan {
     std::chrono::milliseconds period{1000};
     std::vector<std::vector<float>> freqs; ///< centre frequencies in MHz of each enabled range
     bool mask = false;
     std::vector<MasterFreqModeEnum> maskedMMs;
-    int rssiMax = -75; ///< the strongest level, dB
-    int wifi = 0;      ///< this and the next two: chance of the signal class in percent
+    int rssiMax = LevelScale::TOP; ///< the strongest level, dB
+    int wifi = 0;                  ///< this and the next two: chance of the signal class in percent
     int dig = 0;
     int fpv = 0;
 
@@ -26,3 +28,5 @@ struct ScanPlan {
     /// A made-up scan. About half of its levels are silence, which may have a signal class all the same.
     std::shared_ptr<ScanResultMsg> makeScan(std::default_random_engine &engine) const;
 };
+
+} // namespace kelvane

@@ -11,6 +11,8 @@
 #include <mutex>
 #include <random>
 
+inline namespace kelvane {
+
 /// Makes up the scans of the simulated device, at the pace and in the ranges of its settings, on a thread of
 /// its own.
 ///
@@ -56,3 +58,5 @@ private:
     bool started = false; ///< this and the next: touched only by `start`, `stop` and the destructor
     JoiningThread scanner;
 };
+
+} // namespace kelvane

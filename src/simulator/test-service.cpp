@@ -55,8 +55,7 @@ std::shared_ptr<Msg> TestService::acceptMsg(const std::shared_ptr<Msg> &msg) {
         acceptSetMask();
         break;
     default:
-        fireMsg(
-            std::make_shared<FailMsg>(FailMsgBuilder().respOn(type).failMsg("test not implemented").build()));
+        fireMsg(FailMsgBuilder().respOn(type).failMsg("test not implemented").share());
     }
     return nullptr;
 }
@@ -67,7 +66,7 @@ std::shared_ptr<Msg> TestService::fireMsg(const std::shared_ptr<Msg> &msg) {
 }
 
 std::shared_ptr<Msg> TestService::fireOkMsg(MsgTypeEnum respOn) {
-    return fireMsg(std::make_shared<OkMsg>(OkMsgBuilder().respOn(respOn).build()));
+    return fireMsg(OkMsgBuilder().respOn(respOn).share());
 }
 
 /// On purpose: the answer is "mask set" whatever the flag is now, as the flag itself travels in the scans.
@@ -76,7 +75,7 @@ void TestService::acceptSetMask() {
         scanner.stop();
     scanner.setMask();
     pause(MASK_TIME);
-    fireMsg(std::make_shared<MaskResultMsg>(MaskResultMsgBuilder().mask(true).build()));
+    fireMsg(MaskResultMsgBuilder().mask(true).share());
     scanner.start();
 }
 

@@ -11,6 +11,8 @@
 #include <chrono>
 #include <memory>
 
+inline namespace kelvane {
+
 /// A device inside the process: it takes the message objects that would go to a device, keeps settings, and
 /// answers its listeners.
 ///
@@ -46,3 +48,5 @@ private:
     std::shared_ptr<ConfigK7Msg> configK7;
     Scanner scanner; ///< last, so that its thread has ended before the listeners go
 };
+
+} // namespace kelvane

@@ -6,7 +6,7 @@
 #include <QtGlobal>
 
 BandAxis::BandAxis(MasterFreqModeEnum band) {
-    const FreqMode widest(MasterFreqMode(band).getMaxRangeFreqMode());
+    const FreqMode widest = MasterFreqMode(band).getWidestRange();
     const std::vector<float> freqs = widest.getFreqList()->getFreqs();
     minFreq = widest.getMinFreq();
     maxFreq = widest.getMaxFreq();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/strongest-signals.h"
 #include "msg-holder.h"
 #include "sig-type.h"
 
@@ -21,7 +22,7 @@ public:
         RssiRole,                ///< text: the level with its unit, "----dB" when blank
         TypeRole                 ///< text: the class's name on the wire, " ----" when there is none
     };
-    static constexpr int MAX_FREQS_DISPLAYED = 3;
+    static constexpr int MAX_FREQS_DISPLAYED = STRONGEST_SIGNALS_NAMED;
     static constexpr int CLEAR_AFTER_MS = 10000;
 
     explicit FreqPlotModel(QObject *parent = nullptr);

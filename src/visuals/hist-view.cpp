@@ -28,8 +28,7 @@ void HistView::setHistory(History history) {
     if (history.getMasterMode() != masterMode) {
         masterMode = history.getMasterMode();
         if (freqs.empty() && historyFreqs.empty() && masterMode != NO_BAND)
-            historyFreqs =
-                FreqMode(MasterFreqMode(masterMode).getMaxRangeFreqMode()).getFreqList()->getFreqs();
+            historyFreqs = MasterFreqMode(masterMode).getWidestRange().getFreqList()->getFreqs();
         emit freqsChanged();
     }
     if (history.getSize() == 0)

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "level-scale.h"
+
 #include <vector>
 
 /// Where levels, in dB, stand in the views, in pixels. All views have the same axis; what lies beyond its
 /// ends each shows in a way of its own.
 struct LevelAxis {
-    static constexpr int PLOT_MIN_Y = -105; ///< dB, the weak end
-    static constexpr int PLOT_MAX_Y = -75;  ///< dB, the strong end
-    static constexpr int minLevelDb = -100; ///< dB, the weak end of the persistence picture
+    static constexpr int PLOT_MIN_Y = LevelScale::SILENCE; ///< dB, the weak end
+    static constexpr int PLOT_MAX_Y = LevelScale::TOP;     ///< dB, the strong end
+    static constexpr int minLevelDb = -100;                ///< dB, the weak end of the persistence picture
 
     /// The levels that have a label and a grid line: each 5 dB, from here to the strong end.
     static std::vector<int> labels(int fromDb = PLOT_MIN_Y);

@@ -71,7 +71,7 @@ void PlotListModel::setConfig(MsgHolder msg) {
 void PlotListModel::setConfigMsg(const ConfigMsg &config) {
     Plots plots;
     for (const MasterFreqModeEnum band : Proto(config.getProto()).getMasterModes()) {
-        const FreqMode widest(MasterFreqMode(band).getMaxRangeFreqMode());
+        const FreqMode widest = MasterFreqMode(band).getWidestRange();
         const auto plan = widest.getFreqList()->getFreqs();
         plots.append(makePlot(widest.getMinFreq(), widest.getMaxFreq(), plan.at(1) - plan.at(0)));
     }

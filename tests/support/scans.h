@@ -19,11 +19,11 @@ struct Found {
 inline std::vector<std::shared_ptr<FreqScanResult>> resultsOf(const std::vector<Found> &all) {
     std::vector<std::shared_ptr<FreqScanResult>> results;
     for (const Found &found : all)
-        results.push_back(std::make_shared<FreqScanResult>(
-            FreqScanResultBuilder().freqMHz(found.freqMHz).rssi(found.rssi).type(found.type).build()));
+        results.push_back(
+            FreqScanResultBuilder().freqMHz(found.freqMHz).rssi(found.rssi).type(found.type).share());
     return results;
 }
 
 inline std::shared_ptr<ScanResultMsg> scanOf(const std::vector<Found> &all, bool mask = false) {
-    return std::make_shared<ScanResultMsg>(ScanResultMsgBuilder().freqs(resultsOf(all)).mask(mask).build());
+    return ScanResultMsgBuilder().freqs(resultsOf(all)).mask(mask).share();
 }

@@ -127,8 +127,8 @@ TEST(Utils, ListGettersNeedTheirKey) {
 
 TEST(Message, WritesWhatIsNoWholeMessage) {
     EXPECT_EQ(MsgToJsonParser::toJson(nullptr), "{}");
-    EXPECT_EQ(MsgToJsonParser::toJson(share(MsgBuilder().type(MsgTypeEnum(50)))), "");
-    EXPECT_EQ(MsgToJsonParser::toJson(share(MsgBuilder().type(MsgTypeEnum(-1)))), "");
+    EXPECT_EQ(MsgToJsonParser::toJson(MsgBuilder().type(MsgTypeEnum(50)).share()), "");
+    EXPECT_EQ(MsgToJsonParser::toJson(MsgBuilder().type(MsgTypeEnum(-1)).share()), "");
     // The application sends its requests as the base part alone.
     EXPECT_EQ(MsgToJsonParser::toJson(std::make_shared<Msg>(GetConfigMsgBuilder().build())),
               wire(R"({|"type" : "GET_CONFIG"|})"));
@@ -143,7 +143,7 @@ TEST(Message, DoesNotEscapeStrings) {
 }
 
 TEST(Message, NullPointersLeaveTheirPlaceEmpty) {
-    EXPECT_EQ(ScanResultMsgBuilder().freqs({nullptr, share(FreqScanResultBuilder())}).build().parseMsg(),
+    EXPECT_EQ(ScanResultMsgBuilder().freqs({nullptr, FreqScanResultBuilder().share()}).build().parseMsg(),
               wire(R"({|"freqs" : [|,|{||}|],|"type" : "SCAN_RESULT"|})"));
     EXPECT_EQ(
         StateMsgBuilder().stateRanges({{MM::R_1200, nullptr}, {MM::R_2400, nullptr}}).build().parseMsg(),

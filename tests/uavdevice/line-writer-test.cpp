@@ -6,10 +6,13 @@
 #include "msg/all-messages.h"
 #include "pty-device.h"
 
+#include <future>
 #include <gmock/gmock.h>
+#include <set>
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 /// The link to a detector on a line that takes bytes as the system's driver does.
 class LineThreads : public testing::Test {
@@ -69,6 +72,31 @@ TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
     EXPECT_EQ(device.received(), onTheWire({config, ask, config}));
 }
 
+TEST_F(LineThreads, SeveralSendersGetTheirRequestsAcrossWholeAndInOrder) {
+    ASSERT_TRUE(tty.openPort());
+    line.setPace(100us);
+    std::mutex mutex;
+    std::multiset<std::string> begun;
+    const auto send = [&](int sender) {
+        for (int i = 0; i < 60; ++i) {
+            const auto request = MsgToJsonParser::toJson(
+                ConfigMsgBuilder().indLedLvl(100 * sender + i).ranges({FreqModeEnum::STD_2400}).share());
+            if (tty.sendWithin(request, std::chrono::milliseconds(i % 9)) == Sent::NOTHING)
+                continue;
+            const std::lock_guard lock(mutex);
+            begun.insert(request);
+        }
+    };
+    std::vector<std::thread> senders;
+    for (int sender = 0; sender < 3; ++sender)
+        senders.emplace_back(send, sender);
+    for (std::thread &sender : senders)
+        sender.join();
+    EXPECT_TRUE(device.waitForRequests(begun.size()));
+    const auto arrived = device.requests();
+    EXPECT_EQ(std::multiset(arrived.begin(), arrived.end()), begun);
+}
+
 TEST_F(LineThreads, RoomIsWhatAWriteTakes) {
     ASSERT_TRUE(tty.openPort());
     line.hold();
@@ -102,32 +130,60 @@ TEST_F(LineThreads, TheEndGoesOnReading) {
     EXPECT_TRUE(device.waitForRequests(1));
 }
 
+TEST_F(LineThreads, NothingBeginsAtTheEnd) {
+    ASSERT_TRUE(tty.openPort());
+    line.hold();
+    EXPECT_EQ(tty.sendWithin(ask, 0ms), Sent::WHOLE);
+    std::promise<void> isEnding;
+    line.whenAsked([&, looks = 0]() mutable {
+        if (++looks == 1)
+            isEnding.set_value();
+    });
+    std::thread late([&] {
+        isEnding.get_future().wait();
+        EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED);
+        EXPECT_EQ(tty.sendWithin(ask, std::chrono::milliseconds::max()), Sent::CLOSED);
+    });
+    tty.serialClose();
+    late.join();
+}
+
 TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     PtyDevice other(directory, ProtoEnum::K6, "usb-other");
-    const auto hang = [this](const std::string &terminal) {
-        tty.setPortName(terminal);
+    const auto hang = [this] {
+        tty.setPortName(device.terminal());
         EXPECT_TRUE(tty.openPort());
         line.hold();
         EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
     };
-    const auto isNextOne = [this](const PtyDevice &next) {
+    const auto isNextOne = [this](PtyDevice &next) {
+        next.clearRecord();
         EXPECT_EQ(tty.sendWithin(ask, 60s), Sent::WHOLE);
         EXPECT_TRUE(next.waitForRequests(1));
         EXPECT_EQ(next.received(), onTheWire({ask}));
+        tty.serialClose();
     };
-    hang(device.terminal());
-    std::thread waiting(
-        [&] { EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::NOTHING) << "closing ends the wait"; });
-    tty.serialClose();
-    waiting.join();
-    EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::NOTHING) << "closed";
-    hang(device.terminal());
-    tty.setPortName(other.terminal());
-    ASSERT_TRUE(tty.openPort()) << "in place of the hung one";
+    /// Ends a line that a request waits for, which is never sent.
+    const auto endsWait = [this](auto end) {
+        std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED); });
+        std::this_thread::sleep_for(10ms); // or there is less to see
+        end();
+        waiting.join();
+    };
+    hang();
+    endsWait([this] { tty.serialClose(); });
+    hang();
+    endsWait([&] {
+        tty.setPortName(other.terminal());
+        EXPECT_TRUE(tty.openPort());
+    });
     isNextOne(other);
-    tty.serialClose();
+    hang();
+    EXPECT_TRUE(tty.openPort()) << "once more";
+    line.release();
+    isNextOne(device);
     EXPECT_EQ(line.leftToClose(), 0U) << "the system's close waits for what is under way";
-    hang(device.terminal());
+    hang();
     device.unplug();
     EXPECT_EQ(tty.sendWithin(ask, 5ms), Sent::NOTHING);
     tty.serialClose();
@@ -138,23 +194,55 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     isNextOne(device);
 }
 
-TEST_F(LineThreads, ARequestThatWasGivenUpIsReportedOnce) {
+/// The same with the connector, to which the requests of a connection go.
+class ConnectorLineThreads : public LineThreads {
+protected:
+    void connect() {
+        for (int attempt = 0; attempt < 20 && connector.isClosed(); ++attempt)
+            connector.connectInterface();
+        reports.clear();
+        device.clearRecord();
+    }
+    std::shared_ptr<Msg> scan(bool on) {
+        return connector.busyTransaction(ScanMsgBuilder().scan(on).share(), 50ms);
+    }
+
     std::vector<std::string> reports;
-    LinuxConnector connector(
-        directory.path(), [](const char *) {}, [&](const char *report) { reports.push_back(report); });
-    connector.busyTransaction(std::make_shared<GetStateMsg>(), 5ms); // not connected: nothing to report
-    for (int attempt = 0; attempt < 20 && connector.isClosed(); ++attempt)
-        connector.connectInterface();
-    reports.clear();
+    LinuxConnector connector{directory.path(), [](const char *) {},
+                             [this](const char *report) { reports.push_back(report); }};
+    const std::shared_ptr<Msg> setting = Defaults::getDefaultConfigMsg(ProtoEnum::K7);
+};
+
+TEST_F(ConnectorLineThreads, ARequestThatWasGivenUpIsReportedOnce) {
+    EXPECT_EQ(connector.busyTransaction(setting, 24h), nullptr) << "not connected";
+    EXPECT_THAT(reports, IsEmpty());
+    connect();
     line.hold();
-    const auto setting = Defaults::getDefaultConfigMsg(ProtoEnum::K7);
     EXPECT_EQ(connector.busyTransaction(setting, 20ms), nullptr);
     EXPECT_EQ(connector.busyTransaction(setting, 5ms), nullptr);
     EXPECT_THAT(reports,
                 ElementsAre(device.terminal() +
-                                ": the device took only a part of CONFIG within 20 ms: the rest is "
-                                "sent once it takes more; if that stays so, plug the device in anew",
+                                ": the device took only a part of CONFIG within 20 ms: the rest "
+                                "is sent once it takes more",
                             device.terminal() + ": the device took nothing of CONFIG within 5 ms: it was not "
-                                                "sent; if that stays so, plug the device in anew"));
+                                                "sent; if that stays so, plug the device in again"));
+    std::thread closing([this] { connector.disconnect(); });
+    EXPECT_EQ(connector.transaction(setting, 24h, {}), nullptr);
+    closing.join();
+    EXPECT_EQ(reports.size(), 2U) << "the end of the line is no refusal";
+}
+
+/// The order to stop finds the rest of a setting, and the device is busy for longer than the order waits.
+TEST_F(ConnectorLineThreads, NoDeviceScansOnAfterTheEnd) {
+    connect();
+    scan(true);
+    EXPECT_TRUE(device.waitForRequests(1) && device.isScanning());
+    line.hold();
+    EXPECT_EQ(connector.busyTransaction(setting, 5ms), nullptr);
+    EXPECT_EQ(scan(false), nullptr);
     releaseAtTheEnd();
+    connector.disconnect();
+    EXPECT_TRUE(device.waitForRequests(3));
+    EXPECT_THAT(device.requestTypes(), ElementsAre("SCAN", "CONFIG", "SCAN"));
+    EXPECT_FALSE(device.isScanning());
 }

@@ -12,6 +12,7 @@ namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 
 class LinuxConnectorThreads : public testing::Test {
 protected:
@@ -63,7 +64,7 @@ TEST_F(LinuxConnectorThreads, FindsTheDeviceBesideOthers) {
         streaming->setAnswerDelay(50ms); // so that a scan comes first
         ASSERT_TRUE(connects());
         EXPECT_EQ(connector.getPortName(), device->terminal());
-        EXPECT_THAT(device->requestTypes(), testing::Each("GET_STATE"));
+        EXPECT_THAT(device->requestTypes(), testing::AllOf(Not(IsEmpty()), testing::Each("GET_STATE")));
         connector.disconnect();
         EXPECT_TRUE(device->waitForOpen(false));
     }

@@ -30,7 +30,7 @@ protected:
     std::shared_ptr<Msg> request(const std::string &type) {
         return service.acceptMsg(Msg::parseJson(R"({"type":")" + type + R"("})"));
     }
-    std::shared_ptr<Msg> scan(bool on) { return service.acceptMsg(share(ScanMsgBuilder().scan(on))); }
+    std::shared_ptr<Msg> scan(bool on) { return service.acceptMsg(ScanMsgBuilder().scan(on).share()); }
     /// Stops the scan before it gives the pauses since the last call.
     std::vector<long> takePauses() {
         scan(false);
@@ -72,7 +72,7 @@ TEST_F(TestServiceThreads, FiresEveryAnswerAndReturnsSome) {
 
 TEST_F(TestServiceThreads, ScansAsItsSettingsSay) {
     for (const auto &[mode, period] : {std::pair(DetModeEnum::ECO, 5000), {DetModeEnum::CONT, 500}}) {
-        service.acceptMsg(share(ConfigMsgBuilder().mode(mode).ranges({FreqModeEnum::STD_2400}).atten(10)));
+        service.acceptMsg(ConfigMsgBuilder().mode(mode).ranges({FreqModeEnum::STD_2400}).atten(10).share());
         EXPECT_TRUE(scan(true) && scan(true)) << "a second start changes nothing";
         inbox.next<ScanResultMsg>();
         const auto results = inbox.next<ScanResultMsg>()->getFreqs();
@@ -86,8 +86,8 @@ TEST_F(TestServiceThreads, ScansAsItsSettingsSay) {
     // Settings change while it scans.
     scan(true);
     service.acceptMsg(
-        share(ConfigMsgBuilder().wifiDet(true).ranges(std::vector(500, FreqModeEnum::EXT_1200))));
-    service.acceptMsg(share(AiPriorMsgBuilder().aiPrior(AiPriorEnum::FIELD)));
+        ConfigMsgBuilder().wifiDet(true).ranges(std::vector(500, FreqModeEnum::EXT_1200)).share());
+    service.acceptMsg(AiPriorMsgBuilder().aiPrior(AiPriorEnum::FIELD).share());
     inbox.take();
     inbox.next<ScanResultMsg>();
     const auto results = inbox.next<ScanResultMsg>()->getFreqs();

@@ -130,7 +130,7 @@ TEST_F(RecordingThreads, ATapPassesEveryByteOnAndItsRecordingPlaysAgain) {
         }));
         EXPECT_TRUE(tty.openPort());
         tty.send(std::make_shared<GetStateMsg>());
-        tty.send(std::make_shared<ScanMsg>(ScanMsgBuilder().scan(true).build()));
+        tty.send(ScanMsgBuilder().scan(true).share());
         std::unique_lock lock(mutex);
         std::size_t end = 0;
         more.wait_for(lock, 60s, [&] {
@@ -252,7 +252,7 @@ TEST(DeviceFaultsThreads, ASweepingDeviceTakesRequestsBetweenScansAlone) {
     for (; heard.empty(); heard = inbox.take())
         std::this_thread::sleep_for(1ms);
     EXPECT_EQ(heard.front()->getType(), MsgTypeEnum::SCAN_RESULT);
-    tty.send(std::make_shared<ScanMsg>(ScanMsgBuilder().scan(false).build()));
+    tty.send(ScanMsgBuilder().scan(false).share());
     tty.serialClose();
     EXPECT_TRUE(device.waitForRequests(2)) << "also once the port is closed";
     EXPECT_FALSE(device.isScanning());

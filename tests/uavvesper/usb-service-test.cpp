@@ -62,7 +62,7 @@ protected:
     SignalRecorder recorder{&service}; // on this thread, wherever a signal is emitted
     QSignalSpy toasts{&service, &UsbService::toast};
     const std::shared_ptr<Msg> ok = std::make_shared<OkMsg>();
-    const std::shared_ptr<Msg> fail = share(FailMsgBuilder().failMsg("busy"));
+    const std::shared_ptr<Msg> fail = FailMsgBuilder().failMsg("busy").share();
 };
 
 /// The service on a directory of devices, and what it tells, noted on this thread.
@@ -144,8 +144,8 @@ TEST_F(UsbServiceThreads, AHolderIsSentOnlyToTheSlotOfItsType) {
 TEST_F(UsbServiceThreads, TheMaskIsTheDevicesAnswer) {
     for (const auto &[reply, result] : {std::pair<std::shared_ptr<Msg>, bool>(nullptr, false),
                                         {ok, false},
-                                        {share(MaskResultMsgBuilder().mask(false)), false},
-                                        {share(MaskResultMsgBuilder().mask(true)), true},
+                                        {MaskResultMsgBuilder().mask(false).share(), false},
+                                        {MaskResultMsgBuilder().mask(true).share(), true},
                                         {fail, false}}) {
         line.replies[MsgTypeEnum::SET_MASK] = reply;
         EXPECT_EQ(service.setMask(), result);
@@ -173,7 +173,7 @@ TEST_F(UsbServiceThreads, EachTypeOfMessageHasItsSignals) {
                                      {std::make_shared<ConfigMsg>(), "gotConfig"},
                                      {std::make_shared<AiPriorMsg>(), "gotAiPrior"},
                                      {std::make_shared<ConfigK7Msg>(), "gotConfigK7"},
-                                     {share(StateMsgBuilder().battLvl(87)), "gotBatteryState"},
+                                     {StateMsgBuilder().battLvl(87).share(), "gotBatteryState"},
                                      {scanOf({}), "gotScanResult gotMask"},
                                      {weak, "gotScanResult gotMask gotMaxFreqs"},
                                      {strong, "gotScanResult gotMask gotMaxFreqs"}}) {

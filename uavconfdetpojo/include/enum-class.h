@@ -7,6 +7,8 @@
 #include <type_traits>
 #include <vector>
 
+inline namespace kelvane {
+
 /// Names the class that wraps an enumeration; every enumeration of the protocol specialises it once.
 template <typename Enum>
 struct EnumClassOf;
@@ -55,3 +57,5 @@ protected:
 private:
     Enum value;
 };
+
+} // namespace kelvane

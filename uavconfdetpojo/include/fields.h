@@ -9,6 +9,8 @@ namespace json11 {
 class Json;
 }
 
+inline namespace kelvane {
+
 /// Every message and nested value lives the same life: per field a getter, a setter and a remover, a map that
 /// tells which fields are present, a builder, a reader and a writer. A class states its fields once, in wire
 /// order, one line each; the macros of macros-on.h declare the rest, and the reader and the writer are
@@ -37,3 +39,5 @@ public:
     static std::shared_ptr<Value> fromJson(const json11::Json &object);
     std::string parseMsg() const;
 };
+
+} // namespace kelvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fields.h"
+#include "level-scale.h"
 #include "sig-type.h"
 
 #include "macros-on.h"
@@ -8,7 +9,7 @@
 /// What a scan found at one frequency.
 ///
 /// - `freqMHz`: centre frequency in MHz
-/// - `rssi`: level in dB on a scale of -105 (silence) to -75; other values are carried as they come
+/// - `rssi`: level in dB, on `LevelScale`
 /// - `visible`: carried, without a use here
 /// - `type`: NONE where nothing was found
 #define FIELDS(FIELD)              \

@@ -1,20 +1,26 @@
 // Ends what macros-on.h began.
 
-#undef FIELDS
-#undef FIELD_ACCESSORS
-#undef FIELD_KEY
-#undef FIELD_VISIT
-#undef FIELDS_BODY
-#undef FIELD_BUILDER
-#undef BUILDER_BODY
-#undef NESTED_VALUE
-#undef MESSAGE
-#undef ENUMERATORS
-#undef ENUMERATOR_NAME
-#undef ENUMERATOR_NAME_
-#undef ENUMERATOR_ONE
-#undef ENUMERATOR_ROW
-#undef ENUMERATOR_ROW_
-#undef ENUMERATION_WITHOUT_ROWS
-#undef ENUMERATION
-#undef NAMES_ENUMERATION
+} // namespace kelvane
+
+#pragma pop_macro("FIELD")
+#pragma pop_macro("FIELDS")
+#pragma pop_macro("FIELD_ACCESSORS")
+#pragma pop_macro("FIELD_KEY")
+#pragma pop_macro("FIELD_VISIT")
+#pragma pop_macro("FIELDS_BODY")
+#pragma pop_macro("FIELD_BUILDER")
+#pragma pop_macro("BUILDER_BODY")
+#pragma pop_macro("NESTED_VALUE")
+#pragma pop_macro("MESSAGE")
+#pragma pop_macro("ENUMERATORS")
+#pragma pop_macro("ENUMERATOR_NAME")
+#pragma pop_macro("ENUMERATOR_NAME_")
+#pragma pop_macro("ENUMERATOR_ONE")
+#pragma pop_macro("ENUMERATOR_ROW")
+#pragma pop_macro("ENUMERATOR_ROW_")
+#pragma pop_macro("ENUMERATION_WITHOUT_ROWS")
+#pragma pop_macro("ENUMERATION")
+#pragma pop_macro("NAMES_ENUMERATION")
+#pragma pop_macro("DECLARE_CLASS")
+#pragma pop_macro("VISIT_CLASS")
+#pragma pop_macro("MAKE_ROW")

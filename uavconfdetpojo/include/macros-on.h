@@ -1,5 +1,54 @@
-// Included last by a header that declares a class of the protocol; macros-off.h ends it at the header's end,
-// so that no client sees a macro of ours. Deliberately without a guard. Macros only declare.
+// Included last by a header that declares a class of the protocol; macros-off.h ends it at the header's end:
+// the library's namespace, and its macros. So no client sees a macro of ours, and a client's own of the same
+// name is set aside meanwhile. Deliberately without a guard. Macros only declare.
+//
+// The namespace is inline: a client spells each name without it, and a Log or Utils of the client's own, in
+// another source file, is another one to the linker.
+
+#pragma push_macro("FIELD")
+#pragma push_macro("FIELDS")
+#pragma push_macro("FIELD_ACCESSORS")
+#pragma push_macro("FIELD_KEY")
+#pragma push_macro("FIELD_VISIT")
+#pragma push_macro("FIELDS_BODY")
+#pragma push_macro("FIELD_BUILDER")
+#pragma push_macro("BUILDER_BODY")
+#pragma push_macro("NESTED_VALUE")
+#pragma push_macro("MESSAGE")
+#pragma push_macro("ENUMERATORS")
+#pragma push_macro("ENUMERATOR_NAME")
+#pragma push_macro("ENUMERATOR_NAME_")
+#pragma push_macro("ENUMERATOR_ONE")
+#pragma push_macro("ENUMERATOR_ROW")
+#pragma push_macro("ENUMERATOR_ROW_")
+#pragma push_macro("ENUMERATION_WITHOUT_ROWS")
+#pragma push_macro("ENUMERATION")
+#pragma push_macro("NAMES_ENUMERATION")
+#pragma push_macro("DECLARE_CLASS")
+#pragma push_macro("VISIT_CLASS")
+#pragma push_macro("MAKE_ROW")
+#undef FIELD
+#undef FIELDS
+#undef FIELD_ACCESSORS
+#undef FIELD_KEY
+#undef FIELD_VISIT
+#undef FIELDS_BODY
+#undef FIELD_BUILDER
+#undef BUILDER_BODY
+#undef NESTED_VALUE
+#undef MESSAGE
+#undef ENUMERATORS
+#undef ENUMERATOR_NAME
+#undef ENUMERATOR_NAME_
+#undef ENUMERATOR_ONE
+#undef ENUMERATOR_ROW
+#undef ENUMERATOR_ROW_
+#undef ENUMERATION_WITHOUT_ROWS
+#undef ENUMERATION
+#undef NAMES_ENUMERATION
+#undef DECLARE_CLASS
+#undef VISIT_CLASS
+#undef MAKE_ROW
 
 // A message or nested value states its fields as FIELDS(FIELD), one FIELD(Type, key, AccessorName) a line, in
 // wire order. A type that holds a comma needs an alias.
@@ -46,18 +95,21 @@ private:                                                                        
     }
 
 // The body of the builder that holds its value in `member`: one operation per field, each returning a copy of
-// the builder, and `build()`.
-#define BUILDER_BODY(Class, member) \
-public:                             \
-    FIELDS(FIELD_BUILDER)           \
-    Class build() const {           \
-        return member;              \
-    }                               \
-                                    \
-private:                            \
-    Class &held() {                 \
-        return member;              \
-    }                               \
+// the builder, `build()`, and `share()`, which makes the value that the library's operations take.
+#define BUILDER_BODY(Class, member)             \
+public:                                         \
+    FIELDS(FIELD_BUILDER)                       \
+    Class build() const {                       \
+        return member;                          \
+    }                                           \
+    std::shared_ptr<Class> share() const {      \
+        return std::make_shared<Class>(member); \
+    }                                           \
+                                                \
+private:                                        \
+    Class &held() {                             \
+        return member;                          \
+    }                                           \
     Class member;
 
 #define NESTED_VALUE(Class, member)           \
@@ -116,3 +168,5 @@ private:                            \
     public:                                                           \
         using EnumClass::EnumClass;                                   \
     };
+
+inline namespace kelvane {

@@ -31,6 +31,7 @@ public:
     std::string getViewName() const { return record().viewName; }
     /// The widest range of the band.
     FreqModeEnum getMaxRangeFreqMode() const { return record().maxRangeFreqMode; }
+    FreqMode getWidestRange() const { return getMaxRangeFreqMode(); }
     /// The ranges of the band, standard first.
     std::vector<FreqModeEnum> getModes() const { return record().modes; }
 };

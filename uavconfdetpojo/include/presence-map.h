@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+inline namespace kelvane {
+
 /// Which keys of an object are present: one flag a key, without an allocation. `Key` is an enumeration of the
 /// keys that ends with COUNT.
 template <typename Key>
@@ -14,3 +16,5 @@ public:
 private:
     std::array<bool, static_cast<std::size_t>(Key::COUNT)> present{};
 };
+
+} // namespace kelvane

@@ -17,7 +17,7 @@
 //
 // To send, build a message and write its text to the line. A null pointer gives "{}":
 //
-//     const auto scan = std::make_shared<ScanMsg>(ScanMsgBuilder().scan(true).build());
+//     const auto scan = ScanMsgBuilder().scan(true).share();
 //     line.write(MsgToJsonParser::toJson(scan));
 //
 // Or derive your link from SerialInterfaceAdapter, which does both and matches a request with its reply.

@@ -2,6 +2,8 @@
 
 #include <locale.h>
 
+inline namespace kelvane {
+
 /// Pins the calling thread to the "C" locale while it lives: the JSON library may read and write numbers by
 /// the locale, and the wire knows the decimal point alone.
 class ClassicLocale {
@@ -20,3 +22,5 @@ private:
 
     const locale_t before;
 };
+
+} // namespace kelvane

@@ -9,20 +9,22 @@
 #include "proto.h"
 #include "sig-type.h"
 
+inline namespace kelvane {
+
 // Every table has its rows beside its enumerators. The order of these lines does not matter: no table is made
 // from another.
-const std::array<_AiPriorEnumBase, 5> AiPriorEnum_values = rowsOfAiPrior<_AiPriorEnumBase>();
-const std::array<_ConfParamTypeEnumBase, 3> ConfParamTypeEnum_values =
+const decltype(AiPriorEnum_values) AiPriorEnum_values = rowsOfAiPrior<_AiPriorEnumBase>();
+const decltype(ConfParamTypeEnum_values) ConfParamTypeEnum_values =
     rowsOfConfParamType<_ConfParamTypeEnumBase>();
-const std::array<_DetModeEnumBase, 4> DetModeEnum_values = rowsOfDetMode<_DetModeEnumBase>();
-const std::array<_EwActivateEnumBase, 2> EwActivateEnum_values = rowsOfEwActivate<_EwActivateEnumBase>();
-const std::array<_EwStateEnumBase, 4> EwStateEnum_values = rowsOfEwState<_EwStateEnumBase>();
-const std::array<_FreqModeEnumBase, 9> FreqModeEnum_values = rowsOfFreqMode<_FreqModeEnumBase>();
-const std::array<_HeadModeEnumBase, 3> HeadModeEnum_values = rowsOfHeadMode<_HeadModeEnumBase>();
-const std::array<_MasterFreqModeEnumBase, 4> MasterFreqModeEnum_values =
+const decltype(DetModeEnum_values) DetModeEnum_values = rowsOfDetMode<_DetModeEnumBase>();
+const decltype(EwActivateEnum_values) EwActivateEnum_values = rowsOfEwActivate<_EwActivateEnumBase>();
+const decltype(EwStateEnum_values) EwStateEnum_values = rowsOfEwState<_EwStateEnumBase>();
+const decltype(FreqModeEnum_values) FreqModeEnum_values = rowsOfFreqMode<_FreqModeEnumBase>();
+const decltype(HeadModeEnum_values) HeadModeEnum_values = rowsOfHeadMode<_HeadModeEnumBase>();
+const decltype(MasterFreqModeEnum_values) MasterFreqModeEnum_values =
     rowsOfMasterFreqMode<_MasterFreqModeEnumBase>();
-const std::array<_ProtoEnumBase, 4> ProtoEnum_values = rowsOfProto<_ProtoEnumBase>();
-const std::array<_SigTypeEnumBase, 6> SigTypeEnum_values = rowsOfSigType<_SigTypeEnumBase>();
+const decltype(ProtoEnum_values) ProtoEnum_values = rowsOfProto<_ProtoEnumBase>();
+const decltype(SigTypeEnum_values) SigTypeEnum_values = rowsOfSigType<_SigTypeEnumBase>();
 
 _FreqModeEnumBase::_FreqModeEnumBase(std::string wireName, int index, int minMHz, int maxMHz, int stepMHz,
                                      std::string name)
@@ -52,3 +54,5 @@ _ProtoEnumBase::_ProtoEnumBase(std::string wireName, std::string description, Ma
     if (hasAiPriors)
         aiPriors = {AiPriorEnum::DEFAULT, AiPriorEnum::FIELD, AiPriorEnum::CITY};
 }
+
+} // namespace kelvane

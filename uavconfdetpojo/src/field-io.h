@@ -18,6 +18,8 @@
 #include <type_traits>
 #include <vector>
 
+inline namespace kelvane {
+
 /// How a value of type T is read and written; the rule of each type stands here and nowhere else.
 ///
 /// `read` gives nothing where the JSON value is no T: a field then stays absent, an element is left out.
@@ -183,3 +185,5 @@ struct FieldIo<std::map<std::string, std::any>> {
             });
     }
 };
+
+} // namespace kelvane

@@ -7,6 +7,8 @@
 
 #include <string>
 
+inline namespace kelvane {
+
 /// The reader and the writer of every class of the protocol, over its fields. A source file instantiates them
 /// for each class.
 
@@ -156,3 +158,5 @@ std::string TypedMsg<Message>::parseMsg() const {
     writer.field("type", getType());
     return writer.end();
 }
+
+} // namespace kelvane

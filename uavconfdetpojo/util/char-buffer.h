@@ -2,6 +2,8 @@
 
 #include <string>
 
+inline namespace kelvane {
+
 /// Bytes of the wire, in no encoding.
 using buffer_t = std::string;
 
@@ -18,3 +20,5 @@ public:
 private:
     std::string joined;
 };
+
+} // namespace kelvane

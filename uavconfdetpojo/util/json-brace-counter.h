@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+inline namespace kelvane {
+
 /// Finds the JSON objects of a byte stream by counting braces outside of strings. Positions count the bytes
 /// since the last reset. On purpose a backslash
 /// has no meaning: the devices send no escaped quotes.
@@ -24,3 +26,5 @@ private:
     int start = -1; // of the open object; -1: none is open
     int count = 0;
 };
+
+} // namespace kelvane

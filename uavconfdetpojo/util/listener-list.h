@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+inline namespace kelvane {
+
 /// Listeners in the order of adding, each known by its shared pointer. Every operation may be called from any
 /// thread and from inside a listener. No lock is held while a listener runs; several threads may fire at
 /// once, and then run the same listener at once.
@@ -118,3 +120,5 @@ private:
     std::vector<std::shared_ptr<Listener>> listeners;
     std::vector<Round *> rounds;
 };
+
+} // namespace kelvane

@@ -3,6 +3,8 @@
 #include <functional>
 #include <string>
 
+inline namespace kelvane {
+
 /// Lines "[LEVEL] [tag] text". Any thread may log.
 class Log {
 public:
@@ -18,3 +20,5 @@ public:
     /// and flushed at once, so that lines do not mix.
     static void setSink(Sink sink);
 };
+
+} // namespace kelvane

@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+inline namespace kelvane {
+
 /// Finds the messages in a stream of bytes. It has no thread, no lock and no clock of its own: whoever calls
 /// it brings the bytes and the time.
 ///
@@ -63,3 +65,5 @@ private:
     int lastEnd = -1;                       // of the chunk's last frame; -1: none ended
     long long lastParsed;                   // ms
 };
+
+} // namespace kelvane

@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+inline namespace kelvane {
+
 /// Messages to the text that goes to the device.
 class MsgToJsonParser {
 public:
@@ -12,3 +14,5 @@ public:
     /// class that the message's type names. Only reads, so any thread may call it.
     static std::string toJson(const std::shared_ptr<Msg> &msg);
 };
+
+} // namespace kelvane

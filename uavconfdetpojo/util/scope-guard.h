@@ -2,6 +2,8 @@
 
 #include <utility>
 
+inline namespace kelvane {
+
 /// Calls a function when its scope is left, by whatever way. The function must not throw.
 template <typename Function>
 class ScopeGuard {
@@ -15,3 +17,5 @@ public:
 private:
     const Function function;
 };
+
+} // namespace kelvane

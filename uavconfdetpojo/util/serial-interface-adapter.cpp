@@ -45,15 +45,16 @@ std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> ms
         try {
             std::unique_lock lock(mutex);
             if (sent == Sent::WHOLE)
-                arrived.wait_for(lock, timeout, hasResult);
+                arrived.wait_for(lock, waitable(timeout), hasResult);
         } catch (const std::exception *e) {
             Log::error(TAG, name + " msg.wait ERROR: " + e->what());
         }
     }
     if (sent == Sent::WHOLE)
         return std::atomic_load(&result);
-    transactionGaveUp(msg, sent, timeout); // what came meanwhile answers something else
-    return nullptr;
+    if (sent != Sent::CLOSED)
+        transactionGaveUp(msg, sent, timeout);
+    return nullptr; // what came meanwhile answers something else
 }
 
 Sent SerialInterfaceAdapter::sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout) {

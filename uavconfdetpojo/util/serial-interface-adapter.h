@@ -7,6 +7,8 @@
 #include <atomic>
 #include <mutex>
 
+inline namespace kelvane {
+
 /// What all byte links share: finds the messages in the bytes, hands them to the listeners, and matches
 /// requests with replies. A link adds `sendBytes`, and a reading thread that calls `processNewData`.
 class SerialInterfaceAdapter : public virtual SerialInterface {
@@ -33,8 +35,8 @@ public:
 
     /// Called on the caller's thread, next to the reading.
     virtual void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) = 0;
-    /// As `sendBytes`, and tells what the line has taken within the time-out. A link that cannot tell has
-    /// sent all.
+    /// As `sendBytes`, and tells what the line has taken within the time-out. Transactions send by it. A link
+    /// that cannot tell has sent all.
     virtual Sent sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout);
 
     std::shared_ptr<IoLogger> getIoLogger();
@@ -70,3 +72,5 @@ private:
     MessageReader reader;
     std::shared_ptr<IoLogger> ioLogger; // never null
 };
+
+} // namespace kelvane

@@ -3,6 +3,7 @@
 #include "char-buffer.h"
 #include "msg/msg.h"
 
+#include <algorithm>
 #include <chrono>
 #include <exception>
 #include <functional>
@@ -10,13 +11,20 @@
 #include <string>
 #include <vector>
 
+inline namespace kelvane {
+
 /// Gets each message. It must throw nothing but a `const std::exception *`, which becomes an error line in
 /// the log: any other exception leaves the thread that delivers messages, and so ends the process.
 using MsgListener = std::function<void(std::shared_ptr<Msg>)>;
 using IoLogger = std::function<void(std::string)>;
 
-/// What a line has taken of a request within its time-out.
-enum class Sent { NOTHING, PART, WHOLE };
+/// What a line has taken of a request within its time-out; or it was closed, before or meanwhile.
+enum class Sent { NOTHING, PART, WHOLE, CLOSED };
+
+/// A time-out as it is waited for: no longer than a year, so that the clock can tell its end.
+inline std::chrono::milliseconds waitable(std::chrono::milliseconds timeout) {
+    return std::min<std::chrono::milliseconds>(timeout, std::chrono::hours(365 * 24));
+}
 
 /// Hears of errors that a link does not get over by itself.
 class OnErrorListener {
@@ -36,6 +44,7 @@ public:
     /// would hold up the reply.
     virtual std::shared_ptr<Msg> transaction(std::shared_ptr<Msg> msg, std::chrono::milliseconds timeout,
                                              std::vector<MsgTypeEnum> expected) = 0;
+    /// Gives no word of a request that the line has not taken within the time-out.
     virtual void send(std::shared_ptr<Msg> msg, std::chrono::milliseconds timeout) = 0;
     virtual void send(std::shared_ptr<Msg> msg) = 0;
     virtual void serialClose() = 0;
@@ -52,3 +61,5 @@ public:
     virtual void addOnErrorListener(std::shared_ptr<OnErrorListener> listener) = 0;
     virtual void removeOnErrorListener(std::shared_ptr<OnErrorListener> listener) = 0;
 };
+
+} // namespace kelvane

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+inline namespace kelvane {
+
 /// Getters over the items of a JSON object. A missing key or a value of the wrong JSON type is reported by an
 /// empty optional, never by an exception, except where said.
 class Utils {
@@ -25,3 +27,5 @@ public:
     static std::vector<int> getIntVec(const std::string &key, const json11::Json::object &items);
     static std::vector<float> getFloatVec(const std::string &key, const json11::Json::object &items);
 };
+
+} // namespace kelvane

@@ -6,6 +6,8 @@
 #include <memory>
 #include <string>
 
+inline namespace kelvane {
+
 /// What all messages have: their type. There are no virtual operations, so a message is made by
 /// `std::make_shared` of its concrete class, and a holder of a `shared_ptr<Msg>` reaches that class by
 /// `messageCast`. A message is filled by one thread and only read once others have it.
@@ -56,7 +58,10 @@ public:
         return *this;
     }
     Msg build() const { return m_msg; }
+    std::shared_ptr<Msg> share() const { return std::make_shared<Msg>(m_msg); }
 
 private:
     Msg m_msg;
 };
+
+} // namespace kelvane

@@ -1,54 +1,13 @@
 #include "msg/all-messages.h"
 #include "object-io.h"
 
+#include "macros-on.h"
+
+#include "msg/message-list.h"
+
 // The reader and the writer of each message, in one place so that no client needs the JSON library for them.
-template class TypedMsg<AiDataMsg>;
-template class TypedMsg<AiModeMsg>;
-template class TypedMsg<AiPriorMsg>;
-template class TypedMsg<ApplyExtMemoryMsg>;
-template class TypedMsg<BluetoothMacMsg>;
-template class TypedMsg<ConfigEwMsg>;
-template class TypedMsg<ConfigFreqCalibMsg>;
-template class TypedMsg<ConfigK7Msg>;
-template class TypedMsg<ConfigMsg>;
-template class TypedMsg<ConfigRangesMsg>;
-template class TypedMsg<EndFlashingMsg>;
-template class TypedMsg<EwHardwareMsg>;
-template class TypedMsg<EwOutputStatesMsg>;
-template class TypedMsg<FailMsg>;
-template class TypedMsg<FreqRangeAttenMsg>;
-template class TypedMsg<FreqsMsg>;
-template class TypedMsg<GetAiPriorMsg>;
-template class TypedMsg<GetBluetoothMacMsg>;
-template class TypedMsg<GetConfigEwMsg>;
-template class TypedMsg<GetConfigFreqCalibMsg>;
-template class TypedMsg<GetConfigK7Msg>;
-template class TypedMsg<GetConfigMsg>;
-template class TypedMsg<GetConfigRangesMsg>;
-template class TypedMsg<GetEwHardwareMsg>;
-template class TypedMsg<GetEwOutputStatesMsg>;
-template class TypedMsg<GetFreqRangeAttenMsg>;
-template class TypedMsg<GetStateK7Msg>;
-template class TypedMsg<GetStateMsg>;
-template class TypedMsg<GetVersMsg>;
-template class TypedMsg<MaskResultMsg>;
-template class TypedMsg<OkMsg>;
-template class TypedMsg<ScanMsg>;
-template class TypedMsg<ScanResultMsg>;
-template class TypedMsg<SdrDataMsg>;
-template class TypedMsg<SdrModeMsg>;
-template class TypedMsg<SetFactoryMsg>;
-template class TypedMsg<SetMaskMsg>;
-template class TypedMsg<SetMaskRangesMsg>;
-template class TypedMsg<ShutdownMsg>;
-template class TypedMsg<StartFlashing>;
-template class TypedMsg<StateK7Msg>;
-template class TypedMsg<StateMsg>;
-template class TypedMsg<SwitchEwOutputMsg>;
-template class TypedMsg<TestOutsMsg>;
-template class TypedMsg<ToAppMsg>;
-template class TypedMsg<ToBootloadMsg>;
-template class TypedMsg<UsbNodeInitMsg>;
-template class TypedMsg<VersMsg>;
-template class TypedMsg<WriteExtMemoryMsg>;
-template class TypedMsg<WriteFlashMsg>;
+#define INSTANTIATE(NAME, since, Message, Request) template class TypedMsg<Message>;
+ENUMERATORS(INSTANTIATE)
+#undef INSTANTIATE
+
+#include "macros-off.h"

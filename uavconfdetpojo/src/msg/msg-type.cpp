@@ -1,5 +1,7 @@
 #include "msg/all-messages.h"
 
+inline namespace kelvane {
+
 struct NoRequest {};
 
 namespace {
@@ -20,4 +22,13 @@ private:
 
 } // namespace
 
-const std::array<_MsgTypeEnumBase, 50> MsgTypeEnum_values = rowsOfMsgType<Rows>();
+const decltype(MsgTypeEnum_values) MsgTypeEnum_values = rowsOfMsgType<Rows>();
+
+std::optional<MsgTypeEnum> MsgType::getReplyType() const {
+    for (const MsgTypeEnum type : values())
+        if (const auto request = MsgType(type).getRequestMsg(); request && request->getType() == getValue())
+            return type;
+    return std::nullopt;
+}
+
+} // namespace kelvane

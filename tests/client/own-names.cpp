@@ -1,0 +1,18 @@
+#include <string>
+
+struct Log {
+    static void write(const std::string &tag, const std::string &msg);
+};
+void Log::write(const std::string &, const std::string &) {}
+
+struct Utils {
+    static int getObject(const std::string &text);
+};
+int Utils::getObject(const std::string &text) {
+    Log::write("", text);
+    return 42;
+}
+
+int ownNumber() {
+    return Utils::getObject("");
+}
