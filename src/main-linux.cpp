@@ -7,7 +7,7 @@
 
 int main(int argc, char **argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0); // lines of the log show at once, also in a file or a pipe
-    followDesktopScale(argc, argv);
+    followDesktop(argc, argv);
     ServiceObjects objects;
     registerTypes();
     QGuiApplication app(argc, argv);

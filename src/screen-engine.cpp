@@ -2,6 +2,7 @@
 
 #include "common/history-metatype.h"
 #include "msg-holder.h"
+#include "renderer.h"
 #include "version.h"
 #include "visuals/bar-scan-result-plot.h"
 #include "visuals/freq-plot.h"
@@ -72,7 +73,7 @@ bool isAboutWhole(const QScreen *screen) {
 
 } // namespace
 
-void followDesktopScale(int argc, char **argv) {
+void followDesktop(int argc, char **argv) {
     using Policy = Qt::HighDpiScaleFactorRoundingPolicy;
     // How to round has to be said before there is an application object, and only one tells of the screens.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::PassThrough);
@@ -80,6 +81,7 @@ void followDesktopScale(int argc, char **argv) {
     auto probe = std::make_unique<QGuiApplication>(argc, arguments.data());
     const auto screens = QGuiApplication::screens();
     const bool isRounded = std::all_of(screens.begin(), screens.end(), isAboutWhole);
+    chooseRenderer();
     probe.reset();
     if (isRounded)
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::Round);

@@ -14,9 +14,9 @@
 #include <QString>
 #include <QUrl>
 
-/// Has Qt scale windows by the very factor of the desktop and of its text, or by a whole one that is near.
-/// Before the application object, to which the arguments go on.
-void followDesktopScale(int argc, char **argv);
+/// Has Qt draw windows by what suits the desktop, and scale them by the very factor of the desktop and of its
+/// text, or by a whole one that is near. Before the application object, to which the arguments go on.
+void followDesktop(int argc, char **argv);
 
 /// Says which program this is: to the desktop, with its icon, and in the names of files. After the
 /// application object.

@@ -238,8 +238,7 @@ int main(int argc, char **argv) {
     // Without a display and without a graphics card, unless the user names another platform.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
-    followDesktopScale(argc, argv);
+    followDesktop(argc, argv);
     registerTypes();
     QGuiApplication app(argc, argv);
     if (argc != 2)

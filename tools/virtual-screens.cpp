@@ -10,7 +10,7 @@
 int main(int argc, char **argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     try {
-        followDesktopScale(argc, argv);
+        followDesktop(argc, argv);
         const SerialDirectory directory;
         ServiceObjects objects(directory.path());
         registerTypes();

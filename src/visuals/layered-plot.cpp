@@ -74,8 +74,8 @@ QSGNode *LayeredPlot::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *) {
         node->setFiltering(QSGTexture::Nearest);
     }
     QImage shown(background.size(), QImage::Format_ARGB32_Premultiplied);
-    shown.fill(Qt::transparent);
     QPainter painter(&shown);
+    painter.setCompositionMode(QPainter::CompositionMode_Source); // the layers cover all of it
     painter.scale(pixelRatio, pixelRatio);
     paint(&painter);
     painter.end();
