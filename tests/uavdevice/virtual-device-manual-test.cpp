@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <iterator>
+#include <memory>
 #include <regex>
 #include <sstream>
 
