@@ -13,7 +13,7 @@ SCREEN_PACKAGES=(
     qml-module-qtquick-templates2 qtwayland5 fonts-dejavu-core xdg-utils
 )
 TEST_PACKAGES=(locales xvfb xauth)
-CHECK_PACKAGES=(lintian man-db desktop-file-utils appstream udev xvfb xauth xdotool imagemagick)
+CHECK_PACKAGES=(mmdebstrap lintian man-db desktop-file-utils appstream udev xvfb xauth xdotool imagemagick)
 PACKAGE_PACKAGES=(dpkg-dev debhelper fakeroot librsvg2-bin)
 
 fail() {
