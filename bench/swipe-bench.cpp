@@ -8,14 +8,15 @@
 
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QPropertyAnimation>
 #include <QTest>
 #include <QTimer>
-#include <mutex>
+#include <atomic>
 
 namespace {
 
-constexpr int SWIPES = 60, FLICKS = 2;
-constexpr double FLICK_VELOCITY = 2500; // logical pixels a second
+constexpr int SWIPES = 60;
+constexpr int SCROLLING_MS = 2000;
 
 constexpr const char *EMPTY_WINDOW = "import QtQuick 2.7\n"
                                      "import QtQuick.Controls 2.0\n"
@@ -27,48 +28,28 @@ constexpr const char *EMPTY_WINDOW = "import QtQuick 2.7\n"
                                      "    }\n"
                                      "}\n";
 
-/// The frames that a window shows while something moves in it.
-class Motion {
-public:
-    explicit Motion(QQuickWindow &window) {
-        // Whichever thread shows it.
-        QObject::connect(
-            &window, &QQuickWindow::frameSwapped, &context,
-            [this] {
-                const std::lock_guard<std::mutex> lock(mutex);
-                shown.push_back(secondsOf(CLOCK_MONOTONIC));
-            },
-            Qt::DirectConnection);
-    }
-
-    template <typename Move>
-    void take(Move move) {
-        clear();
-        const double spentBefore = secondsOf(CLOCK_PROCESS_CPUTIME_ID);
-        move();
-        spent += secondsOf(CLOCK_PROCESS_CPUTIME_ID) - spentBefore;
-        const std::lock_guard<std::mutex> lock(mutex);
-        if (shown.size() < 2)
-            throw std::runtime_error("Nothing moves.");
-        seconds += shown.back() - shown.front();
-        frames += static_cast<double>(shown.size() - 1);
-    }
-
-    double secondsPerFrame() const { return seconds / frames; }
-    /// Of all threads, the virtual device included.
-    double processorPerFrame() const { return spent / frames; }
-
-private:
-    void clear() {
-        const std::lock_guard<std::mutex> lock(mutex);
-        shown.clear();
-    }
-
-    QObject context;
-    std::mutex mutex;
-    std::vector<double> shown;
-    double seconds = 0, spent = 0, frames = 0;
+/// What each frame takes that a window shows while something moves in it.
+struct FrameCost {
+    double seconds;
+    double processor; ///< seconds of all threads, the virtual device included
 };
+
+double secondsSince(double begin) {
+    return secondsOf(CLOCK_MONOTONIC) - begin;
+}
+
+/// `move` returns for how many seconds something moved.
+template <typename Move>
+FrameCost costOfFrames(const QQuickWindow &window, Move move) {
+    std::atomic<int> frames{0}; // whichever thread shows them
+    const double spentBefore = secondsOf(CLOCK_PROCESS_CPUTIME_ID);
+    const auto counting = QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { ++frames; });
+    const double seconds = move();
+    QObject::disconnect(counting);
+    if (frames == 0)
+        throw std::runtime_error("Nothing moves.");
+    return {seconds / frames, (secondsOf(CLOCK_PROCESS_CPUTIME_ID) - spentBefore) / frames};
+}
 
 class MovedScreens : Screens {
 public:
@@ -79,32 +60,38 @@ public:
         driver->resize(size);
     }
 
-    void swipe(const std::function<void(const Motion &)> &then) {
-        Motion motion(*window);
-        motion.take([this] {
-            for (int i = 0; i < SWIPES; ++i)
-                swipeOnce(i % 4 < 2 ? 60 : -60);
-        });
-        then(motion);
+    FrameCost swipe() {
+        return costOfFrames(
+            *window,
+            [this] {
+                double seconds = 0;
+                for (int i = 0; i < SWIPES; ++i)
+                    seconds += swipeOnce(i % 4 < 2 ? 60 : -60);
+                return seconds;
+            });
     }
 
-    void scroll(const std::function<void(const Motion &)> &then) {
+    FrameCost scroll() {
         click("cfg");
         driver->picture();
         auto *flickable = driver->find("QQuickFlickable", {}, driver->find("DrawerFrame"));
-        Motion motion(*window);
-        for (int i = 0; i < FLICKS; ++i)
-            motion.take([&] {
-                QMetaObject::invokeMethod(flickable, "flick", Q_ARG(qreal, 0),
-                                          Q_ARG(qreal, i % 2 ? FLICK_VELOCITY : -FLICK_VELOCITY));
-                ScreenDriver::waitFor([&] { return !flickable->property("moving").toBool(); });
-            });
-        then(motion);
+        return costOfFrames(*window, [flickable] {
+            QPropertyAnimation toEnd(flickable, "contentY");
+            toEnd.setEndValue(flickable->property("contentHeight").toDouble() - flickable->height());
+            toEnd.setDuration(SCROLLING_MS);
+            QEventLoop untilEnd;
+            QObject::connect(&toEnd, &QPropertyAnimation::finished, &untilEnd, &QEventLoop::quit);
+            const double begin = secondsOf(CLOCK_MONOTONIC);
+            toEnd.start();
+            untilEnd.exec();
+            return secondsSince(begin);
+        });
     }
 
 private:
-    /// Until another view of the last band is shown. The way is half of the gesture's, to the left.
-    void swipeOnce(int way) {
+    /// Seconds from the end of the gesture until another view of the last band is shown. The way is half of
+    /// the gesture's, to the left.
+    double swipeOnce(int way) {
         const QQuickItem *view = driver->findAll("LayeredPlot").last();
         const QPoint middle = ScreenDriver::middleOf(*view);
         QEventLoop untilShown;
@@ -116,21 +103,31 @@ private:
             });
         QTimer::singleShot(5000, &untilShown, [&] { untilShown.exit(1); });
         driver->drag(middle + QPoint(way, 0), middle - QPoint(way, 0));
+        const double begin = secondsOf(CLOCK_MONOTONIC);
         if (untilShown.exec() != 0)
             throw std::runtime_error("A band does not follow the swipe.");
+        return secondsSince(begin);
     }
 };
 
-double emptyFrameSeconds(const QSize &size) {
+FrameCost moveInEmptyWindow(const QSize &size) {
     QQmlApplicationEngine engine;
     engine.loadData(EMPTY_WINDOW);
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
     window->resize(size);
     if (!QTest::qWaitForWindowExposed(window))
         throw std::runtime_error("The empty window does not show.");
-    Motion motion(*window);
-    motion.take([] { QTest::qWait(2000); });
-    return motion.secondsPerFrame();
+    return costOfFrames(*window, [] {
+        const double begin = secondsOf(CLOCK_MONOTONIC);
+        QTest::qWait(2000);
+        return secondsSince(begin);
+    });
+}
+
+void reportFrames(const std::string &motion, const FrameCost &frame, const FrameCost &empty) {
+    report((motion + "-frames").c_str(), frame.seconds / empty.seconds, "empty windows");
+    report((motion + "-frame-time").c_str(), frame.seconds * 1e3, "ms");
+    report((motion + "-frame-processor").c_str(), frame.processor * 1e3, "ms");
 }
 
 } // namespace
@@ -141,15 +138,8 @@ int main(int argc, char **argv) {
     const QGuiApplication app(argc, argv);
     Log::setSink([](const std::string &) {}); // its lines would stand among the figures
     const QSize size = argc > 2 ? QSize(std::atoi(argv[1]), std::atoi(argv[2])) : QSize(3840, 2160);
-    const double empty = emptyFrameSeconds(size);
-    const auto reportAs = [empty](const std::string &motion) {
-        return [motion, empty](const Motion &seen) {
-            report((motion + "-frames").c_str(), seen.secondsPerFrame() / empty, "empty windows");
-            report((motion + "-frame").c_str(), seen.secondsPerFrame() * 1e3, "ms");
-            report((motion + "-processor").c_str(), seen.processorPerFrame() * 1e3, "ms");
-        };
-    };
     MovedScreens screens(size);
-    screens.swipe(reportAs("swipe"));
-    screens.scroll(reportAs("scroll"));
+    const FrameCost swipe = screens.swipe(), scroll = screens.scroll(), empty = moveInEmptyWindow(size);
+    reportFrames("swipe", swipe, empty);
+    reportFrames("scroll", scroll, empty);
 }
