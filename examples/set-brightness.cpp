@@ -1,28 +1,37 @@
 // Sets the brightness of the detector's lights, in percent, and tells what the detector has then.
 
-#include <cstdlib>
 #include <iostream>
+#include <sstream>
 #include <uavdevice.h>
 
 using namespace std::chrono_literals;
 
+void complain(const std::string &text) {
+    std::cerr << text << '\n';
+}
+
 int main(int argc, char **argv) {
-    if (argc < 2) {
-        std::cerr << "Usage: set-brightness PERCENT [DIRECTORY]\n";
+    int percent = -1;
+    if (argc < 2 || !(std::istringstream(argv[1]) >> percent) || percent < 0 || percent > 100) {
+        complain("Usage: set-brightness PERCENT [DIRECTORY]");
         return 2;
     }
-    const auto complain = [](const char *text) { std::cerr << text << '\n'; };
+    Log::setSink(complain);
     LinuxConnector detector(argc > 2 ? argv[2] : LinuxConnector::SERIAL_DIRECTORY, complain, complain);
-    if (!detector.connectInterface())
+    if (!detector.connectInterface()) {
+        complain("No detector found.");
         return 1;
-    // A message carries only the keys that are set: nothing else changes.
-    const auto answer =
-        detector.busyTransaction(ConfigMsgBuilder().indLedLvl(std::atoi(argv[1])).share(), 1s);
+    }
+    // A message carries only the keys that are set: nothing else changes. It does not scan, so each reply is
+    // that of its request.
+    const auto answer = detector.busyTransaction(ConfigMsgBuilder().indLedLvl(percent).share(), 1s);
     if (const auto fail = messageCast<FailMsg>(answer))
-        std::cerr << "Refused: " << fail->getFailMsg() << '\n';
+        complain("Refused: " + fail->getFailMsg());
     const auto readBack = detector.busyTransaction(std::make_shared<GetConfigMsg>(), 1s);
     const auto config = messageCast<ConfigMsg>(readBack);
-    if (config)
+    if (!config)
+        complain("No settings came back.");
+    else
         std::cout << "Brightness: " << config->getIndLedLvl() << " %\n";
-    return config ? 0 : 1;
+    return config && config->getIndLedLvl() == percent ? 0 : 1;
 }

@@ -1,5 +1,6 @@
-// Shows the strongest signals of each scan until Enter is pressed.
+// Shows the strongest signals of each scan until Ctrl-C.
 
+#include <csignal>
 #include <iostream>
 #include <uavdevice.h>
 
@@ -13,12 +14,20 @@ void show(const std::shared_ptr<Msg> &msg) {
 }
 
 int main(int argc, char **argv) {
-    const auto complain = [](const char *text) { std::cerr << text << '\n'; };
+    sigset_t ending; // blocked before there are threads, which inherit that
+    sigemptyset(&ending);
+    sigaddset(&ending, SIGINT);
+    sigprocmask(SIG_BLOCK, &ending, nullptr);
+    const auto complain = [](const std::string &text) { std::cerr << text << '\n'; };
+    Log::setSink(complain);
     LinuxConnector detector(argc > 1 ? argv[1] : LinuxConnector::SERIAL_DIRECTORY, complain, complain);
-    if (!detector.connectInterface())
+    if (!detector.connectInterface()) {
+        complain("No detector found.");
         return 1;
+    }
     detector.addListener(std::make_shared<MsgListener>(show));
     detector.busyTransaction(ScanMsgBuilder().scan(true).share(), 200ms);
-    std::cin.get();
+    int signal = 0;
+    sigwait(&ending, &signal);
     detector.busyTransaction(ScanMsgBuilder().scan(false).share(), 200ms);
 }

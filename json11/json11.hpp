@@ -9,6 +9,7 @@
 #include <vector>
 
 namespace json11 {
+inline namespace standin {
 
 enum JsonParse { STANDARD, COMMENTS };
 
@@ -119,4 +120,5 @@ private:
     std::shared_ptr<const Document> document;
 };
 
+} // namespace standin
 } // namespace json11

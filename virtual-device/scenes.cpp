@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr float NOISE_FLOOR = -105;  // dB
+constexpr float NOISE_FLOOR = LevelScale::SILENCE;
 constexpr int NOISE_RIPPLE = 6;      // dB
 constexpr float FALL = 6;            // dB from the middle of a source to its edge
 constexpr std::size_t APPROACH = 40; // scans until the drone is there, and as many until it has gone
@@ -62,7 +62,8 @@ ScanResults wanderingPeaks(std::size_t scan, const std::vector<FreqModeEnum> &ra
         const auto plan = list ? list->getFreqs() : std::vector<float>();
         const int peak = plan.empty() ? 0 : static_cast<int>(scan % plan.size());
         for (int i = 0; i < static_cast<int>(plan.size()); ++i) {
-            const float rssi = static_cast<float>(std::max(-105, -78 - 6 * std::abs(i - peak)));
+            const float rssi =
+                static_cast<float>(std::max<int>(LevelScale::SILENCE, -78 - 6 * std::abs(i - peak)));
             const auto type = rssi > -90 ? KINDS[kind % std::size(KINDS)] : SigTypeEnum::NONE;
             results.push_back(resultOf(plan[static_cast<std::size_t>(i)], rssi, type));
         }

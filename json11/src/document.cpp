@@ -1,6 +1,7 @@
 #include "document.h"
 
 namespace json11 {
+inline namespace standin {
 
 const Json *Json::Document::find(std::size_t first, std::size_t count, const std::string &key) const {
     constexpr std::size_t FEW = 16; // members that are looked through faster than a map is made
@@ -55,4 +56,5 @@ Json Json::Document::lent(const Json &value) {
     return copy;
 }
 
+} // namespace standin
 } // namespace json11

@@ -6,6 +6,7 @@
 #include <string_view>
 
 namespace json11 {
+inline namespace standin {
 namespace internal {
 
 template <class T>
@@ -47,4 +48,5 @@ private:
     mutable std::map<std::size_t, object> maps;
 };
 
+} // namespace standin
 } // namespace json11

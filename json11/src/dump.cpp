@@ -4,6 +4,7 @@
 #include <string_view>
 
 namespace json11 {
+inline namespace standin {
 namespace {
 
 void appendEscaped(std::string &out, const std::string &text) {
@@ -75,4 +76,5 @@ std::string Json::dump() const {
     return out;
 }
 
+} // namespace standin
 } // namespace json11

@@ -10,7 +10,9 @@
 #include <locale.h>
 #include <string_view>
 
-namespace json11::internal {
+namespace json11 {
+inline namespace standin {
+namespace internal {
 namespace {
 
 /// By JSON's grammar.
@@ -89,4 +91,6 @@ std::string withPlainNumbers(const std::string &in) {
     return out;
 }
 
-} // namespace json11::internal
+} // namespace internal
+} // namespace standin
+} // namespace json11

@@ -4,7 +4,9 @@
 #include <string>
 
 /// How numbers are read and written. Nothing here asks for the process's locale.
-namespace json11::internal {
+namespace json11 {
+inline namespace standin {
+namespace internal {
 
 /// `text` is a number by JSON's grammar.
 double toNumber(const char *text, std::size_t length);
@@ -16,4 +18,6 @@ void appendNumber(std::string &out, double value);
 /// range after all. A number beyond the range stays.
 std::string withPlainNumbers(const std::string &in);
 
-} // namespace json11::internal
+} // namespace internal
+} // namespace standin
+} // namespace json11

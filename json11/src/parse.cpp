@@ -8,6 +8,7 @@
 #include <string_view>
 
 namespace json11 {
+inline namespace standin {
 
 constexpr std::size_t MAX_DEPTH = 200;
 
@@ -114,4 +115,5 @@ Json Json::parse(const char *in, std::string &err, JsonParse strategy) {
     return parse(std::string(in), err, strategy);
 }
 
+} // namespace standin
 } // namespace json11

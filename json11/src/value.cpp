@@ -5,6 +5,7 @@
 #include <tuple>
 
 namespace json11 {
+inline namespace standin {
 
 Json::Json(std::string value)
     : Json(Document::of(std::move(value))) {}
@@ -78,4 +79,5 @@ bool Json::operator<(const Json &other) const {
     return key(*this) < key(other);
 }
 
+} // namespace standin
 } // namespace json11

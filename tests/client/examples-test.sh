@@ -23,11 +23,11 @@ wait_for() {
 }
 
 # connected FILE COMMAND...: starts an example, again where a busy machine made it miss the device's first answer, until it
-# writes a line. It reads from the pipe "keys".
+# writes a line.
 connected() {
     local tries
     for tries in {1..20}; do
-        "${@:2}" <"$work/keys" >"$1" 2>"$work/errors.txt" &
+        "${@:2}" >"$1" 2>"$work/errors.txt" &
         example=$!
         started+=($example)
         while kill -0 $example 2>/dev/null && [ ! -s "$1" ]; do
@@ -42,23 +42,26 @@ connected() {
 "$device" --link "$work/serial/usb-virtual" --scene peaks --pace 50 >"$work/device.txt" &
 started+=($!)
 wait_for 1 "$work/device.txt"
-mkfifo "$work/keys"
-exec 3<>"$work/keys"
 
 connected "$work/watch.txt" "$examples/watch-signals" "$work/serial"
 wait_for 6 "$work/watch.txt"
-echo >&3
+kill -INT $example
 wait $example || fail "watch-signals ends with an error."
 ! grep -vE '^[0-9]{4} MHz, -[0-9.]+ dB, (WIFI|DIG|FPV)$' "$work/watch.txt" || fail "Lines of another kind."
 
 connected "$work/log.txt" "$examples/log-scans" "$work/serial"
 wait_for 3 "$work/log.txt"
-kill -TERM $example
+kill -HUP $example
 wait $example || fail "log-scans ends with an error."
 ! grep -vE '^\{"ms": [0-9]{13}, "scan": \{ "freqs" : .* "type" : "SCAN_RESULT" \}\}$' "$work/log.txt" ||
     fail "Lines of another kind."
 
 # A detector that still scanned would not be found again.
+connected "$work/two.txt" bash -c '"$1" "$2" | head -n 2' bash "$examples/log-scans" "$work/serial"
+wait $example || fail "log-scans does not end when nobody reads it."
 connected "$work/set.txt" "$examples/set-brightness" 40 "$work/serial"
 wait $example || fail "set-brightness ends with an error."
 [ "$(cat "$work/set.txt")" = "Brightness: 40 %" ] || fail "It was not set."
+! "$examples/set-brightness" 101 "$work/serial" 2>"$work/errors.txt" || fail "101 % are taken."
+! "$examples/watch-signals" "$work/none" 2>"$work/errors.txt" || fail "A detector is found where none is."
+grep -qx "No detector found." "$work/errors.txt" || fail "Nothing tells that there is no detector."

@@ -13,6 +13,22 @@ int Utils::getObject(const std::string &text) {
     return 42;
 }
 
+struct Msg {
+    int number();
+};
+int Msg::number() {
+    return 0;
+}
+
+namespace json11 {
+class Json {
+public:
+    Json();
+};
+Json::Json() {}
+} // namespace json11
+
 int ownNumber() {
-    return Utils::getObject("");
+    const json11::Json json;
+    return Utils::getObject("") + Msg().number();
 }

@@ -1,13 +1,10 @@
 #pragma once
 
+#include "json11-forward.h"
 #include "presence-map.h"
 
 #include <memory>
 #include <string>
-
-namespace json11 {
-class Json;
-}
 
 inline namespace kelvane {
 

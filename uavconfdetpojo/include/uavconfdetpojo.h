@@ -2,9 +2,9 @@
 
 // The protocol of the Kelvane detectors of drone signals, as a library: what it needs to be read and spoken.
 //
-// A message is one JSON object on the line. Its key "type" names one of 50 types, and each type has a class:
-// SCAN_RESULT is a ScanResultMsg, GET_STATE a GetStateMsg. Values of a closed set are enumerations with a
-// class that knows their names on the wire: ProtoEnum::K7, Proto(ProtoEnum::K7).name(),
+// A message is one JSON object on the line. Its key "type" names a type of msg/message-list.h, and each type
+// has a class: SCAN_RESULT is a ScanResultMsg, GET_STATE a GetStateMsg. Values of a closed set are
+// enumerations with a class that knows their names on the wire: ProtoEnum::K7, Proto(ProtoEnum::K7).name(),
 // Proto::getEnumValue("K7").
 //
 // To receive, feed the bytes as they come to a MessageReader, together with the time, and take messages out

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "enum-class.h"
+#include "json11-forward.h"
 #include "proto.h"
 
 #include <array>
@@ -8,10 +9,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-
-namespace json11 {
-class Json;
-}
 
 #include "macros-on.h"
 
