@@ -57,11 +57,10 @@ TEST_F(LinuxConnectorThreads, FindsNothingWhereNothingIs) {
 /// The order of the entries is the file system's, so the device is there first once and last once.
 TEST_F(LinuxConnectorThreads, FindsTheDeviceBesideOthers) {
     for (const bool deviceFirst : {true, false}) {
-        std::optional<PtyDevice> device, streaming;
+        std::optional<PtyDevice> device, other;
         for (const bool isDevice : {deviceFirst, !deviceFirst})
-            isDevice ? device.emplace(directory) : streaming.emplace(directory, ProtoEnum::K7, "usb-other");
-        streaming->startStreaming();
-        streaming->setAnswerDelay(50ms); // so that a scan comes first
+            isDevice ? device.emplace(directory) : other.emplace(directory, ProtoEnum::K7, "usb-other");
+        other->setManner(PtyDevice::Manner::SILENT);
         ASSERT_TRUE(connects());
         EXPECT_EQ(connector.getPortName(), device->terminal());
         EXPECT_THAT(device->requestTypes(), testing::AllOf(Not(IsEmpty()), testing::Each("GET_STATE")));
@@ -78,16 +77,21 @@ TEST_F(LinuxConnectorThreads, TakesOnlyADeviceThatAnswersInTimeAndOfItsState) {
     device.setAnswerDelay(1s);
     EXPECT_TRUE(isPassedOver()) << "too late";
     EXPECT_THAT(reports, ElementsAre(testing::StartsWith(device.terminal() + ": no answer within 100 ms")));
-    device.setAnswerDelay(50ms);
-    device.startStreaming();
-    // On a busy machine its scan may come too late as well.
+    device.setManner(PtyDevice::Manner::SILENT);
     const auto isTold = [&] {
-        return reports.back().find("answered with SCAN_RESULT instead of") != std::string::npos;
+        return reports.back().find("answered with OK instead of STATE") != std::string::npos;
     };
-    for (int attempt = 0; attempt < 20 && !isTold(); ++attempt)
+    for (int attempt = 0; attempt < 20 && !isTold(); ++attempt) { // on a busy machine it may talk too late
+        std::thread talking([&] {
+            device.waitForOpen(true);
+            device.sendText("{\"type\":\"OK\"}\n");
+        });
         EXPECT_TRUE(isPassedOver()) << "talks of something else";
+        talking.join();
+    }
     EXPECT_TRUE(isTold()) << reports.back();
-    device.setScanPeriod(0ms);
+    device.setManner(PtyDevice::Manner::OBLIGING);
+    device.setAnswerDelay(50ms);
     EXPECT_TRUE(connects()) << "in half of the time that a device has";
 }
 
