@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QTimer>
+#include <cstdio>
 #include <unistd.h>
 
 namespace {
@@ -32,9 +33,9 @@ constexpr const char *EMPTY_WINDOW = "import QtQuick 2.7\n"
 void atFirstFrame(QQmlApplicationEngine &engine, const std::function<void()> &then) {
     auto *once = new QObject(&engine);
     const auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    QObject::connect(window, &QQuickWindow::frameSwapped, once, [once, then] {
+    QObject::connect(window, &QQuickWindow::frameSwapped, once, [window, once, then] {
+        QObject::disconnect(window, &QQuickWindow::frameSwapped, once, nullptr);
         then();
-        once->deleteLater();
     });
 }
 
@@ -80,5 +81,6 @@ int showNothing(int argc, char **argv) {
 } // namespace
 
 int main(int argc, char **argv) {
+    std::setvbuf(stdout, nullptr, _IOLBF, 0); // as in the program
     return argc > 1 && *argv[1] ? showProgram(argc, argv) : showNothing(argc, argv);
 }

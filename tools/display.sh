@@ -41,7 +41,8 @@ wait_for() {
 
 # start_x11 SIZE: an X server without a screen, on a free display, which DISPLAY then names.
 start_x11() {
-    start Xvfb -displayfd 3 -screen 0 "$1x24" -dpi 96 3>"$XDG_RUNTIME_DIR/display"
+    # Without -noreset it begins anew after its last client, and may break off the next one meanwhile.
+    start Xvfb -noreset -displayfd 3 -screen 0 "$1x24" -dpi 96 3>"$XDG_RUNTIME_DIR/display"
     wait_for test -s "$XDG_RUNTIME_DIR/display"
     export DISPLAY=:$(<"$XDG_RUNTIME_DIR/display")
 }
