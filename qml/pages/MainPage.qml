@@ -55,9 +55,10 @@ Rectangle {
 
         function showHistories() {
             for (var i = 0; i < historyModel.rowCount(); ++i) {
-                histViews[i].setHistory(historyModel.getHistory(i))
-                barPlots[i].setHistory(historyModel.getHistory(i))
-                freqPlots[i].setHistory(historyModel.getHistory(i))
+                var history = historyModel.getHistory(i)
+                histViews[i].setHistory(history)
+                barPlots[i].setHistory(history)
+                freqPlots[i].setHistory(history)
             }
         }
 
