@@ -11,7 +11,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// Between two tries. A driver of USB lines holds sixteen pieces, of a tenth of a millisecond to one each.
+/// Time between two tries. A driver of USB lines holds sixteen pieces. Each takes 0.1 to 1 ms to leave.
 constexpr milliseconds RETRY{1};
 
 Clock::time_point nextTry(Clock::time_point deadline) {
@@ -85,7 +85,7 @@ void LineWriter::finish(milliseconds patience, const std::string &last) {
     changed.notify_all();
 }
 
-/// Under the lock, as the next two.
+/// `mutex` is held here and in the next two.
 bool LineWriter::begin(const std::string &bytes) {
     push();
     if (!rest.empty())
@@ -110,7 +110,7 @@ bool LineWriter::push() {
     return true;
 }
 
-/// A line that has gone holds nothing: there is nobody whom it could reach.
+/// False if the line has gone: no byte can reach the device then.
 bool LineWriter::holdsUnsent(bool isToBegin) {
     push();
     int underWay = 0;

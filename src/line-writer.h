@@ -10,30 +10,34 @@
 
 inline namespace kelvane {
 
-/// Sends requests over a terminal that takes bytes in pieces, each request whole and in order.
+/// Sends requests over a terminal that takes bytes in pieces. Each request arrives whole, and they arrive in
+/// order.
 ///
-/// A request of which the line takes nothing within its time-out is not sent. One that has begun is never
-/// cut: what the line has not taken yet, the rest, stays here and leaves before anything else begins. Whoever
-/// waits here tries to send it on, and so does the reading thread.
+/// If the line takes no byte of a request within its time-out, the request is not sent. If the line has taken
+/// a part, the request is never cut. The bytes that the line has not taken yet are the rest. The rest stays
+/// here and leaves before the next request. Every thread that waits here tries to send it, and so does the
+/// reading thread.
 ///
-/// Room is what a write takes. A driver of USB lines reports none while a single piece is under way, although
-/// it would take fifteen more, so whoever waits tries a write each millisecond. Any thread may call; no lock
-/// is held while one waits, so that nobody waits longer than for its own time.
+/// Only a write shows whether the line has room. A driver of USB lines reports no room while one piece is
+/// under way, although it would take fifteen more. So a waiting thread tries a write every millisecond. Any
+/// thread may call. A waiting thread holds no lock, so no thread waits longer than its own time-out.
 class LineWriter {
 public:
-    /// `onRest` is called when a rest has come to be, under the lock of this object.
+    /// `onRest` is called when there is a new rest. The lock of this object is held meanwhile.
     explicit LineWriter(std::function<void()> onRest);
 
-    /// Sends to this terminal from now on, which must not block. There is none before, nor after `finish`.
+    /// Sends to this terminal from now on. Its descriptor must be non-blocking. There is no terminal before
+    /// the first call, nor after `finish`.
     void use(int newTerminal);
-    /// Blocks for the time-out at most. `Sent::CLOSED` without a terminal, or where it goes meanwhile.
+    /// Blocks for the time-out at most. Returns `Sent::CLOSED` if there is no terminal, or if it goes
+    /// meanwhile.
     Sent send(const std::string &bytes, std::chrono::milliseconds timeout);
     bool hasRest() const;
-    /// Sends on what the line takes now; false where it takes nothing.
+    /// Sends what the line takes of the rest now. Returns false if it takes nothing.
     bool sendRest();
-    /// Lets nothing begin any more but `last`, after what has begun before, and waits until all bytes have
-    /// left the computer; for `patience` at most. Then drops what has not, the bytes in the driver too: the
-    /// system's close would wait for them, for half a minute with a device that takes none.
+    /// Sends the rest, then `last`, and no other request any more. Waits until all bytes have left the
+    /// computer, for `patience` at most. Then drops the others, the bytes in the driver too. Otherwise the
+    /// system's close would wait for those, up to half a minute if the device takes none.
     void finish(std::chrono::milliseconds patience, const std::string &last);
 
 private:
@@ -47,9 +51,9 @@ private:
     std::condition_variable changed;
     int terminal = -1;
     bool finishing = false;
-    std::string rest;   // of the request that began last
-    unsigned begun = 0; // requests
-    unsigned lines = 0; // terminals that are done with
+    std::string rest;   // of the newest request
+    unsigned begun = 0; // number of requests
+    unsigned lines = 0; // number of terminals before
 };
 
 } // namespace kelvane

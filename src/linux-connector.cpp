@@ -56,7 +56,7 @@ bool LinuxConnector::probe(const std::string &devicePath) {
 void LinuxConnector::disconnect() {
     const auto stop = std::atomic_exchange(&unsentStop, std::shared_ptr<Msg>());
     if (test)
-        LinuxConnector::stopTesting(); // by name, as the destructor comes here too
+        LinuxConnector::stopTesting(); // not virtual, since the destructor comes here too
     else if (!isClosed())
         closeAfter(stop ? MsgToJsonParser::toJson(stop) : buffer_t());
 }

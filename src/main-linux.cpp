@@ -6,7 +6,7 @@
 #include <cstdio>
 
 int main(int argc, char **argv) {
-    std::setvbuf(stdout, nullptr, _IOLBF, 0); // lines of the log show at once, also in a file or a pipe
+    std::setvbuf(stdout, nullptr, _IOLBF, 0); // each log line is written at once, also to a file or a pipe
     followDesktop(argc, argv);
     ServiceObjects objects;
     registerTypes();

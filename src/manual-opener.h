@@ -4,9 +4,9 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
-/// Opens the documents in the program's resources: no viewer can follow an address inside this process, so
-/// the desktop is handed a copy. The copies last as long as the object, and so long Qt brings every address
-/// of the scheme "qrc" here. One at a time, on the UI thread.
+/// Opens documents that are in the program's resources. A viewer cannot read those, so the desktop gets a
+/// copy as a file. As long as this object lives, Qt passes every address of the scheme "qrc" to it, and the
+/// copies stay. At most one object at a time, on the UI thread.
 class ManualOpener : public QObject {
     Q_OBJECT
 

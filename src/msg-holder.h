@@ -6,7 +6,7 @@
 #include <memory>
 #include <utility>
 
-/// Carries a message through Qt signals and the declarative layer. Copies share the message.
+/// Carries a message through Qt signals and the documents. Copies share the message.
 class MsgHolder {
 public:
     MsgHolder() = default;
@@ -16,7 +16,7 @@ public:
     void setMsg(std::shared_ptr<Msg> message) { msg = std::move(message); } ///< No caller today.
     std::shared_ptr<Msg> getMsg() const { return msg; }
 
-    /// The held message as its own class; null if nothing or another type is held.
+    /// The message as its own class. Null if there is none or if it is of another type.
     template <typename Message>
     std::shared_ptr<Message> getAs() const {
         return messageCast<Message>(msg);

@@ -16,14 +16,14 @@ std::string adviceOnError(int error) {
     switch (error) {
     case EACCES:
     case EPERM:
-        return "permission denied: sudo adduser " + userName() + " dialout, then log in anew";
+        return "permission denied: sudo adduser " + userName() + " dialout, then log out and in again";
     case EBUSY:
         return "in use by another program: end that one, and press again";
     case EIO:
     case ENODEV:
     case ENOENT:
     case ENXIO:
-        return "the device has gone: plug it in anew";
+        return "the device has gone: plug it in again";
     case ENOTTY:
     case EINVAL:
         return "no serial line";
@@ -36,9 +36,9 @@ std::string adviceOnReply(const std::shared_ptr<Msg> &reply, std::chrono::millis
     if (!reply)
         return "no answer within " + std::to_string(timeout.count()) +
                " ms: the device is off or hung, is no detector, or another program reads the line; plug it "
-               "in anew";
+               "in again";
     return "answered with " + MsgType(reply->getType()).name() +
-           " instead of STATE: it may still be scanning; press again, or plug it in anew";
+           " instead of STATE: it may still be scanning; press again, or plug it in again";
 }
 
 std::string adviceOnRefusal(const Msg &request, Sent sent, std::chrono::milliseconds timeout) {

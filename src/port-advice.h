@@ -8,12 +8,11 @@
 
 inline namespace kelvane {
 
-/// Why a serial terminal did not become the device, or took no request, and what helps, in words for the
-/// terminal's user.
+/// Texts for the user: why a serial terminal is not the device or did not take a request, and what helps.
 
-/// It did not open, for this reason as in `errno`.
+/// The port did not open. `error` is the `errno` of the failed call.
 std::string adviceOnError(int error);
-/// Its reply within the time-out was no STATE; null for none.
+/// The reply within the time-out was not a STATE. A null `reply` means that none came.
 std::string adviceOnReply(const std::shared_ptr<Msg> &reply, std::chrono::milliseconds timeout);
 /// The line did not take all of this request within the time-out.
 std::string adviceOnRefusal(const Msg &request, Sent sent, std::chrono::milliseconds timeout);

@@ -13,10 +13,11 @@ namespace {
 
 constexpr std::array endingSignals = {SIGINT, SIGTERM, SIGHUP};
 
-// A handler may do next to nothing, so it only writes into this pair, whose other end the event loop watches.
+// A signal handler may call only a few functions. So it only writes into this pair of sockets. The event loop
+// watches the other end.
 std::array<int, 2> wakeUp = {-1, -1};
 
-/// In ms. Who asks twice in a row, or holds Ctrl-C down, still leaves the time to stop the device's scan.
+/// In ms. Even if the user presses Ctrl-C twice or holds it down, there is time to stop the device's scan.
 constexpr long long GRACE = 1000;
 
 long long nowMs() {
@@ -25,14 +26,14 @@ long long nowMs() {
     return now.tv_sec * 1000LL + now.tv_nsec / 1000000;
 }
 
-std::atomic<long long> firstMs{0}; // 0: nobody has asked yet
+std::atomic<long long> firstMs{0}; // 0: no signal yet
 
 void wake(int number) {
-    const int interrupted = errno; // another thread may be about to look at it
+    const int interrupted = errno; // the interrupted code may be about to read it
     long long first = 0;
     const long long now = nowMs();
     if (!firstMs.compare_exchange_strong(first, now)) {
-        // A terminal that closes may hang up more than once.
+        // A terminal that closes may send SIGHUP more than once.
         if (number != SIGHUP && now - first >= GRACE) {
             std::signal(number, SIG_DFL);
             ::raise(number); // ends the process when this handler returns
@@ -54,11 +55,11 @@ int openWakeUp() {
 ProcessSignals::ProcessSignals()
     : notifier(openWakeUp(), QSocketNotifier::Read) {
     QObject::connect(&notifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
-    // What the process was started to ignore (nohup, a script's background job) stays ignored.
+    // A signal that was ignored at the start (nohup, a script's background job) stays ignored.
     for (const int number : endingSignals)
         if (std::signal(number, wake) == SIG_IGN)
             std::signal(number, SIG_IGN);
-    std::signal(SIGPIPE, SIG_IGN); // who reads the log may go, the connection stays
+    std::signal(SIGPIPE, SIG_IGN); // the reader of the log may end, the connection stays
 }
 
 ProcessSignals::~ProcessSignals() {

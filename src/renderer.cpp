@@ -11,8 +11,8 @@
 
 namespace {
 
-/// Of a screen, up to which a band is swiped and a drawer scrolls at 55 frames a second or more on two cores
-/// without a graphics card: 5120 x 2880 and somewhat more.
+/// The largest screen, in pixels, that needs no graphics card: 5120 x 2880 and somewhat more. Up to this size
+/// swipes and scrolling reach 55 frames a second on two cores.
 constexpr qint64 MOST_PIXELS = 16'000'000;
 
 bool isHuge(const QScreen *screen) {
@@ -20,7 +20,7 @@ bool isHuge(const QScreen *screen) {
     return pixels.width() * pixels.height() > MOST_PIXELS;
 }
 
-/// The name of what OpenGL draws with; empty where it does not work.
+/// The name of OpenGL's renderer; empty if OpenGL does not work.
 QByteArray openGLRenderer() {
     QOpenGLContext context;
     QOffscreenSurface surface;
@@ -40,7 +40,8 @@ bool isGraphicsCard(const QByteArray &openGL) {
                                              [&](const QByteArray &name) { return openGL.contains(name); });
 }
 
-/// Whether the user has named a renderer or the way to OpenGL. An empty name stands for Qt's own choice.
+/// Whether the user's environment names a renderer or a way to OpenGL. An empty QT_XCB_GL_INTEGRATION means
+/// Qt's own choice.
 bool isChosenByUser() {
     const char *const names[] = {"QT_QUICK_BACKEND", "QMLSCENE_DEVICE", "QSG_RHI", "QSG_RHI_BACKEND"};
     if (std::any_of(std::begin(names), std::end(names), qEnvironmentVariableIsSet))
@@ -49,7 +50,7 @@ bool isChosenByUser() {
            qgetenv("QT_XCB_GL_INTEGRATION") != "none" && QGuiApplication::platformName() == "xcb";
 }
 
-/// Whether what the user has named ends in OpenGL.
+/// Whether the renderer that the user names uses OpenGL.
 bool isOpenGLWanted() {
     const QByteArray backend = qgetenv("QT_QUICK_BACKEND") + qgetenv("QMLSCENE_DEVICE");
     const QByteArray api = qgetenv("QSG_RHI_BACKEND");
@@ -59,9 +60,9 @@ bool isOpenGLWanted() {
 
 } // namespace
 
-/// Without OpenGL, unless the user says otherwise: a picture that changes twice a second then costs a quarter
-/// of the processor time and two fifths of the memory, swipes as smoothly, and needs no driver. Only a huge
-/// screen is left to a graphics card.
+/// Draws without OpenGL, unless the user's environment asks for it. A picture that changes twice a second
+/// then costs a quarter of the processor time and two fifths of the memory. Swipes are as smooth, and no
+/// driver is needed. Only a huge screen uses a graphics card.
 void chooseRenderer() {
     if (isChosenByUser()) {
         const QString platform = QGuiApplication::platformName();

@@ -24,8 +24,8 @@
 
 namespace {
 
-/// Tells a window whether the user's last gesture was one of the keyboard, also where a control takes the
-/// event.
+/// Sets the window's property `isKeyboardUsed`: whether the user's last gesture came from the keyboard. It
+/// also sees events that a control takes.
 class LastGesture : public QObject {
 public:
     using QObject::QObject;
@@ -44,10 +44,10 @@ public:
     }
 };
 
-/// Qt waits 5 ms after a change before it draws, so that changes come together. Those of a scan come in one
-/// go. Qt asks the environment for the time once, when the first window is to be drawn again. Here this is
-/// one that never shows, while there is no thread that draws; then the environment is the user's again, which
-/// the viewers that the program starts inherit.
+/// Qt waits 5 ms after a change before it draws, to draw several changes at once. All changes of a scan come
+/// together, so 3 ms are enough. Qt reads this time once from the environment, when a first window asks to be
+/// drawn again. Here that is a window that never shows, and no other thread runs yet that draws. Then the
+/// variable is removed, so that the viewers that the program starts do not inherit it.
 void drawSoon() {
     constexpr const char *variable = "QT_QPA_UPDATE_IDLE_TIME";
     if (qEnvironmentVariableIsSet(variable))
@@ -59,8 +59,9 @@ void drawSoon() {
     qunsetenv(variable);
 }
 
-/// Whether the desktop's text asks for a whole factor but for a twentieth: a display tells its resolution by
-/// its size in whole millimetres, so that 96 dpi read as 96.1, and screens that are made up have 100.
+/// Whether the scale of the desktop's text differs from a whole number by less than 0.05. Such a difference
+/// is no wish of the user: displays give their size in whole millimetres, so 96 dpi can read as 96.1, and
+/// virtual screens have 100.
 bool isAboutWhole(const QScreen *screen) {
     const double factor = screen->logicalDotsPerInch() / 96;
     return qAbs(factor - qRound(factor)) < 0.05;
@@ -70,7 +71,8 @@ bool isAboutWhole(const QScreen *screen) {
 
 void followDesktop(int argc, char **argv) {
     using Policy = Qt::HighDpiScaleFactorRoundingPolicy;
-    // How to round has to be said before there is an application object, and only one tells of the screens.
+    // The rounding must be set before there is an application object, but only an application object knows
+    // the screens. So a first one is made to ask it.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::PassThrough);
     std::vector<char *> arguments(argv, argv + argc + 1);
     auto probe = std::make_unique<QGuiApplication>(argc, arguments.data());
@@ -81,7 +83,7 @@ void followDesktop(int argc, char **argv) {
     if (isRounded)
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::Round);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
-    // Words have their places in pixels, so a larger text of the desktop enlarges the window as a whole.
+    // The places of texts are given in pixels. So a larger text of the desktop enlarges the whole window.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
 }
 
@@ -133,8 +135,8 @@ void ScreenEngine::load(const QUrl &document) {
                 QCoreApplication::exit(-1);
         },
         Qt::QueuedConnection);
-    // The translation lies in the working directory of a user who reads Russian and nowhere else; without it
-    // the screens keep their source texts. A null suffix stands for Qt's own, an empty one would be none.
+    // The translation is in the working directory if the user reads Russian. Without it the screens keep
+    // their source texts. A null suffix means Qt's own; an empty one would mean none.
     static auto *const translator = new QTranslator; // in use until the process ends
     translator->load("UavVesper-ru", ".", QString(), QString());
     QCoreApplication::installTranslator(translator);

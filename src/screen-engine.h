@@ -14,36 +14,38 @@
 #include <QString>
 #include <QUrl>
 
-/// Has Qt draw windows by what suits the desktop, and scale them by the very factor of the desktop and of its
-/// text, or by a whole one that is near. Before the application object, to which the arguments go on.
+/// Chooses the renderer, and how Qt scales windows. The scale is that of the desktop times that of its text.
+/// A scale near a whole number is rounded. Call it before the application object is made; that one gets the
+/// same arguments afterwards.
 void followDesktop(int argc, char **argv);
 
-/// Says which program this is: to the desktop, with its icon, and in the names of files. After the
-/// application object.
+/// Sets the program's names and its icon, for the desktop and for folders. Call it after the application
+/// object is made.
 void introduceProgram();
 
-/// Tells Qt of the elements that the documents import and of the values that cross threads and documents.
-/// Once for each process, before the first engine.
+/// Registers the elements that the documents import, and the values that cross threads and documents. Call it
+/// once in a process, before the first engine.
 void registerTypes();
 
-/// The size for a window that asks for one, so that it has room in the free area of its screen with its frame
-/// around it; not below its minimum. In logical pixels.
+/// The size for a window that asks for `asked`. With its frame the window fits into the free area of its
+/// screen. The size is never below the minimum. In logical pixels.
 QSize fittingSize(const QSize &asked, const QSize &minimum, const QSize &freeArea, const QMargins &frame);
 
-/// The documents and all that they name: the engine, the settings front-ends and the history model. Lives on
-/// the UI thread, and ends before the application object. When the event loop ends, the connection does.
+/// The documents and the objects that they use: the engine, the settings front-ends and the history model. It
+/// lives on the UI thread and ends before the application object. It ends the connection when the event loop
+/// ends.
 class ScreenEngine {
 public:
     explicit ScreenEngine(ServiceObjects &objects);
-    /// The documents end first: they go on reading what they name.
+    /// The documents end first, because they use the other objects to the end.
     ~ScreenEngine();
     ScreenEngine(const ScreenEngine &) = delete;
     ScreenEngine &operator=(const ScreenEngine &) = delete;
 
     /// Shows the root document. If it can't be created, the event loop ends with -1 on its next turn.
     void load(const QUrl &document = QUrl("qrc:/qml/MainLinuxWindow.qml"));
-    /// Makes the window smaller where its screen has less room than the document asks for. Not on platforms
-    /// without a display, whose screens are made up.
+    /// Makes the window smaller if its screen has less room than the document asks for. Does nothing on
+    /// platforms without a display, since their screens are not real.
     void fitToScreen();
 
     QQmlApplicationEngine &qmlEngine() { return engine; }

@@ -10,7 +10,7 @@
 
 inline namespace kelvane {
 
-/// Finds the device, owns the link to it and puts one request at a time on that link.
+/// Finds the device, owns the link to it and sends one request at a time over that link.
 class SerialInterfaceConnector {
 public:
     virtual ~SerialInterfaceConnector() = default;
@@ -22,15 +22,17 @@ public:
     virtual void startTesting() = 0;
     virtual void stopTesting() = 0;
     virtual bool isTesting() = 0;
-    /// Listeners run on the thread that delivers messages; one that waits for a reply there waits in vain.
+    /// Listeners run on the thread that delivers messages. A listener must not wait for a reply: none can
+    /// arrive meanwhile.
     virtual void addListener(std::shared_ptr<MsgListener> listener) = 0;
     virtual void removeListener(std::shared_ptr<MsgListener> listener) = 0;
-    /// One request and a message that comes within the time-out, whatever it answers; null without one.
+    /// Sends a request. Returns a message that comes within the time-out, also if it answers something else.
+    /// Null if none comes.
     virtual std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg,
                                                    std::chrono::milliseconds timeout) = 0;
 
-    /// `simpleTransaction` for callers on any thread: a second caller sends its request only when the first
-    /// has its reply or its time-out, however long that takes.
+    /// `simpleTransaction` for callers on any thread. A second caller waits until the first one has its reply
+    /// or its time-out. Only then does its own time-out begin.
     std::shared_ptr<Msg> busyTransaction(const std::shared_ptr<Msg> &msg, std::chrono::milliseconds timeout) {
         const std::lock_guard lock(busyMutex);
         busy = true;
@@ -38,11 +40,11 @@ public:
         return simpleTransaction(msg, timeout);
     }
 
-    /// A transaction is under way. No caller today.
+    /// True during a transaction. No caller today.
     bool isBusy() const { return busy; }
 
 private:
-    std::mutex busyMutex; ///< held for the length of a whole transaction
+    std::mutex busyMutex; ///< held during a whole transaction
     std::atomic<bool> busy{false};
 };
 

@@ -6,15 +6,15 @@
 #include "visuals/ranges-list-model.h"
 #include "visuals/theme-data.h"
 
-/// What the screens see of the device and of the window, in order of construction. None of it needs the
-/// application object, which it outlives.
+/// The objects through which the screens see the device and the window, in order of construction. They need
+/// no application object, and live longer than it.
 struct ServiceObjects {
-    /// On the serial devices of this system.
+    /// Searches the serial devices of this system.
     ServiceObjects() = default;
-    /// On the serial devices that have a link in this directory.
+    /// Searches the serial devices that have a link in this directory.
     explicit ServiceObjects(const std::filesystem::path &serialDirectory)
         : usbService(nullptr, serialDirectory) {}
-    /// On what this connector finds.
+    /// Uses this connector.
     explicit ServiceObjects(std::unique_ptr<SerialInterfaceConnector> connector)
         : usbService(std::move(connector)) {}
 

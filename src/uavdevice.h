@@ -1,7 +1,7 @@
 #pragma once
 
-// Finds a Kelvane detector of drone signals on a serial line of this Linux computer and talks to it, from any
-// program. The messages themselves are those of the library beside this one: uavconfdetpojo.h tells of them.
+// This library finds a Kelvane detector of drone signals on a serial line of this Linux computer and talks to
+// it. The messages are those of the library uavconfdetpojo; its header uavconfdetpojo.h explains them.
 //
 //     LinuxConnector detector;
 //     detector.addListener(std::make_shared<MsgListener>([](const std::shared_ptr<Msg> &msg) { ... }));
@@ -9,50 +9,54 @@
 //         detector.busyTransaction(ScanMsgBuilder().scan(true).share(), std::chrono::milliseconds(200));
 //
 // Finding. connectInterface() opens one serial device after the other and asks for its state. It returns true
-// with the first that answers, and that line stays open; or false after the last. Nothing repeats by itself:
-// call it again for a detector that is plugged in later, not while one is connected. What was tried and why
-// it was not taken are lines for the two callbacks of the constructor. The user needs the right to open the
-// line, by the group dialout or a rule of the system. A line is for one connector: a second one, or another
-// program, takes bytes away from the first. For two detectors, give each connector a folder with one link.
+// with the first one that answers, and keeps that line open. It returns false after the last one. Nothing
+// repeats by itself: call it again for a detector that is plugged in later. Do not call it while one is
+// connected. The two callbacks of the constructor get a line for each device that was not taken, with the
+// reason. The user needs the right to open the line, by the group dialout or by a rule of the system. Use one
+// connector for a line: a second one, or another program, takes bytes away from the first. For two detectors,
+// give each connector a folder with one link.
 //
-// Talking. The detector says nothing by itself until it is told to scan (SCAN with scan on); then it sends a
-// SCAN_RESULT after each of its sweeps. busyTransaction() sends a request and returns the first message that
-// comes, whatever it answers, for the line has nothing that ties a reply to its request. While the detector
-// scans, that may be a scan; so take what you want to know from a listener, which gets every message.
-// MsgType(type).getReplyType() tells what a request makes the detector send. A setting is sent as a message
-// with those keys alone that are to change. Tell it to stop (SCAN with scan off) before you leave: it scans
-// on otherwise, and the next search may miss it.
+// Talking. The detector sends nothing by itself until it gets SCAN with scan on. Then it sends a SCAN_RESULT
+// after each sweep. busyTransaction() sends a request and returns the first message that comes, whatever that
+// message is. Nothing on the line connects a reply with its request, so while the detector scans, the first
+// message may be a scan. A listener gets every message: use one for what you want to know.
+// MsgType(type).getReplyType() is the type of message with which the detector answers a request. To change a
+// setting, send a message with only the keys that change. Stop the scan (SCAN with scan off) before you
+// leave. Otherwise the detector goes on scanning, and the next search may miss it.
 //
-// Which call blocks, and for how long. connectInterface(): up to 0.1 s for each serial device that does not
-// answer, and half a second more for one that takes no bytes. busyTransaction(): up to its time-out for the
-// line to take the request, then up to the same time for the reply; a request that the line did not take in
-// time gives null at once, and a second caller waits for the first. send(): up to its time-out, 2 s unless
-// given. removeListener(): as long as that listener runs on another thread. disconnect() and the destructor:
-// up to half a second where the detector has not taken all bytes yet, and as long as a listener takes. All
-// others return at once.
+// Which call blocks, and how long:
+// - connectInterface(): up to 0.1 s for each serial device that does not answer, and 0.5 s more for one that
+//   takes no bytes.
+// - busyTransaction(): up to its time-out until the line has taken the request, then up to the same time for
+//   the reply. If the line does not take the request in time, the call returns null then. A second caller
+//   waits for the first.
+// - send(): up to its time-out, which is 2 s if you give none.
+// - removeListener(): while that listener runs on another thread.
+// - disconnect() and the destructor: up to 0.5 s if the detector has not taken all bytes yet, and while a
+//   listener runs.
+// - All others return at once.
 //
 // Threads. Listeners run on the link's reading thread, one message after the other. A listener may add and
-// remove listeners, itself too, and send() without waiting for a reply. It must not call anything else of the
-// connector, must not wait, since this very thread would have to bring what it waits for, and must not throw:
-// what leaves a listener ends the process. Other threads may make every call. Once removeListener() has
-// returned on another thread, the listener is not running and will not run again; so remove it before what it
-// refers to goes.
+// remove listeners, itself too, and call send(). It must not make other calls of the connector. It must not
+// wait for a reply, because the same thread would have to read it. It must not throw: an exception that
+// leaves a listener ends the process. Other threads may make every call. When removeListener() has returned
+// on another thread, the listener does not run and will not run again. So remove a listener before the
+// objects go that it uses.
 //
-// Who ends what. disconnect(), or the end of the connector, lets what is unsent leave, ends the reading
-// thread and closes the line. A request on another thread keeps its time-out. Nothing else has to be ended.
+// The end. disconnect() and the destructor send the unsent bytes, end the reading thread and close the line.
+// A request on another thread ends after its time-out. Nothing else needs to be ended.
 //
-// A detector that is pulled out shows only in what does not come: isClosed() stays false and requests end in
-// their time-outs. A program that has to notice asks for the state now and then, disconnects when no reply
-// comes, and searches again.
+// An unplugged detector is not reported: isClosed() stays false, and requests end in their time-outs. To
+// notice it, ask for the state now and then. If no reply comes, disconnect and search again.
 //
-// What is printed. Lines of the log go to standard output, or where Log::setSink sends them. Why a port did
-// not open, and what the simulated detector does, goes to standard output in any case.
+// What is printed. Lines of the log go to standard output, or to the function that is given to Log::setSink.
+// Two kinds of lines always go to standard output: why a port did not open, and what the simulator does.
 //
-// Without hardware: startTesting() puts a simulated detector in the line's place for busyTransaction(),
-// inside the process. It differs: it returns null for what it tells its listeners alone, does not heed the
-// time-out, and runs listeners on the caller's thread or on that of its scan, which ends no sooner than its
-// pause, up to 5 s. isClosed() stays true. The program uav-vesper-device plays a detector on a line of its
-// own, with faults and recordings.
+// Without hardware. startTesting() starts the simulator inside the process, and busyTransaction() then talks
+// to it. Differences: it returns null for requests that it answers through the listeners only. It ignores the
+// time-out. It runs listeners on the caller's thread or on the thread of its scan. To stop the scan takes
+// until the end of its pause, up to 5 s. isClosed() stays true. The virtual detector, the program
+// uav-vesper-device, plays a detector on a line of its own, with faults and recordings.
 
 #include "common/defaults.h"
 #include "common/history.h"

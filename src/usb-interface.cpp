@@ -66,7 +66,7 @@ bool UsbInterface::init() {
 
 bool UsbInterface::openDevice() {
     if (closed)
-        stopReading(); // the thread of the device before, which ends by itself
+        stopReading(); // waits for the thread of the former device
     {
         const std::lock_guard lock(devhMutex);
         devh = cx ? libusb_open_device_with_vid_pid(cx, VENDOR_ID, PRODUCT_ID) : nullptr;
@@ -140,7 +140,7 @@ int UsbInterface::transfer(unsigned char endpoint, buffer_t &block, int &actual,
 
 void UsbInterface::serialClose() {
     closed = true;
-    const std::lock_guard lock(devhMutex); // a running transfer ends first, in its time-out
+    const std::lock_guard lock(devhMutex); // waits for a running transfer, until its time-out at most
     if (devh)
         libusb_close(devh);
     devh = nullptr;

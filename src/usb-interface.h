@@ -10,9 +10,10 @@
 
 inline namespace kelvane {
 
-/// The link to a device by bulk transfers, past the system's serial driver. No caller today.
+/// A link to a device that uses USB bulk transfers instead of the system's serial driver. No caller today.
 ///
-/// Calls go in the order `init`, `openDevice`, `startReading`; all but the transfers belong to one thread.
+/// Call `init`, `openDevice` and `startReading` in this order. All calls but the transfers belong to one
+/// thread.
 class UsbInterface : public SerialInterfaceAdapter {
 public:
     UsbInterface() = default;
@@ -23,20 +24,20 @@ public:
     std::string getName() override { return "USB"; }
 
     bool init();
-    /// Opens the first device of our kind and takes its interfaces from the kernel's driver.
+    /// Opens the first Kelvane device and takes its interfaces from the kernel's driver.
     bool openDevice();
     void startReading();
-    /// Waits for the reading thread, which ends when the link is closed.
+    /// Waits for the reading thread. That one ends when the link is closed.
     void stopReading();
     void showDebugInfo() {}
     void serialClose() override;
-    /// On purpose: true while a device is open, the reverse of its name, which no caller depends on.
+    /// On purpose: true while a device is open, so the reverse of its name. No caller depends on it.
     bool isClosed() override;
-    /// Throws std::runtime_error when a block of at most 512 bytes does not get through whole.
+    /// Sends blocks of at most 512 bytes. Throws std::runtime_error if a block is not sent completely.
     void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override;
     /// The body of the reading thread.
     void listenUsb();
-    /// Prints what a code of libusb means.
+    /// Prints the meaning of a libusb code.
     void printResult(int code);
 
 private:
@@ -44,14 +45,14 @@ private:
 
     bool claimInterfaces();
     bool readBlock();
-    /// One bulk transfer; a code of libusb, and in `actual` the bytes moved, which may be some in spite of an
-    /// error.
+    /// Makes one bulk transfer. Returns a libusb code. `actual` is the number of bytes moved; an error does
+    /// not mean that it is 0.
     int transfer(unsigned char endpoint, buffer_t &block, int &actual, unsigned int timeoutMs);
 
     std::atomic<bool> closed{true};
     libusb_context *cx = nullptr;
     libusb_device_handle *devh = nullptr;
-    /// Shared by running transfers; exclusive where `devh` comes or goes.
+    /// Held shared by running transfers, and exclusively to change `devh`.
     std::shared_mutex devhMutex;
     JoiningThread readingThread;
 };

@@ -16,46 +16,46 @@
 #include <functional>
 #include <memory>
 
-/// The one object through which the screens talk to the device: starts and ends the connection, sends
-/// requests, and turns every message that the device volunteers into a signal.
+/// The one object through which the screens talk to the device. It starts and ends the connection and sends
+/// requests. It turns the messages of the device into signals.
 ///
-/// Lives on the UI thread. A slot blocks it for up to the time-outs of its requests. Signals are emitted on
-/// the thread that brings the message: the connector thread, the link's reading thread and the simulator's
-/// scanner thread reach the screens by queued delivery. What is emitted on the UI thread itself, such as the
-/// simulator's answers to its requests, is delivered directly, inside the call.
+/// Lives on the UI thread. A slot blocks that thread, at most for the time-outs of its requests. Signals are
+/// emitted on the thread that brings the message. From the connector thread, the link's reading thread and
+/// the simulator's scanner thread they are queued to the screens. Signals that the UI thread emits itself are
+/// delivered directly, inside the call. The simulator's answers are such signals.
 class UsbService : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isUsbActive READ isUsbActive NOTIFY usbStateChanged)
     Q_PROPERTY(bool inTesting READ inTesting NOTIFY testingChanged)
 
 public:
-    /// Reply time of a mask or factory setting. On purpose: far shorter than the others, as these hold up the
-    /// screens, and what a slower device answers still arrives through `acceptMsg`.
+    /// Time-out of the mask and of each factory setting. On purpose: far shorter than the others, because
+    /// these requests hold up the screens. A later answer still arrives through `acceptMsg`.
     static constexpr std::chrono::milliseconds TIMEOUT{5};
-    /// The signals named in `gotMaxFreqs`.
+    /// The greatest number of signals in `gotMaxFreqs`.
     static constexpr int MAX_FREQS_DISPLAYED = STRONGEST_SIGNALS_NAMED;
-    /// In dB; a signal must exceed it to be named.
+    /// In dB. Signals in `gotMaxFreqs` are above this level.
     static constexpr int MIN_FREQ_DISPLAYED = LevelScale::SILENCE;
 
-    /// On the serial devices of this system.
+    /// Searches the serial devices of this system.
     explicit UsbService(QObject *parent = nullptr);
-    /// On the serial devices that have a link in this directory.
+    /// Searches the serial devices that have a link in this directory.
     UsbService(QObject *parent, const std::filesystem::path &serialDirectory);
     explicit UsbService(std::unique_ptr<SerialInterfaceConnector> connector, QObject *parent = nullptr);
     ~UsbService() override;
 
-    /// The connection is up and its first requests were made.
+    /// True while there is a connection whose first requests were made.
     bool isUsbActive() const { return usbActive; }
-    /// The simulator plays the device.
+    /// True in test mode, with the simulator as the device.
     bool inTesting() const { return connector->isTesting(); }
-    /// No connection is ready for requests. No caller today.
+    /// True while no connection is ready for requests. No caller today.
     bool isBusy() const { return busy; }
 
-    /// Takes a message from the device, on the thread that delivers messages.
+    /// Accepts a message from the device. Runs on the thread that delivers messages.
     void acceptMsg(const std::shared_ptr<Msg> &msg);
 
-    /// Waits for a running connection attempt and ends what it brought about, so that no device is left
-    /// scanning. For the end of the program; on the UI thread.
+    /// Waits for a running connection attempt and ends the connection, so that the device does not go on
+    /// scanning. For the end of the program, on the UI thread.
     void shutDown();
 
 signals:
@@ -69,12 +69,13 @@ signals:
     void gotMask(bool mask);
     void gotAiPrior(MsgHolder aiPrior);
     void gotConfigK7(MsgHolder configK7);
-    /// At most `MAX_FREQS_DISPLAYED` of the scan's signals, the strongest first.
+    /// At most `MAX_FREQS_DISPLAYED` signals of the scan, the strongest first.
     void gotMaxFreqs(MsgHolder scanResult);
     void toast(QString msg);
 
 public slots:
-    /// Looks for a device on a thread of its own, once; waits for an attempt that still runs.
+    /// Ends a connection, then searches once for a device on a thread of its own. Waits before that for an
+    /// attempt that still runs.
     void startUsb();
     void startTesting();
     void disconnect();
@@ -84,13 +85,13 @@ public slots:
     void sendGetConfigK7();
     void startScan();
     void stopScan();
-    /// These send the held message if it is one of their type, and otherwise nothing.
+    /// These three send the message in the holder if it is of their type. Otherwise they do nothing.
     void sendConfig(MsgHolder holder);
     void sendAiPrior(MsgHolder holder);
     void sendConfigK7(MsgHolder holder);
-    /// The device's answer, false without one.
+    /// Returns the device's answer, or false if none comes in time.
     bool setMask();
-    /// Sends the factory settings of a generation (a `ProtoEnum` as int) and reads them back.
+    /// Sends the factory settings of a generation and reads them back. `proto` is a `ProtoEnum` as int.
     void resetToDefaults(int proto);
 
 private:
@@ -101,10 +102,10 @@ private:
     void acceptScanResult(const std::shared_ptr<ScanResultMsg> &scan);
 
     std::unique_ptr<SerialInterfaceConnector> connector;
-    /// The thread of the last connection attempt; touched by the UI thread alone.
+    /// The thread of the last connection attempt. Only the UI thread uses this member.
     JoiningThread connectorThread;
     std::atomic<bool> usbActive{false};
     std::atomic<bool> busy{true};
-    /// The identity under which the service subscribes to the connector.
+    /// Calls `acceptMsg`. The same pointer is added to the connector and removed again.
     std::shared_ptr<std::function<void(std::shared_ptr<Msg>)>> msgListener;
 };

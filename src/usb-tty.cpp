@@ -13,9 +13,10 @@
 
 namespace {
 
-/// In ms, while a rest waits for room, which the line may have without telling.
+/// In ms, between two tries to send the rest. The line may have room without reporting it.
 constexpr int REST_WAIT = 5;
-/// What unsent bytes get to leave at the end: a sweep, in which a device takes none, is shorter.
+/// The time that unsent bytes have to leave at the end. A device takes none during a sweep, which is shorter
+/// than this.
 constexpr std::chrono::milliseconds END_PATIENCE{500};
 
 } // namespace
@@ -40,8 +41,9 @@ bool UsbTty::failed(const char *operation) {
     return false;
 }
 
-/// Bytes come unchanged and one read waits at most a second for them. On purpose: other than in raw mode
-/// signals stay on, and a line feed leaves as carriage return and line feed, which the devices expect.
+/// Bytes arrive unchanged, and a read waits a second for them at most. On purpose, two settings differ from
+/// raw mode: signals stay on, and a line feed is sent as carriage return and line feed. The devices expect
+/// that.
 bool UsbTty::setUpLine(int descriptor) {
     termios settings;
     if (tcgetattr(descriptor, &settings) != 0)
@@ -85,10 +87,11 @@ bool UsbTty::openPort() {
         port = opened;
     } else {
         writer.finish(END_PATIENCE, {});
-        // Under the same number, since the reading thread may be about to use it.
+        // The new port gets the number of the old one, because the reading thread may be about to use that
+        // number.
         dup3(opened, port, O_CLOEXEC);
         ::close(opened);
-        eventfd_write(news, 1); // it waits for the former one's bytes
+        eventfd_write(news, 1); // the reading thread still waits on the old port
     }
     writer.use(port);
     closed = false;
@@ -97,12 +100,13 @@ bool UsbTty::openPort() {
 }
 
 void UsbTty::startReading() {
-    const std::unique_lock lock(lifecycle, std::try_to_lock); // a listener must not wait for who closes
+    // A listener must not wait for a thread that closes.
+    const std::unique_lock lock(lifecycle, std::try_to_lock);
     if (lock && !readingThread.isStarted() && !closed)
         readingThread.start([this] { readUntil(closed, [this] { return readBlock(); }); });
 }
 
-/// False where it came back at once and nothing has happened.
+/// False if it returned at once and nothing was read or sent.
 bool UsbTty::readBlock() {
     const bool hasRest = writer.hasRest();
     const short line = hasRest ? POLLIN | POLLOUT : POLLIN;
@@ -115,8 +119,8 @@ bool UsbTty::readBlock() {
         return ready == 0 || isNews || hasSent;
     buffer_t bytes(buffer_size, '\0');
     const ssize_t count = ::read(port, bytes.data(), bytes.size());
-    // On purpose: errno counts whatever the read gave, and nothing clears it, so that on a thread that was
-    // once interrupted bytes are dropped until another call fails.
+    // On purpose: errno is checked also after a successful read, and nothing clears it. So after one
+    // interrupted call this thread drops bytes until another call fails with another error.
     if (errno != EINTR && count > 0) {
         bytes.resize(static_cast<std::size_t>(count));
         processNewData(std::move(bytes));

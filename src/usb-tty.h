@@ -13,10 +13,9 @@ inline namespace kelvane {
 
 /// The link to a device on a serial terminal.
 ///
-/// Everything but the listeners may be called from any thread; a listener, which runs on the reading thread,
-/// must neither open nor close the link. The line is the program's alone: what it starts does not inherit it,
-/// and it never becomes the terminal that signals the process. Failures are reported by a false result and a
-/// line on standard output.
+/// Any thread may call. Only a listener, which runs on the reading thread, must neither open nor close the
+/// link. Processes that the program starts do not inherit the port, and the port never becomes the
+/// controlling terminal. A failure is a false result and a line on standard output.
 class UsbTty : public SerialInterfaceAdapter {
 public:
     UsbTty();
@@ -26,36 +25,36 @@ public:
     UsbTty(const UsbTty &) = delete;
     UsbTty &operator=(const UsbTty &) = delete;
 
-    /// The path of the terminal; a change shows at the next `openPort`.
+    /// The path of the terminal. A new one is used by the next `openPort`.
     void setPortName(std::string name);
     std::string getPortName() const;
     /// No caller today.
     std::string getName() override { return "UsbTTY"; }
 
-    /// Opens the port, sets the line up for the device and starts reading. The speed stays as it is. An open
-    /// port is replaced, once its unsent bytes had the time that `serialClose` gives them.
+    /// Opens the port, sets the line up for the device and starts reading. The speed stays as it is. A port
+    /// that is already open is replaced; its unsent bytes first get the same time as in `serialClose`.
     bool openPort();
-    /// Starts the reading thread of an open link where none is. Does nothing while another thread opens the
-    /// link or closes it.
+    /// Starts the reading thread if the link is open and has none. Does nothing while another thread opens or
+    /// closes the link.
     void startReading();
-    /// Gives unsent bytes up to half a second to leave, while reading goes on, then ends all waiting on the
-    /// line, drops what is left and returns when the reading thread has ended. At once where nothing is
-    /// unsent and no listener is at work. On purpose: a broken object stays in the buffer and meets what
-    /// comes from the port that is opened next.
+    /// Gives unsent bytes up to half a second to leave, while reading goes on. Then drops the others, ends
+    /// every wait on the line, and returns when the reading thread has ended. Returns at once if no byte is
+    /// unsent and no listener runs. On purpose: an incomplete object stays in the buffer. The bytes of the
+    /// port that is opened next are added to it.
     void serialClose() override { closeAfter({}); }
     bool isClosed() override { return closed; }
-    /// Blocks for the time-out at most; `sendWithin` tells what the line has taken by then.
+    /// Blocks for the time-out at most. `sendWithin` returns whether the line has taken all by then.
     void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) override { sendWithin(bytes, timeout); }
-    /// A request that has begun leaves as a whole, before any other, as long as the port is open; the reading
-    /// thread sends on what is left.
+    /// If the line has taken a part of a request, the reading thread sends the rest, before any other
+    /// request, as long as the port is open.
     Sent sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout) override {
         return writer.send(bytes, timeout);
     }
 
 protected:
-    /// As `serialClose`, and this is the last request, which leaves after what is unsent.
+    /// Like `serialClose`, but sends `last` as the last request after the unsent bytes.
     void closeAfter(const buffer_t &last);
-    /// What kept the last `openPort` from opening, as in `errno`; 0 where nothing did.
+    /// The `errno` with which the last `openPort` failed; 0 if it did not.
     int openError() const { return lastOpenError; }
 
 private:
@@ -69,17 +68,19 @@ private:
     mutable std::mutex nameMutex; ///< guards `portName`; held for nothing else
     std::string portName;
 
-    /// Serialises opening and closing, and guards `readingThread`. Held while the reading thread is joined,
-    /// so that thread never waits for it. Recursive, as opening starts the reading.
+    /// Held during all of opening and closing; guards `readingThread`. It is also held while the reading
+    /// thread is joined, so that thread must never wait for it. Recursive, because `openPort` calls
+    /// `startReading`.
     std::recursive_mutex lifecycle;
     JoiningThread readingThread;
     std::atomic<int> lastOpenError{0};
-    /// An event that wakes the reading thread: the link is being closed, or there is a rest to send on.
+    /// An event that wakes the reading thread: the link is being closed or its port replaced, or there is a
+    /// rest to send.
     const int news;
     std::atomic<int> port{-1}; ///< -1 while closed; only changed under `lifecycle`
     std::atomic<bool> closed{true};
-    /// Has the port from its opening until it is about to be closed or replaced, so that no write lands on a
-    /// descriptor that was handed out again.
+    /// Uses the port from its opening until just before it is closed or replaced. So no write reaches another
+    /// file that got the same descriptor.
     LineWriter writer;
 };
 

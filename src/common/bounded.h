@@ -4,11 +4,11 @@
 
 inline namespace kelvane {
 
-/// A level in dB or a frequency in MHz as a device may send it, kept so far inside the range of an int that a
-/// cast is defined and pixels can be reckoned from it. No real value comes near the bounds.
+/// Limits a level in dB or a frequency in MHz to a million up and down. A device may send any number; within
+/// the limits a cast to int is defined and pixels can be calculated. No real value comes near them.
 inline float bounded(float value) {
     constexpr float LIMIT = 1e6f;
-    return value > -LIMIT ? std::min(value, LIMIT) : -LIMIT; // what is no number takes the lower bound
+    return value > -LIMIT ? std::min(value, LIMIT) : -LIMIT; // NaN gives the lower bound
 }
 
 } // namespace kelvane

@@ -38,7 +38,7 @@ std::shared_ptr<AiPriorMsg> Defaults::getDefaultAiPriorMsg() {
 }
 
 std::shared_ptr<ConfigK7Msg> Defaults::getDefaultConfigK7Msg() {
-    // On purpose: the voice level is none of those that the screens offer, and so none shows as chosen.
+    // On purpose: the screens do not offer this voice level, so they show no level as chosen.
     return ConfigK7MsgBuilder()
         .voiceEn(true)
         .dispLvl(50)

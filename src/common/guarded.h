@@ -5,12 +5,12 @@
 #include <QMetaObject>
 #include <exception>
 
-/// An object of class `Object` as the screens may call it. Qt's declarative engine cannot carry a C++
-/// exception: one that a method or setter throws ends that call here, with an error line, instead of the
-/// process. C++ callers go past this boundary and see the exception.
+/// An object of class `Object` that the screens may call. Qt's declarative engine cannot carry a C++
+/// exception. This class catches what a method or a setter throws, and logs an error line. The call ends, the
+/// process goes on. C++ callers call `Object` directly and see the exception.
 ///
-/// The engine reads properties and runs the overrides of models without passing here, so those must not
-/// throw.
+/// The engine reads properties and calls the overrides of models by another way, which nothing guards. Those
+/// must not throw.
 template <typename Object>
 class Guarded : public Object {
 public:
@@ -24,6 +24,6 @@ public:
         } catch (...) {
             Log::error(this->metaObject()->className(), "unknown exception");
         }
-        return -1; // handled: no class further down is to look for the call
+        return -1; // handled: no derived class looks for the call
     }
 };

@@ -7,8 +7,8 @@
 #include <QVariantMap>
 #include <vector>
 
-/// The histories of the device's frequency bands, one row per band in the order of its protocol generation.
-/// Divides each scan by band. Empty until the first CONFIG. Lives on the UI thread.
+/// The histories of the device's bands, one row for each band in the order of the generation. The model
+/// divides each scan by band. It is empty until the first CONFIG. It lives on the UI thread.
 class HistoryListModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -21,20 +21,20 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// Lays out the bands anew with empty histories; messages of another type are ignored.
-    /// On purpose: each CONFIG does, also one of the same generation. The screens start anew with what the
-    /// device now says it scans.
+    /// Replaces all rows: one empty history for each band of the generation. Messages of another type are
+    /// ignored. On purpose: a CONFIG of the same generation also empties the histories. The screens then show
+    /// only what the device scans now.
     Q_INVOKABLE void setConfig(MsgHolder holder);
-    /// Files a scan. A result goes to every band whose widest range holds it, limits included. Messages of
-    /// another type and scans without results are ignored.
-    /// On purpose: a band without results is given an empty scan, so that its views do not go on showing a
-    /// scan that is over.
+    /// Adds a scan. A result goes to every band whose widest sweep range contains it, limits included.
+    /// Messages of another type and scans without results are ignored.
+    /// On purpose: a band without results gets an empty scan. Its views would otherwise go on showing an old
+    /// one.
     Q_INVOKABLE void acceptScanResult(MsgHolder holder);
-    /// A copy; throws std::out_of_range for a row that is none.
+    /// Returns a copy. Throws std::out_of_range for a row that does not exist.
     Q_INVOKABLE History getHistory(int row) const;
-    /// What a row has to tell in words: "band", its name in GHz, and of the strongest signal of known class
-    /// in its newest scan "freq" in MHz, "rssi" in dB and "type", where there is one. Throws as getHistory()
-    /// does.
+    /// The newest scan of a row in words. "band" is the band's name in GHz. "freq" in MHz, "rssi" in dB and
+    /// "type" describe its strongest signal of a known class; they are missing where there is none. Throws
+    /// like getHistory().
     Q_INVOKABLE QVariantMap getNewest(int row) const;
 
 signals:

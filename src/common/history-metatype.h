@@ -4,5 +4,5 @@
 
 #include <QMetaType>
 
-// Histories pass through the declarative layer as values.
+// The documents pass histories on as values.
 Q_DECLARE_METATYPE(History)

@@ -34,8 +34,8 @@ void History::correctionHistoryFreqs(const Scan &mmResult) {
 }
 
 void History::addToHistoryLevels(const Scan &mmResult, std::int64_t nowMs) {
-    // On purpose, though `correctionHistoryFreqs` leaves nothing to it: a row that fits no column is not
-    // filed.
+    // On purpose, a second check: a row whose length differs from the number of columns is not added. It
+    // never fails here, because `correctionHistoryFreqs` has just made the two equal.
     if (historyFreqs.size() != mmResult.size()) {
         Log::info("History", "Skip add to history! mmResult.size():" + std::to_string(mmResult.size()) +
                                  " historyFreqs.length:" + std::to_string(historyFreqs.size()));
@@ -49,7 +49,7 @@ void History::addToHistoryLevels(const Scan &mmResult, std::int64_t nowMs) {
 }
 
 void History::trimToHistoryLen() {
-    // On purpose: a negative length becomes a huge size here, which never trims.
+    // On purpose: a negative length becomes a huge number here, so nothing is trimmed.
     const auto maxRows = static_cast<std::uint64_t>(historyLen);
     const std::uint64_t rows = historyLevels.size();
     if (rows > maxRows)

@@ -11,9 +11,9 @@
 
 inline namespace kelvane {
 
-/// The last scans of one frequency band: a matrix of one row per scan, oldest first, by one column per
-/// frequency, and the results of the newest scan as they came. A plain value for the UI thread: each view
-/// gets a copy, and only the results of the newest scan, which nobody changes, are shared.
+/// The last scans of one band. The matrix has one row for each scan, oldest first, and one column for each
+/// frequency. The results of the newest scan are kept as they came. A history is a value for the UI thread,
+/// and each view gets a copy. The copies share only the results of the newest scan, which nobody changes.
 class History {
 public:
     using Scan = std::vector<std::shared_ptr<FreqScanResult>>;
@@ -35,7 +35,7 @@ public:
     void setHistoryLen(int newLen);
 
     MasterFreqModeEnum getMasterMode() const { return masterMode; }
-    /// The band alone changes; what was recorded stays. No caller today.
+    /// Changes the band alone; the scans stay. No caller today.
     void setMasterMode(MasterFreqModeEnum newMode) { masterMode = newMode; }
 
     /// The number of rows.
@@ -49,10 +49,11 @@ public:
     /// Forgets the rows; the columns and the newest scan stay. No caller today.
     void clear() { historyLevels.clear(); }
 
-    /// Adds a row and drops the oldest beyond the length; `nowMs` is the time of the scan. On purpose:
-    /// columns are told apart by their count alone, as a device changes its frequencies only with its ranges.
-    /// A scan of another length starts new columns with this one row; a scan of the same length over other
-    /// frequencies is filed under the old ones.
+    /// Adds a row and drops the oldest ones beyond the length. `nowMs` is the time of the scan. A scan with
+    /// another number of results starts new columns, with this one row.
+    /// On purpose: only the number of results is compared, not the frequencies. A device changes its
+    /// frequencies only when its ranges change. A scan with as many results at other frequencies goes under
+    /// the old columns.
     void acceptScan(Scan mmResult, std::int64_t nowMs = Uptime::getMs());
 
 private:

@@ -5,8 +5,8 @@
 
 inline namespace kelvane {
 
-/// A thread that is waited for, at the latest where its owner ends; the owner sees to it that the body comes
-/// to an end. One thread at a time uses it, never the body.
+/// A thread that its owner waits for, at the latest in the owner's destructor. The owner makes sure that the
+/// body ends. Calls must not overlap, and the body must not call.
 class JoiningThread {
 public:
     JoiningThread() = default;
@@ -14,17 +14,17 @@ public:
     JoiningThread(const JoiningThread &) = delete;
     JoiningThread &operator=(const JoiningThread &) = delete;
 
-    /// Waits for the last body before it starts this one.
+    /// Waits for the body before, then starts this one.
     template <typename Body>
     void start(Body body) {
         finish();
         thread = std::thread(std::move(body));
     }
-    /// A body was started and not waited for yet; it may have ended by itself.
+    /// True when a body was started and nobody has waited for it yet. It may have ended by itself.
     bool isStarted() const { return thread.joinable(); }
-    /// Waits for the body. Throws std::system_error where none was started since the last wait.
+    /// Waits for the body. Throws std::system_error if none was started since the last wait.
     void join() { thread.join(); }
-    /// Waits for the body where one was started.
+    /// Waits for the body if one was started.
     void finish() {
         if (isStarted())
             join();

@@ -40,8 +40,8 @@ SensLevelEnum SensLevel::next() const {
 }
 
 SensLevelEnum SensLevel::byAtten(int atten) {
-    // On purpose: UNKNOWN has the attenuation of HIGH, as which it is read, since the search begins behind
-    // it.
+    // On purpose: UNKNOWN and HIGH have the same attenuation. The search begins after UNKNOWN, so that
+    // attenuation is read as HIGH.
     const auto found = std::find(sens_attens.begin() + 1, sens_attens.end(), atten);
     return found != sens_attens.end() ? static_cast<SensLevelEnum>(found - sens_attens.begin())
                                       : SensLevelEnum::UNKNOWN;

@@ -5,27 +5,27 @@
 
 inline namespace kelvane {
 
-/// A step of the detector's sensitivity, as a user chooses it.
+/// The sensitivity of the detector, as a user chooses it.
 enum class _SensLevelEnum : int { UNKNOWN, LOW, MIDDLE, HIGH };
 using SensLevelEnum = _SensLevelEnum;
 
-/// Ties the sensitivity steps to the attenuation that the device is set to: the higher the one, the lower the
-/// other.
+/// Converts between the sensitivity and the attenuation that the device is set to. A higher sensitivity is a
+/// lower attenuation.
 class SensLevel {
 public:
     explicit SensLevel(SensLevelEnum level)
         : sens(level) {}
 
     int ordinal() const { return static_cast<int>(sens); }
-    /// The name for the user; "???" outside the table, as for `UNKNOWN`.
+    /// The name for the user; "???" for `UNKNOWN` and outside the table.
     std::string getEnumName() const;
     /// The word in Russian. No caller today.
     std::string getViewName() const;
     /// The attenuation in the device's steps. Throws std::out_of_range outside the table.
     int getAtten() const;
-    /// The step that follows, from the highest on to the lowest; never `UNKNOWN`.
+    /// The next higher sensitivity; after the highest the lowest. Never `UNKNOWN`.
     SensLevelEnum next() const;
-    /// `UNKNOWN` for an attenuation that belongs to no step.
+    /// `UNKNOWN` for an attenuation that is not in the table.
     static SensLevelEnum byAtten(int atten);
 
 private:

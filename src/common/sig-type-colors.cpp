@@ -2,7 +2,7 @@
 
 QColor SigTypeColors::getColor(SigTypeEnum type) {
     switch (type) {
-    // On purpose: one colour for both. Neither tells signals apart.
+    // On purpose: one colour for both. Neither names a single class of signal.
     case SigTypeEnum::NONE:
     case SigTypeEnum::ALL:
         return QColor::fromRgba(0xff93cddd);

@@ -15,8 +15,9 @@ strongestSignals(const std::vector<std::shared_ptr<FreqScanResult>> &scan, std::
         const auto weaker = std::find_if(strongest.begin(), strongest.end(), [&](const auto &listed) {
             return result->getRssi() > listed->getRssi();
         });
-        // On purpose: a signal that is stronger than none of the list is not appended, even where there is
-        // room, so that of a run of falling signals, the slope of one transmitter, only the first is named.
+        // On purpose: a signal that is not stronger than one in the list is not appended, even if there is
+        // room. Neighbouring frequencies with falling levels are often the slope of one transmitter; only the
+        // first of them is named.
         if (weaker != strongest.end() || strongest.empty())
             strongest.insert(weaker, result);
         if (strongest.size() > maxCount)

@@ -8,11 +8,12 @@
 
 inline namespace kelvane {
 
-/// How many signals of a scan the screens name.
+/// The number of signals of a scan that the screens name.
 constexpr int STRONGEST_SIGNALS_NAMED = 3;
 
-/// The signals to name of a scan, the strongest first: at most `maxCount` of those that have a class and
-/// exceed `floor`, in dB. Of equal levels the one that came first is the stronger.
+/// The signals of a scan to name, strongest first. They have a class and a level above `floor`, in dB. There
+/// are at most `maxCount`. Of two equal levels the first one counts as stronger. Not all signals that fit are
+/// in the list: see the source.
 std::vector<std::shared_ptr<FreqScanResult>>
 strongestSignals(const std::vector<std::shared_ptr<FreqScanResult>> &scan, std::size_t maxCount, float floor);
 

@@ -8,10 +8,10 @@
 #include <cstdint>
 #include <vector>
 
-/// Holds the user's choice among the AI modes of the device's generation and sends it. Lives on the UI
-/// thread.
+/// The settings front-end of the AI mode: holds the user's choice among the AI modes of the generation and
+/// sends it. Lives on the UI thread.
 ///
-/// An empty list of modes, which only K1 has, reads as `NONE`, and nothing is sent for it.
+/// Only K1 has no AI modes. The chosen mode is then `NONE`, and nothing is sent.
 class AiPriorHandler : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString shortName READ shortName NOTIFY aiChanged)
@@ -25,21 +25,21 @@ public:
     QString shortName() const;
 
     int getProto() const { return static_cast<int>(proto); }
-    /// A generation other than the one in use brings its own modes and chooses the first. Throws
-    /// std::out_of_range for a number that is no generation.
+    /// Sets the generation. Another one than before brings its own modes, and the first of them is chosen.
+    /// Throws std::out_of_range for a number that is no generation.
     void setProto(int value);
 
     /// Chooses the next mode without sending.
     Q_INVOKABLE void nextAiPrior();
-    /// Chooses a mode by its wire name and sends; an unknown name does nothing. On purpose: a mode that the
-    /// generation does not have leaves the choice alone, which is sent all the same.
+    /// Chooses a mode by its wire name and sends it. An unknown name does nothing. On purpose: if the
+    /// generation does not have the mode, the former choice stays and is sent again.
     Q_INVOKABLE void setAiPrior(QString aiPrior);
     /// The wire name of the chosen mode.
     Q_INVOKABLE QString enumAiPrior() const;
 
 public slots:
-    /// Has the screens read the choice again when the device tells its mode. On purpose: the choice is the
-    /// user's, and the mode that the device tells does not move it.
+    /// Makes the screens read the choice again when the device sends its mode. On purpose: the mode of the
+    /// device does not change the choice, which is the user's.
     void accept(MsgHolder holder);
 
 signals:
@@ -55,6 +55,7 @@ private:
 
     ProtoEnum proto = ProtoEnum::K1;
     std::uint8_t vecPos = 0;
-    /// Until a generation is known there is one entry, so that a first K1 finds it in use and keeps it.
+    /// One entry until another generation than K1 is set. A first CONFIG of a K1 changes nothing, so this
+    /// entry stays.
     std::vector<AiPriorEnum> aiPriros{AiPriorEnum::NONE};
 };

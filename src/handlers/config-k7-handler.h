@@ -17,8 +17,8 @@
     PLAIN(int, btPowerDbm, BtPowerDbm)   \
     PLAIN(int, voiceDbLvl, VoiceDbLvl)
 
-/// Mirrors the CONFIG_K7 of devices from generation K7 on, as `ConfigMsgHandler` does the CONFIG of all:
-/// receiving never causes sending. Lives on the UI thread.
+/// The settings front-end of CONFIG_K7, which devices from generation K7 on have. It mirrors that message as
+/// `ConfigMsgHandler` mirrors CONFIG: receiving never causes sending. Lives on the UI thread.
 class ConfigK7Handler : public QObject {
     Q_OBJECT
     CONFIG_K7_PROPERTIES(MIRRORED_PROPERTY)
@@ -26,23 +26,24 @@ class ConfigK7Handler : public QObject {
 public:
     explicit ConfigK7Handler(QObject *parent = nullptr);
 
-    /// Setters store and emit nothing; they throw std::out_of_range for a number that is no enumerator.
+    /// Setters store the value and emit nothing. They throw std::out_of_range for a number that is no
+    /// enumerator.
     CONFIG_K7_PROPERTIES(MIRRORED_ACCESSORS)
 
-    /// Sets the mode of the headset jack by its wire name and sends; an unknown name does nothing.
+    /// Sets the mode of the headset jack by its wire name and sends it. An unknown name does nothing.
     Q_INVOKABLE void setMode(QString mode);
     /// The wire name of the mode of the headset jack.
     Q_INVOKABLE QString enumMode() const;
 
 public slots:
-    /// Takes over a CONFIG_K7 and emits every Notify signal; ignores other messages.
+    /// Copies a CONFIG_K7 and emits every Notify signal. Ignores other messages.
     void accept(MsgHolder holder);
 
 signals:
-    /// The user has edited something. On purpose: sent always, also before the device has told its settings;
-    /// on generations without them the controls are out of reach.
+    /// The user has edited something. On purpose: the message is always sent, also before the first
+    /// CONFIG_K7. Generations without these settings do not show the controls.
     void changed();
-    /// To be sent. The holder shares the live settings.
+    /// A message to send. The holder shares the settings of this object, no copy.
     void gotMsg(MsgHolder msg);
     CONFIG_K7_PROPERTIES(MIRRORED_SIGNAL)
     void stringModeChanged(); ///< No caller today.

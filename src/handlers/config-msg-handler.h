@@ -8,7 +8,7 @@
 #include <QObject>
 #include <memory>
 
-/// The fields of CONFIG. Those under OWN have a setter that does more than store.
+/// The fields of CONFIG. The setter of a PLAIN field only stores; that of an OWN field does more.
 #define CONFIG_PROPERTIES(PLAIN, OWN)    \
     PLAIN(int, proto, Proto)             \
     PLAIN(bool, indLed, IndLed)          \
@@ -26,10 +26,11 @@
     PLAIN(QString, md5Serial, Md5Serial) \
     OWN(int, atten, Atten)
 
-/// Mirrors the device's CONFIG for the screens and sends the user's edits. Enumerators are ints here.
+/// The settings front-end of CONFIG: mirrors the device's settings for the screens and sends the user's
+/// edits. Enumerators are ints here.
 ///
-/// Receiving never causes sending: `accept` and the setters do not emit `changed`, and only `changed`, which
-/// stands for a gesture of the user, leads to `gotMsg`. Plain setters emit nothing. Lives on the UI thread.
+/// Receiving never causes sending. Only `changed` leads to `gotMsg`. `changed` means a gesture of the user;
+/// `accept` and the setters do not emit it. Plain setters emit nothing. Lives on the UI thread.
 class ConfigMsgHandler : public QObject {
     Q_OBJECT
     CONFIG_PROPERTIES(MIRRORED_PROPERTY, MIRRORED_PROPERTY)
@@ -42,31 +43,31 @@ public:
     explicit ConfigMsgHandler(QObject *parent = nullptr);
 
     /// Setters throw std::out_of_range for a number that is no enumerator. An empty list of ranges is
-    /// ignored: a device always has one.
+    /// ignored, because a device always has at least one range.
     CONFIG_PROPERTIES(MIRRORED_ACCESSORS, MIRRORED_ACCESSORS)
 
-    /// The device's generation has the settings of CONFIG_K7.
+    /// True if the generation has the settings of CONFIG_K7.
     bool hasK7Settings() const { return msg->getProto() >= MsgType(MsgTypeEnum::CONFIG_K7).getSinceProto(); }
     /// The display name of the detection mode. No caller today.
     QString stringMode() const;
-    /// The name of the sensitivity step.
+    /// The name of the sensitivity.
     QString getSens() const;
 
-    /// Steps the sensitivity without sending.
+    /// Chooses the next sensitivity without sending it.
     Q_INVOKABLE void nextSens();
-    /// Sets the detection mode by its wire name and sends; an unknown name does nothing.
+    /// Sets the detection mode by its wire name and sends it. An unknown name does nothing.
     Q_INVOKABLE void setStringMode(QString mode);
     /// The wire name of the detection mode.
     Q_INVOKABLE QString enumMode() const;
 
 public slots:
-    /// Takes over a CONFIG and emits every Notify signal; ignores other messages.
+    /// Copies a CONFIG and emits every Notify signal. Ignores other messages.
     void accept(MsgHolder holder);
 
 signals:
-    /// The user has edited something. Nothing is sent before the device has told its ranges.
+    /// The user has edited something. Nothing is sent before the first CONFIG with ranges.
     void changed();
-    /// To be sent. The holder shares the live settings.
+    /// A message to send. The holder shares the settings of this object, no copy.
     void gotMsg(MsgHolder msg);
     void accepted(); ///< No caller today.
     CONFIG_PROPERTIES(MIRRORED_SIGNAL, MIRRORED_SIGNAL)

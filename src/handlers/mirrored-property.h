@@ -9,9 +9,10 @@
 #include <type_traits>
 #include <vector>
 
-/// A settings front-end mirrors the fields of one message as properties for the screens. It states them once,
-/// in the order in which they are accepted, as a list macro whose entries name the type that the screens see,
-/// the field and the accessors: ENTRY(int, indLedLvl, IndLedLvl). The macros below make the rest of it.
+/// A settings front-end mirrors the fields of one message as properties for the screens. It lists them once,
+/// in a macro, in the order in which `accept` copies them. An entry names the type that the screens see, the
+/// field and the accessors: ENTRY(int, indLedLvl, IndLedLvl). The macros below make properties, accessors and
+/// signals of the list.
 
 #define MIRRORED_PROPERTY(Type, key, Name) \
     Q_PROPERTY(Type key READ get##Name WRITE set##Name NOTIFY key##Changed)
@@ -29,8 +30,8 @@
         msg->set##Name(fromScreen<decltype(msg->get##Name())>(value)); \
     }
 
-/// Copies a field of `received` through the setter, then tells the screens, whether it changed or not: a
-/// control that the user has touched takes its value back from that.
+/// Copies a field of `received` through the setter, then emits its Notify signal, also if the value is the
+/// same. A control that the user has touched reads its value again at this signal.
 #define MIRRORED_ACCEPT(Type, key, Name)              \
     set##Name(toScreen<Type>(received->get##Name())); \
     emit key##Changed();

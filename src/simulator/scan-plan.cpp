@@ -7,7 +7,7 @@ using std::chrono::milliseconds;
 namespace {
 
 constexpr int RSSI_PER_ATTEN = 3;
-constexpr int MAX_ATTEN = 1000; // far more than reaches the floor, and no overflow
+constexpr int MAX_ATTEN = 1000; // the level is at its floor long before, and nothing overflows
 constexpr int BASE_CHANCE = 5;  // percent
 
 milliseconds scanPeriod(DetModeEnum mode) {
@@ -57,7 +57,7 @@ bool hit(std::default_random_engine &engine, int percent) {
     return percent > draw(engine, 0, 100);
 }
 
-/// The chances are tried one after the other, and a chance of nothing costs no draw.
+/// Tries the chances one after the other. A chance of 0 draws no random number.
 SigTypeEnum drawType(const ScanPlan &plan, std::default_random_engine &engine) {
     if (plan.wifi != 0 && hit(engine, plan.wifi))
         return SigTypeEnum::WIFI;
@@ -86,7 +86,8 @@ void ScanPlan::setByConfig(const ConfigMsg &config) {
     fpv = BASE_CHANCE;
     if (freqs.empty())
         wifi = dig = fpv = 0;
-    // On purpose: a band once reported as masked stays so, also after its ranges were turned off.
+    // On purpose: a band that was once in the list of masked bands stays there, also after its ranges were
+    // turned off.
     for (const MasterFreqModeEnum masterMode : Proto(config.getProto()).getMasterModes()) {
         const auto modes = MasterFreqMode(masterMode).getModes();
         const bool enabled = std::any_of(modes.begin(), modes.end(),
@@ -100,7 +101,7 @@ void ScanPlan::setByAiPrior(AiPriorEnum prior) {
     const Factors factors = factorsOf(prior);
     wifi = wifi ? BASE_CHANCE * factors.wifi : 0;
     dig = dig ? BASE_CHANCE * factors.dig : 0;
-    // On purpose: also where no range is enabled, in which case there is no frequency to draw for.
+    // On purpose: set also if no range is active. Nothing is drawn then, because there is no frequency.
     fpv = BASE_CHANCE * factors.fpv;
 }
 

@@ -11,21 +11,21 @@
 
 inline namespace kelvane {
 
-/// What the simulated device does under its settings.
+/// What the simulator does under its settings.
 struct ScanPlan {
     std::chrono::milliseconds period{1000};
-    std::vector<std::vector<float>> freqs; ///< centre frequencies in MHz of each enabled range
+    std::vector<std::vector<float>> freqs; ///< centre frequencies in MHz of each active range
     bool mask = false;
     std::vector<MasterFreqModeEnum> maskedMMs;
-    int rssiMax = LevelScale::TOP; ///< the strongest level, dB
+    int rssiMax = LevelScale::TOP; ///< the highest level, dB
     int wifi = 0;                  ///< this and the next two: chance of the signal class in percent
     int dig = 0;
     int fpv = 0;
 
     void setByConfig(const ConfigMsg &config);
-    /// On purpose: the factors of an AI mode last until the next `setByConfig` only.
+    /// On purpose: the factors of an AI mode last only until the next `setByConfig`.
     void setByAiPrior(AiPriorEnum prior);
-    /// A made-up scan. About half of its levels are silence, which may have a signal class all the same.
+    /// Makes a random scan. About half of its levels are silence. Silence may also have a signal class.
     std::shared_ptr<ScanResultMsg> makeScan(std::default_random_engine &engine) const;
 };
 

@@ -47,8 +47,8 @@ void Scanner::start() {
 
 void Scanner::stop() {
     scanActive = false;
-    // On purpose: not where it is running, but where it ever ran, so that a second stop in a row throws. Who
-    // stops it asks `isActive` first.
+    // On purpose: joins if the scanner has ever run, not if it runs now. So a second stop in a row throws.
+    // Callers ask `isActive` first.
     if (started)
         scanner.join();
     std::printf("scanner stopped\n");
@@ -62,7 +62,7 @@ void Scanner::run() {
             period = plan.period;
             (*callback)(makeScan());
         }
-        // On purpose: a stop does not cut the pause short, as the simulated device ends its sweep first.
+        // On purpose: a stop does not shorten the pause, because a device ends its sweep first.
         if (scanActive)
             pause(period);
     }

@@ -69,7 +69,7 @@ std::shared_ptr<Msg> TestService::fireOkMsg(MsgTypeEnum respOn) {
     return fireMsg(OkMsgBuilder().respOn(respOn).share());
 }
 
-/// On purpose: the answer is "mask set" whatever the flag is now, as the flag itself travels in the scans.
+/// On purpose: the answer is always "mask set", whatever the flag is now. The scans carry the flag itself.
 void TestService::acceptSetMask() {
     if (scanner.isActive())
         scanner.stop();

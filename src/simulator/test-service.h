@@ -13,22 +13,22 @@
 
 inline namespace kelvane {
 
-/// A device inside the process: it takes the message objects that would go to a device, keeps settings, and
-/// answers its listeners.
+/// The simulator: a device inside the process. It takes the messages that would go to a device, keeps
+/// settings, and answers through its listeners.
 ///
-/// Requests come from one thread at a time (the connector's lock sees to it), and their answers are delivered
-/// on it; scans are delivered on the scanner's thread.
+/// Requests come from one thread at a time, because the connector's lock is held. Their answers are delivered
+/// on that thread, and scans on the scanner's thread.
 class TestService {
 public:
-    /// `devicePause` takes the time of a mask and the time between two scans.
+    /// `devicePause` waits for the mask and between two scans.
     explicit TestService(Scanner::Pause devicePause = Scanner::sleep);
 
     void addListener(std::shared_ptr<MsgListener> listener) { msgListeners.add(std::move(listener)); }
     void removeListener(std::shared_ptr<MsgListener> listener) { msgListeners.remove(std::move(listener)); }
 
-    /// Fires the answer to the listeners. On purpose: only GET_CONFIG, SCAN, GET_CONFIG_K7 and GET_AI_PRIOR
-    /// return it too, and all others null, as if a device had answered too late. SET_MASK takes two seconds
-    /// on the caller's thread, as on a device.
+    /// Delivers the answer to the listeners. SET_MASK takes two seconds on the caller's thread, as on a
+    /// device. On purpose: only GET_CONFIG, SCAN, GET_CONFIG_K7 and GET_AI_PRIOR also return the answer. All
+    /// others return null, as if the device had answered too late.
     std::shared_ptr<Msg> acceptMsg(const std::shared_ptr<Msg> &msg);
 
 private:

@@ -10,7 +10,7 @@ const QColor AbstractUavSwitch::textBack = QColor::fromRgba(0xff5b9bd5);
 
 namespace {
 
-constexpr int FULL_CIRCLE = 360 * 16; // in the painter's sixteenths of a degree
+constexpr int FULL_CIRCLE = 360 * 16; // in sixteenths of a degree, the painter's unit
 
 bool fits(const QFont &font, QPaintDevice *device, const QString &text, const QRect &rect) {
     const QFontMetrics metrics(font, device);

@@ -7,8 +7,8 @@
 
 class QPainter;
 
-/// How the painted switches look: a round head with an indicator disc, and a label that grows out of it.
-/// Widths and heights are those of the item less a line on either side, in pixels.
+/// The look of the painted switches: a round head with an indicator disc, and a label beside it. Widths and
+/// heights are in pixels: those of the item, less the width of a line on each side.
 class AbstractUavSwitch {
 protected:
     /// The 45 degree points of a circle of diameter 1.
@@ -24,11 +24,11 @@ protected:
     void paintSwitch(QPainter *painter, const QSizeF &item);
 
     void drawBorder(QPainter *painter, int w, int h) const;
-    /// Draws the text as large as asked for, or smaller where the label would cut it.
+    /// Draws the text in `textSize`, or smaller if the label is too small for that.
     void drawText(QPainter *painter, int w, int h) const;
-    /// Draws what the disc shows of the switch's state.
+    /// Draws the state of the switch into the disc.
     virtual void drawChecked(QPainter *painter, int w, int h) = 0;
-    /// The place of the disc.
+    /// The rectangle of the disc.
     QRectF getLabelRect(int w, int h) const;
 
     QColor bckgClr;

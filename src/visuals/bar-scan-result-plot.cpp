@@ -55,10 +55,10 @@ Drawing BarScanResultPlot::data() const {
         drawing.push_back(bar);
     drawing.push_back(FilledRect{QRect(0, height - lineWidth, width, 2 * lineWidth), innerBorderColor});
     for (std::size_t i = 0; i < PLOT_LEVELS.size(); ++i) {
-        // On purpose: counted from the top, unlike the bars and the labels, so that the lines stand mirrored
-        // against the axis. They are where users know them.
+        // On purpose: counted from the top, while bars and labels are counted from the bottom. So the lines
+        // are mirrored against the axis. Users know them there.
         const int y = LevelAxis::barHeight(static_cast<int>(PLOT_LEVELS[i]), height);
-        // A dash without length would never get to the end of the line.
+        // With dashes of length 0 the painter would never reach the end of the line.
         drawing.push_back(DrawnLine{QLine(0, y, width, y), QColor::fromRgba(PLOT_COLORS[i]), lineWidth,
                                     qMax(textSize / 4, 1)});
     }

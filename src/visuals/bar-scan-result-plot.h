@@ -40,9 +40,8 @@ private:
     Q_SIGNAL void masterModeChanged();
 
     BandAxis axis;
-    /// The vertical grid lines, in MHz.
-    /// On purpose: those of a former band stay. A view is made for one band, and what is left of another
-    /// stands at the edges.
+    /// The vertical grid lines, in MHz. On purpose: the lines of a former band stay. A view is made for one
+    /// band, and lines of another band are drawn at the edges.
     std::set<int> xLabels;
     History::Scan freqScanResults;
     QColor innerBorderColor;

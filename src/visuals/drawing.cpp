@@ -8,15 +8,15 @@
 
 namespace {
 
-/// Smooth edges are dear, and so is switching them.
+/// Smooth edges cost much time, and so does switching them on and off.
 void setSmooth(QPainter &painter, bool smooth) {
     if (painter.testRenderHint(QPainter::Antialiasing) != smooth)
         painter.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
-/// The part of the device, in the drawing's pixels, where smooth edges change nothing: none of them falls
-/// into a pixel of the device, and none is beyond the device, where cutting it off would make it inexact by a
-/// hair. Empty at a scale that is no whole number.
+/// The part of the paint device where smooth edges change nothing, in the drawing's pixels. There every edge
+/// lies between two pixels of the device. A rectangle that reaches beyond the device is excluded, because
+/// clipping makes it slightly inexact. The result is empty if the scale is not a whole number.
 QRect exactArea(const QPainter &painter) {
     const QTransform &transform = painter.deviceTransform();
     const double scale = transform.m11();
@@ -43,15 +43,15 @@ QPen penOf(const DrawnLine &line) {
     return pen;
 }
 
-/// Whether a picture of the line gives the same pixels. A wider one covers pixels as a whole, which are mixed
-/// in another way.
+/// Whether a stored picture of the line gives the same pixels as the line itself. A wider line covers whole
+/// pixels, and those are blended in another way.
 bool isSamePicture(const DrawnLine &line, const QPainter &painter, const QRect &exact) {
     return line.dash > 0 && line.width == 1 && line.place.dy() == 0 && painter.deviceTransform().m11() == 1 &&
            exact.contains({line.place.p1() - QPoint(0, 1), QSize(line.place.dx(), 2)});
 }
 
-/// A dashed line from (1, 1), as its dashes have ends of half a pixel. They are dear, and a view draws the
-/// same lines again with each scan.
+/// A picture of a dashed line. The line begins at (1, 1), because its dashes have ends of half a pixel.
+/// Dashes cost much time, and a view draws the same lines with each scan.
 QPixmap pictureOf(const DrawnLine &line) {
     const QString key =
         QStringLiteral("dashes %1 %2 %3").arg(line.place.dx()).arg(line.dash).arg(line.color.rgba());

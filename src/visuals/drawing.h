@@ -24,15 +24,15 @@ struct DrawnLine {
 };
 
 struct Words {
-    QPoint place; ///< the left end of the base line
+    QPoint place; ///< left end of the base line
     QString text;
     QColor color;
     int pointSize;
-    int room = 0; ///< in pixels: wider words are squeezed to it; 0 for words that may be of any width
+    int room = 0; ///< in pixels: wider words are squeezed to it; 0 means no limit
 };
 
-/// What one layer of a view shows, in the order of painting: what stands where in which colour, in logical
-/// pixels from the layer's corner. It says nothing of how that is painted.
+/// The content of one layer of a view, in the order of painting: shapes and words with place and colour.
+/// Places are in logical pixels from the top left corner of the layer.
 using Drawing = std::vector<std::variant<FilledRect, DrawnLine, Words>>;
 
 void paintDrawing(const Drawing &drawing, QPainter &painter);

@@ -40,7 +40,7 @@ std::vector<Tick> columnTicks(const std::vector<float> &freqs, int width, int ch
     }));
     const float pixelsPerMHz = static_cast<float>(width) / rangeMHz;
     std::vector<Tick> ticks;
-    // The distance is counted, not the frequency, which could be too large for a float to grow by one step.
+    // Counts the distance, not the frequency: a huge frequency plus one step may be the same float.
     for (int distance = 0; static_cast<float>(distance) <= rangeMHz; distance += step) {
         const auto distanceMHz = static_cast<float>(distance);
         const float freq = freqs.front() + distanceMHz;

@@ -5,27 +5,29 @@
 
 #include <vector>
 
-/// The frequencies of a band's widest range, in MHz, as the bar plot has them from left to right.
+/// The frequency axis of the bars: the widest sweep range of a band, in MHz, from left to right.
 struct BandAxis {
     static constexpr int PLOT_X_DELTA_MHZ = 200; ///< between two labels
 
     float minFreq = 0;
     float maxFreq = 0;
-    float barWidth = 0; ///< from one frequency of the band to the next
+    float barWidth = 0; ///< from one frequency of the range to the next
 
     BandAxis() = default;
-    /// Throws std::out_of_range for what is no band, or for one with fewer than two frequencies.
+    /// Throws std::out_of_range for a number that is no band, and for a band with fewer than two frequencies.
     explicit BandAxis(MasterFreqModeEnum band);
 
     bool holds(float freqMHz) const { return !(freqMHz < minFreq || freqMHz > maxFreq); }
-    /// Pixels from the left end of an axis of this width; what lies outside stands at the end.
+    /// The place of a frequency in pixels from the left end of an axis of this width. A frequency outside of
+    /// the range is placed at the nearer end.
     int x(float freqMHz, int width) const;
-    /// The multiples of 200 MHz from the lower limit on.
-    /// On purpose: without the upper limit, whose label would stand outside of the plot.
+    /// The frequencies with a label: the multiples of 200 MHz in the range. On purpose: without the upper
+    /// limit, because its label would be outside of the plot.
     std::vector<int> labels() const;
 };
 
-/// The frequency axis of the persistence picture: ticks each 1, 5, 10, 50 ... MHz from the first column to
-/// the last, as close as numbers of four digits allow. `freqs` in MHz, one for each column; `width` of the
-/// grid and `charW` of a digit in pixels. Columns of one frequency have no axis.
+/// The frequency axis of the persistence display, from the first column to the last. Ticks are 1, 5, 10, 50
+/// ... MHz apart, as close as numbers of four digits allow. `freqs` has the frequency of each column in MHz.
+/// `width` is that of the grid and `charW` that of a digit, in pixels. There are no ticks unless the last
+/// frequency is above the first.
 std::vector<Tick> columnTicks(const std::vector<float> &freqs, int width, int charW);

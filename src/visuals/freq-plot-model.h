@@ -8,15 +8,14 @@
 #include <QTimer>
 #include <vector>
 
-/// The strongest frequencies of the newest scan for the cover page: always three rows, blank ones where there
-/// are no more. Lives on the UI thread; needs no application object before the first scan.
-/// On purpose: ten seconds without a scan clear it, and each further ten clear it again. The timer is simply
-/// never stopped.
+/// The strongest signals of the newest scan for the cover page. There are always three rows; unused ones are
+/// blank. Lives on the UI thread. It needs no application object before the first scan. On purpose: after ten
+/// seconds without a scan it is cleared, and again every ten seconds. The timer is never stopped.
 class FreqPlotModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    /// Qt::DecorationRole ("decoration") gives the colour of the class.
+    /// Qt::DecorationRole ("decoration") is the colour of the class.
     enum Role {
         FreqRole = Qt::UserRole, ///< text: MHz, "-----" when blank
         RssiRole,                ///< text: the level with its unit, "----dB" when blank
@@ -31,7 +30,8 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// Shows the first results of a SCAN_RESULT, whose results come strongest first; anything else clears.
+    /// Shows the first results of a SCAN_RESULT. They must be in order, strongest first. Any other message
+    /// clears the rows.
     Q_INVOKABLE void setScan(MsgHolder holder);
 
 private:

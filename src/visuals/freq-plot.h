@@ -3,8 +3,8 @@
 #include "visuals/grid-plot.h"
 #include "visuals/signal-course.h"
 
-/// How the level of a band's strongest classified signal went over the last scans: a line over time, now at
-/// the right edge, with the signal's frequency and class in words.
+/// The signal level over time: the level of a band's strongest signal with a class, over the last scans. It
+/// is a curve whose newest point is at the right edge, with the signal's frequency and class in words.
 class FreqPlot : public GridPlot {
     Q_OBJECT
     Q_PROPERTY(QString lang READ getLang WRITE setLang)
@@ -14,7 +14,7 @@ public:
 
     using GridPlot::GridPlot;
 
-    /// The language tag of the screens; "ru" takes the Russian unit.
+    /// The language tag of the screens; with "ru" the unit is in Russian.
     QString getLang() const { return lang; }
     void setLang(const QString &tag) { lang = tag; }
 

@@ -29,7 +29,8 @@ public:
 protected:
     using Rows = std::vector<std::vector<History::_HistoryPoint>>;
 
-    /// The grid's place in an item of this size, below `topPad` pixels; stores its size.
+    /// The rectangle of the grid in an item of this size, `topPad` pixels from the top. Also stores the
+    /// grid's size.
     QRect layOutGrid(const QSize &item, int topPad);
     /// Width of the column of level labels, in pixels.
     int leftPad() const { return 4 * labelFont.charW; }
@@ -38,10 +39,11 @@ protected:
 
     DrawnLine row(int y) const { return {QLine(0, y, grid.width(), y), borderColor, lineWidth}; }
     DrawnLine column(int x) const { return {QLine(x, 0, x, grid.height()), borderColor, lineWidth}; }
-    /// A level, squeezed where a font with wide digits would have it run under the picture.
+    /// The label of a level. It is squeezed if it is wider than the column of level labels, which happens
+    /// with wide digits.
     Words levelLabel(int x, int baseLine, int levelDb) const;
-    /// A number with its top left corner at this place. Unlike a text in a rectangle it is neither wrapped
-    /// nor cut where a font is wider than its average character.
+    /// A number with its top left corner at this place. It is never wrapped or cut, unlike a text in a
+    /// rectangle.
     Words number(int x, int top, std::int64_t number) const;
 
     QSize grid;

@@ -17,7 +17,7 @@ HistView::HistView(QQuickItem *parent)
         this, &HistView::freqsChanged, this,
         [this] {
             paintBackground();
-            // A band without a scan yet gets nothing but its labels.
+            // A band without a scan shows only its labels.
             if (isVisible())
                 update();
         });

@@ -2,18 +2,20 @@
 
 #include "visuals/grid-plot.h"
 
-/// The persistence picture of a band's last scans: frequency to the right, level downwards, one block for
-/// each point of each scan in the colour of its signal class. The newest scan is opaque, older ones fade.
+/// The persistence display of a band's last scans. Frequencies go to the right, levels downwards. Each point
+/// of each scan is a block in the colour of its signal class. The newest scan is opaque, older ones are more
+/// and more transparent.
 ///
-/// On purpose: blocks stand by column and grid lines by frequency. A band's frequencies are evenly spaced.
+/// On purpose: blocks are placed by column, grid lines by frequency. The frequencies of a band have equal
+/// distances.
 class HistView : public GridPlot {
     Q_OBJECT
 
 public:
     explicit HistView(QQuickItem *parent = nullptr);
 
-    /// Throws std::out_of_range for what is no band.
-    /// On purpose: a history without rows leaves the former picture in place, until the next scan.
+    /// Throws std::out_of_range for a number that is no band. On purpose: with a history without rows the
+    /// former picture stays until the next scan.
     void setHistory(History history) override;
 
 protected:
@@ -24,9 +26,9 @@ protected:
 private:
     Q_SIGNAL void freqsChanged();
 
-    /// On purpose: looks at the number of columns, the first and the last one alone. The axis needs no more.
+    /// On purpose: compares only the number of columns, the first and the last one. The axis needs no more.
     bool hasColumns(const std::vector<float> &freqs) const;
-    /// Pixels for 1 dB: the grid has a row for each from the weak end to the strong one.
+    /// Pixels for 1 dB. The grid has a row for each dB of the axis.
     int rowHeight() const;
 
     std::vector<float> historyFreqs; ///< MHz

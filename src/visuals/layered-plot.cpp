@@ -9,7 +9,8 @@
 
 namespace {
 
-/// The whole pixels that an area touches. A hair more than a pixel is a product of fractions, not an area.
+/// The whole pixels that an area touches. A tiny excess over a pixel is an error of rounding and does not
+/// count.
 QRect wholePixels(const QRectF &area) {
     constexpr double hair = 1e-6;
     return area.adjusted(hair, hair, -hair, -hair).toAlignedRect();
@@ -54,7 +55,8 @@ History LayeredPlot::getHistory() const {
 void LayeredPlot::paint(QPainter *painter) {
     painter->save();
     painter->scale(1 / pixelRatio, 1 / pixelRatio);
-    // The background only where it shows: copying it under the data would be a good part of a scan's cost.
+    // Copies the background only where it shows. A copy of the part under the data would cost much of a
+    // scan's time.
     const QRect place = wholePixels(scaled(imageArea, pixelRatio));
     for (const QRect &strip : QRegion(background.rect()) - (image.isNull() ? QRect() : place))
         painter->drawPixmap(strip, background, strip);
@@ -123,7 +125,7 @@ void LayeredPlot::itemChange(ItemChange change, const ItemChangeData &value) {
 }
 
 void LayeredPlot::rebuild() {
-    // While a document still sets the properties one by one, each layer would be painted for nothing.
+    // The document is still setting the properties one by one. Painting now would be for nothing.
     if (!isComponentComplete())
         return;
     paintBackground();
@@ -131,7 +133,7 @@ void LayeredPlot::rebuild() {
 }
 
 void LayeredPlot::showData() {
-    // Rows that outlive the window count as visible once more while the application object ends.
+    // While the application object ends, rows whose window has gone count as visible again.
     if (!isVisible() || QCoreApplication::closingDown())
         return;
     paintOnImage();

@@ -6,15 +6,15 @@
 #include <QPixmap>
 #include <QQuickPaintedItem>
 
-/// A view of one band's history, painted in two layers that are prepared outside paint(): `background` covers
-/// the whole item with the labels and is rebuilt when the item's size or its band changes; `image` covers the
-/// plot area with the data and is rebuilt on each update while the item is visible. A hidden plot only takes
-/// data and catches up when it is shown.
+/// A view of one band's history. It has two layers, which are painted before paint() is called. `background`
+/// covers the whole item and has the labels; it is rebuilt when the item's size or its band changes. `image`
+/// covers the plot area and has the data; it is rebuilt on each update while the item is visible. A hidden
+/// view only stores its data and rebuilds `image` when it is shown.
 ///
-/// What stands where is worked out in logical pixels; the layers have the screen's own ones, and are made
-/// anew when the item comes to a screen of another scale.
+/// Places are calculated in logical pixels. The layers have the screen's own pixels; they are rebuilt when
+/// the item comes to a screen of another scale.
 ///
-/// All of it runs on the GUI thread; the scene graph sees only what paint() copies.
+/// All of it runs on the UI thread. The scene graph sees only what paint() copies.
 class LayeredPlot : public QQuickPaintedItem {
     Q_OBJECT
     Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
@@ -30,14 +30,15 @@ public:
 
     /// Width of grid lines and curves, in pixels.
     int getLineWidth() const { return lineWidth; }
-    /// On purpose: ignores 0. A width computed from a small font keeps the former one.
+    /// On purpose: ignores 0 and keeps the former width. A width that is calculated from a small font may be
+    /// 0.
     void setLineWidth(int width);
 
     /// Size of the labels, in points.
     int getTextSize() const { return textSize; }
     void setTextSize(int size);
 
-    /// On purpose: an empty history of the band on show. What was set is not given back, as nobody reads it.
+    /// On purpose: returns an empty history of the band, not the one that was set. Nobody reads it.
     History getHistory() const;
     Q_INVOKABLE virtual void setHistory(History history) = 0;
 
@@ -45,24 +46,24 @@ public:
 
 signals:
     void historyChanged();
-    /// The labels no longer fit the item: rebuilds both layers.
+    /// The labels no longer fit the item. Rebuilds both layers.
     void sizeChanged();
 
 protected:
     static constexpr MasterFreqModeEnum NO_BAND = static_cast<MasterFreqModeEnum>(-1);
 
-    /// The labels' font, in pixels.
+    /// The measures of the labels' font, in pixels.
     struct LabelFont {
         int charW;  ///< average width of a character
         int ascent; ///< from the base line up
     };
 
-    /// Works out the place of `image` in an item of this size, in pixels. The place may be empty: then
-    /// neither labels nor data are asked for, so they need not mind an area without width or height.
+    /// The rectangle of `image` in an item of this size, in pixels. If it is empty, legend() and data() are
+    /// not called, so they always have an area with width and height.
     virtual QRect layOut(const QSize &item) = 0;
-    /// The labels, in the item.
+    /// The labels. Places are from the corner of the item.
     virtual Drawing legend() const = 0;
-    /// The data, in the plot area.
+    /// The data. Places are from the corner of the plot area.
     virtual Drawing data() const = 0;
 
     void paintBackground();
@@ -71,8 +72,8 @@ protected:
         return {QPoint(x, baseLine), text, color, textSize};
     }
 
-    /// What QQuickPaintedItem does, but on the screen's whole pixels: where the item begins or ends within
-    /// one, at a scale of 1.25 for example, a picture that is fitted into its very size would be blurred.
+    /// Does the same as QQuickPaintedItem, but on whole pixels of the screen. At a scale such as 1.25 the
+    /// item may begin or end inside a pixel. A picture in exactly that size would be blurred.
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
     void itemChange(ItemChange change, const ItemChangeData &value) override;
     void componentComplete() override;
@@ -89,10 +90,10 @@ private:
 
     void rebuild();
     void showData();
-    /// Paints what an area of the item, in logical pixels, shows.
+    /// Paints a drawing into a layer for an area of the item, in logical pixels.
     void paintLayer(QPixmap &layer, const QRect &area, const Drawing &drawing) const;
 
-    double pixelRatio = 1; ///< of the screen: its pixels for one logical pixel
+    double pixelRatio = 1; ///< pixels of the screen for one logical pixel
     QRect imageArea;       ///< in logical pixels
     QPixmap image;
     QPixmap background;

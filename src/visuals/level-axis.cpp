@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A level's share of so many pixels, counted from the weak end.
+/// A level as a part of `pixels`, counted from the weak end.
 float shareOf(int pixels, float levelDb) {
     constexpr int LENGTH_DB = LevelAxis::PLOT_MAX_Y - LevelAxis::PLOT_MIN_Y;
     return static_cast<float>(pixels) * (levelDb - LevelAxis::PLOT_MIN_Y) / LENGTH_DB;
@@ -28,7 +28,7 @@ int LevelAxis::barHeight(int levelDb, int plotHeight) {
         return plotHeight;
     if (levelDb > PLOT_MAX_Y)
         return 0;
-    // Rounded from the top, so that half a pixel makes no bar higher.
+    // Rounds the distance from the top, so that half a pixel makes no bar higher.
     return plotHeight -
            qRound(static_cast<float>(plotHeight) - shareOf(plotHeight, static_cast<float>(levelDb)));
 }

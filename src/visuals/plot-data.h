@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// What a plot of one band needs to lay out its frequency axis. All in MHz. No caller today.
+/// The frequency axis of one band, in MHz. No caller today.
 class PlotData : public QObject {
     Q_OBJECT
     Q_PROPERTY(float minFreq READ getMinFreq WRITE setMinFreq NOTIFY changed)
@@ -20,7 +20,7 @@ public:
     void setMaxFreq(float value) { maxFreq = value; }
     float getBarWidth() const { return barWidth; }
     void setBarWidth(float value) { barWidth = value; }
-    /// It was made with values.
+    /// True if it was made with values.
     bool hasData() const { return m_hasData; }
 
 signals:

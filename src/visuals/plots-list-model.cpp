@@ -6,7 +6,7 @@ namespace {
 
 QSharedPointer<PlotData> makePlot(float minFreq, float maxFreq, float barWidth) {
     auto plot = QSharedPointer<PlotData>::create(minFreq, maxFreq, barWidth);
-    // Rows are handed to the engine by pointer; without this it would delete what it was handed.
+    // The engine gets rows by pointer. Without this it would delete them.
     QQmlEngine::setObjectOwnership(plot.data(), QQmlEngine::CppOwnership);
     return plot;
 }

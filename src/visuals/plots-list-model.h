@@ -15,21 +15,21 @@ class PlotListModel : public QAbstractListModel {
 public:
     enum Role {
         PlotDataRole = Qt::UserRole, ///< the row's `PlotData` as QObject*, owned by the model
-        ConfigMsgRole                ///< write only: a CONFIG to lay out the rows by
+        ConfigMsgRole                ///< write only: a CONFIG that sets the rows
     };
 
     explicit PlotListModel(QObject *parent = nullptr);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    /// `PlotDataRole` inserts a copy of a `PlotData` before the row. `ConfigMsgRole` takes a `MsgHolder`: a
-    /// CONFIG lays out the rows, anything else clears them.
+    /// With `PlotDataRole` it inserts a copy of a `PlotData` before the row. With `ConfigMsgRole` it takes a
+    /// `MsgHolder`: a CONFIG sets the rows, anything else clears them.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QHash<int, QByteArray> roleNames() const override;
     int count() const { return freqs.size(); }
 
-    /// Lays out the bands of a CONFIG's generation; other messages are ignored.
+    /// Makes one row for each band of a CONFIG's generation. Other messages are ignored.
     Q_INVOKABLE void setConfig(MsgHolder msg);
 
 private:

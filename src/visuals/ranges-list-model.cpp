@@ -36,7 +36,7 @@ QVariant RangesListModel::data(const QModelIndex &index, int role) const {
     const Mode *row = rowAt(index);
     if (!row)
         return {};
-    // A position beyond the ranges of the band stands for none of them.
+    // A position behind the last range of the band means off.
     const bool off = row->active < 0 || row->active >= static_cast<int>(row->ranges.size());
     const FreqMode range(row->ranges[off ? 0 : static_cast<std::size_t>(row->active)]);
     switch (role) {
@@ -61,7 +61,7 @@ bool RangesListModel::setData(const QModelIndex &index, const QVariant &value, i
     const ScopeGuard end([this] { endResetModel(); });
     if (role == IntRangeRole)
         setRange(row, value.toInt());
-    // On purpose: a range runs on and is taken for a position too. No screen writes a range.
+    // On purpose: a written range is then also read as a position. No screen writes a range.
     if (role == IntRangeRole || role == ValueRangeRole)
         setPosition(row, value.toInt());
     return true;

@@ -7,16 +7,16 @@
 #include <QList>
 #include <vector>
 
-/// The device's frequency bands, one row each, for switching their ranges. A band is off or sweeps one of its
-/// ranges. Lives on the UI thread.
+/// The device's bands, one row each, with their sweep ranges. A band is off or sweeps one of its ranges.
+/// Lives on the UI thread.
 class RangesListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
     enum Role {
         IntRangeRole = Qt::UserRole, ///< the active `FreqModeEnum`, -1 when off
-        ValueRangeRole,              ///< position of the band's switch: 0 off, then its ranges from 1 on
-        StringModeRole,              ///< name of the active range, of the first one when off
+        ValueRangeRole,              ///< position of the band's switch: 0 is off, 1 the first range
+        StringModeRole,              ///< name of the active range; of the first one when off
         StringRangeRole              ///< limits of the active range in MHz, "2400-2484"; empty when off
     };
 
@@ -24,25 +24,25 @@ public:
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    /// Takes the first two roles.
-    /// On purpose: the last active band cannot be switched off, since a device needs one to scan. Its first
-    /// range is taken instead.
+    /// Accepts the first two roles. On purpose: the last active band cannot be switched off, because a device
+    /// needs a band to scan. Its first range becomes active instead.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    /// On purpose: the first row has no flags and is edited all the same. The screens write without asking.
+    /// On purpose: the first row has no flags and can be edited nevertheless. The screens do not ask for
+    /// flags.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// Shows the bands of a CONFIG's generation and its active ranges; other messages are ignored. Throws
-    /// std::out_of_range for a range that is none of these bands'.
-    /// On purpose: the later of two ranges of one band wins, since a switch can show but one.
+    /// Makes one row for each band of a CONFIG's generation, with the active ranges. Other messages are
+    /// ignored. Throws std::out_of_range for a range that belongs to none of these bands. On purpose: of two
+    /// active ranges of a band the later one counts, because a switch can show only one.
     Q_INVOKABLE void setConfig(MsgHolder msg);
     /// The active ranges as `FreqModeEnum` in the order of the bands.
     Q_INVOKABLE QList<int> getRanges() const;
     Q_INVOKABLE int getNumRanges() const;
 
 signals:
-    /// The user has switched a band.
-    /// On purpose: a CONFIG does not emit it, or it would be sent back.
+    /// The user has switched a band. On purpose: a CONFIG does not emit it. Otherwise the ranges would be
+    /// sent back to the device.
     void rangesChanged();
 
 private:

@@ -8,8 +8,8 @@ void SignalCourse::follow(const Rows &levels, const std::vector<float> &freqs) {
     if (levels.empty() || freqs.empty())
         return;
     const auto &newest = levels.back();
-    // On purpose: the first column is never followed itself. It is what the others have to beat, and stays
-    // chosen where none does.
+    // On purpose: the first column is never followed. The others are compared with it, and if none is
+    // stronger, there is no signal.
     std::size_t best = 0;
     for (std::size_t column = 1; column < newest.size(); ++column) {
         const auto &point = newest[column];
@@ -20,7 +20,7 @@ void SignalCourse::follow(const Rows &levels, const std::vector<float> &freqs) {
         return;
     freq = static_cast<int>(bounded(freqs.at(best)));
     sigType = newest[best].sigType;
-    // On purpose: without the oldest row, which a full history drops next.
+    // On purpose: without the oldest row, the one that a full history drops next.
     for (auto row = levels.rbegin(); row != levels.rend() - 1 && row->at(best).sigType == sigType; ++row)
         points.push_back(row->at(best));
 }

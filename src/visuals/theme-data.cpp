@@ -4,7 +4,7 @@
 
 namespace {
 
-/// A size of nothing would hide what has it, and a font of no size is none.
+/// An element of size 0 would not show, and a font of size 0 is invalid.
 int atLeastOne(double size) {
     constexpr int FALLBACK = 10;
     const int truncated = static_cast<int>(size);
@@ -23,7 +23,7 @@ int ThemeData::getFontSizeMedium() const {
     return fontSize(0.02, 1.5);
 }
 int ThemeData::getFontSizeLarge() const {
-    return fontSize(0.025, 1.25); // On purpose: not 1.5. Headings are to fit a narrow window too.
+    return fontSize(0.025, 1.25); // On purpose: not 1.5. Headings must fit a narrow window too.
 }
 
 int ThemeData::getIconSizeSmall() const {

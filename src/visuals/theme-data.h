@@ -4,8 +4,8 @@
 
 #include <QObject>
 
-/// Every size and colour on the screen. Sizes follow the window's width and height, which the root document
-/// writes; it then emits sizeChanged() itself. All of it lives on the GUI thread.
+/// Every size and colour on the screen. Sizes depend on the window's width and height. The root document
+/// writes these two and then emits sizeChanged() itself. Lives on the UI thread.
 class ThemeData : public QObject {
     Q_OBJECT
     Q_PROPERTY(QColor backgroundColor READ getBackgroundColor NOTIFY changed)
@@ -61,19 +61,19 @@ public:
     QColor getFpvColor() const { return SigTypeColors::getColor(SigTypeEnum::FPV); }
     QColor getBarPlotBorder() const { return QColor::fromRgba(0xff6d7683); }
     QColor getMaskColor() const { return QColor(51, 166, 50); }
-    /// Of headings and of what can be set.
+    /// Headings, and parts of controls that can be set.
     QColor getAccentColor() const { return QColor::fromRgba(0xffa4ebb6); }
-    /// Of the lines in the course plot and the persistence picture.
+    /// Lines in the signal level over time and in the persistence display.
     QColor getGridColor() const { return QColor::fromRgba(0xff808080); }
     QColor getCoursePlotBackground() const { return QColor::fromRgba(0xff41505f); }
-    /// Of what a slider or a switch leaves unfilled.
+    /// The unfilled part of a slider or a switch.
     QColor getGrooveColor() const { return QColor::fromRgba(0xff808080); }
     QColor getSwitchOnColor() const { return QColor::fromRgba(0xff3cb371); }
     QColor getSwitchOffKnobColor() const { return QColor::fromRgba(0xffffffff); }
-    /// Lies over a button that is held down.
+    /// A layer over a button that is held down.
     QColor getPressedShadeColor() const { return QColor::fromRgba(0xffa9a9a9); }
     QColor getSummaryTextColor() const { return QColor::fromRgba(0xffd3d3d3); }
-    /// Of the entry of a list that is in force.
+    /// The current entry of a list.
     QColor getCurrentEntryColor() const { return QColor::fromRgba(0xffd3d3d3); }
     QColor getTestModeColor() const { return QColor::fromRgba(0xffff0000); }
 
@@ -96,8 +96,7 @@ public:
     /// On purpose: stored without a signal. No caller today.
     int getHelpFragmentHeight() const { return helpFragmentHeight; }
     void setHelpFragmentHeight(int height) { helpFragmentHeight = height; }
-    /// In pixels.
-    /// On purpose: stored without a signal. The writer emits sizeChanged().
+    /// In pixels. On purpose: the setter emits no signal. Its caller emits sizeChanged().
     int getWindowWidth() const { return windowWidth; }
     void setWindowWidth(int width) { windowWidth = width; }
     int getWindowHeight() const { return windowHeight; }

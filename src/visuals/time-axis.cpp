@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Pixels for the digits of a number; 0 has none.
+/// Pixels for the digits of a number; 0 pixels for the number 0.
 std::int64_t labelWidth(std::int64_t number, int charW) {
     std::int64_t width = 0;
     for (; number > 0; number /= 10)

@@ -4,7 +4,7 @@
 
 #include <QQuickPaintedItem>
 
-/// What the painted switches have in common as items of a screen.
+/// The common part of the painted switches as items of a screen.
 class UavSwitchItem : public QQuickPaintedItem, protected AbstractUavSwitch {
     Q_OBJECT
     Q_PROPERTY(QColor backgroundColor MEMBER bckgClr WRITE setBackgroundColor)
@@ -15,7 +15,7 @@ class UavSwitchItem : public QQuickPaintedItem, protected AbstractUavSwitch {
 public:
     explicit UavSwitchItem(QQuickItem *parent = nullptr);
 
-    // These have no signal of their own, but what they change is painted anew.
+    // These have no signal, but a change repaints the switch.
     void setBackgroundColor(const QColor &value) { bckgClr = value, update(); }
     void setLineWidth(int value) { lineWidth = value, update(); }
     void setTextSize(int value) { textSize = value, update(); }

@@ -2,7 +2,7 @@
 
 #include "visuals/uav-switch-item.h"
 
-/// A painted switch of two positions. Its disc shows while it is enabled and checked.
+/// A painted switch with two positions. Its disc shows while it is enabled and checked.
 class UavSwitch : public UavSwitchItem {
     Q_OBJECT
     Q_PROPERTY(QString text MEMBER text WRITE setText)

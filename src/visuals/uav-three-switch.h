@@ -2,8 +2,8 @@
 
 #include "visuals/uav-switch-item.h"
 
-/// A painted switch of three positions. While it is enabled its disc shows by halves: none, the lower half,
-/// the whole.
+/// A painted switch with three positions. While it is enabled, its disc shows the position: no disc, the
+/// lower half, the whole disc.
 class UavThreeSwitch : public UavSwitchItem {
     Q_OBJECT
     Q_PROPERTY(QString text READ getText WRITE setText NOTIFY textChanged)
@@ -18,10 +18,10 @@ public:
     QString getText() const { return text; }
     void setText(const QString &value);
     Position getPosition() const { return position; }
-    /// On purpose: emits nothing, since it is no step of the user's.
+    /// On purpose: emits nothing, because the user did not do it.
     void setPosition(Position value) { position = value; }
 
-    /// Steps on, from the last position to OFF.
+    /// Goes to the next position, and from the last one to OFF.
     Q_INVOKABLE void nextPosition();
     /// No caller today.
     Q_INVOKABLE int numPosition() const { return position; }
