@@ -10,12 +10,6 @@ QRect GridPlot::layOutGrid(const QSize &item, int topPad) {
     return QRect(QPoint(leftPad(), topPad), grid);
 }
 
-Words GridPlot::levelLabel(int x, int baseLine, int levelDb) const {
-    Words label = words(x, baseLine, QString::number(levelDb), textColor);
-    label.room = leftPad() - x;
-    return label;
-}
-
 Words GridPlot::number(int x, int top, std::int64_t number) const {
     return words(x, top + labelFont.ascent, QString::number(number), textColor);
 }

@@ -38,8 +38,9 @@ protected:
 
     DrawnLine row(int y) const { return {QLine(0, y, grid.width(), y), borderColor, lineWidth}; }
     DrawnLine column(int x) const { return {QLine(x, 0, x, grid.height()), borderColor, lineWidth}; }
-    /// A level, squeezed where a font with wide digits would have it run under the picture.
-    Words levelLabel(int x, int baseLine, int levelDb) const;
+    Words levelLabel(int x, int baseLine, int levelDb) const {
+        return LayeredPlot::levelLabel(x, baseLine, levelDb, textColor, leftPad());
+    }
     /// A number with its top left corner at this place. Unlike a text in a rectangle it is neither wrapped
     /// nor cut where a font is wider than its average character.
     Words number(int x, int top, std::int64_t number) const;

@@ -70,6 +70,11 @@ protected:
     Words words(int x, int baseLine, const QString &text, const QColor &color) const {
         return {QPoint(x, baseLine), text, color, textSize};
     }
+    /// A level, squeezed where a font with wide digits would have it run under the picture, which begins so
+    /// many pixels from the left.
+    Words levelLabel(int x, int baseLine, int levelDb, const QColor &color, int pictureX) const {
+        return {QPoint(x, baseLine), QString::number(levelDb), color, textSize, pictureX - x};
+    }
 
     /// What QQuickPaintedItem does, but on the screen's whole pixels: where the item begins or ends within
     /// one, at a scale of 1.25 for example, a picture that is fitted into its very size would be blurred.
