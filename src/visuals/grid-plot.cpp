@@ -1,10 +1,5 @@
 #include "visuals/grid-plot.h"
 
-void GridPlot::setTextColor(const QColor &color) {
-    textColor = color;
-    emit sizeChanged();
-}
-
 QRect GridPlot::layOutGrid(const QSize &item, int topPad) {
     grid = QSize(item.width() - leftPad(), item.height() - topPad - labelsHeight());
     return QRect(QPoint(leftPad(), topPad), grid);

@@ -21,7 +21,7 @@ public:
     using LayeredPlot::LayeredPlot;
 
     QColor getTextColor() const { return textColor; }
-    void setTextColor(const QColor &color);
+    virtual void setTextColor(const QColor &color) { textColor = color; }
     /// Colour of the grid.
     QColor getBorderColor() const { return borderColor; }
     void setBorderColor(const QColor &color) { borderColor = color; }

@@ -10,6 +10,8 @@ class HistView : public GridPlot {
     Q_OBJECT
 
 public:
+    static constexpr int minLevelDb = LevelAxis::minLevelDb; ///< dB. No caller today.
+
     explicit HistView(QQuickItem *parent = nullptr);
 
     /// Throws std::out_of_range for what is no band.
