@@ -3,6 +3,13 @@ import "vesper"
 
 // The strongest signals at a glance, while the application is minimised.
 CoverElement {
+    id: cover
+
+    // The colours of the classes by their names on the wire.
+    readonly property var colors: ({
+        " ----": "#93cddd", WIFI: "#00b050", DIG: "#ffc000", FPV: "#ff0000", BLOCK: "#cccccc", ALL: "#93cddd"
+    })
+
     objectName: "defaultCover"
 
     Component.onCompleted: usbService.gotMaxFreqs.connect(freqPlotModel.setScan)
@@ -35,7 +42,7 @@ CoverElement {
             Rectangle {
                 width: parent.width
                 height: parent.height - freqText.height
-                color: decoration
+                color: cover.colors[type]
 
                 Row {
                     anchors.centerIn: parent

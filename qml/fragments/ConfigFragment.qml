@@ -97,6 +97,7 @@ Item {
             spacing: themeData.fontSizeMedium
 
             SectionHeader {
+                anchors.leftMargin: themeData.fontSizeMedium
                 font.pointSize: customDrawer.headerSize
                 text: qsTr("Detection")
             }

@@ -3,7 +3,6 @@ import QtQuick 2.0
 Text {
     anchors.left: parent.left
     anchors.right: parent.right
-    anchors.leftMargin: themeData.fontSizeMedium
     wrapMode: Text.WordWrap
     color: themeData.accentColor
     font.bold: true

@@ -34,9 +34,9 @@ Drawing BarScanResultPlot::legend() const {
                                 QString::number(freq), Qt::black));
     for (const int level : LevelAxis::labels()) {
         const int height = LevelAxis::barHeight(level, plot.height());
-        drawing.push_back(words(level >= -99 ? textSize / 2 : 0,
-                                plot.height() - height + textSize / 2 + plot.top(), QString::number(level),
-                                Qt::black));
+        drawing.push_back(levelLabel(level >= -99 ? textSize / 2 : 0,
+                                     plot.height() - height + textSize / 2 + plot.top(), level, Qt::black,
+                                     plot.left()));
     }
     return drawing;
 }

@@ -14,6 +14,7 @@ class BarScanResultPlot : public LayeredPlot {
     Q_PROPERTY(QColor innerBorderColor READ getInnerBorderColor WRITE setInnerBorderColor)
 
 public:
+    static constexpr float MIN_DATA_LEVEL = LevelAxis::PLOT_MIN_Y;        ///< dB. No caller today.
     static constexpr float PLOT_MIN_Y = LevelAxis::PLOT_MIN_Y;            ///< dB. No caller today.
     static constexpr float PLOT_MAX_Y = LevelAxis::PLOT_MAX_Y;            ///< dB. No caller today.
     static constexpr float PLOT_X_DELTA_MHZ = BandAxis::PLOT_X_DELTA_MHZ; ///< No caller today.

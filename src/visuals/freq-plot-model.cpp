@@ -1,7 +1,6 @@
 #include "visuals/freq-plot-model.h"
 
 #include "common/bounded.h"
-#include "common/sig-type-colors.h"
 #include "msg/scan-result-msg.h"
 
 FreqPlotModel::FreqPlotModel(QObject *parent)
@@ -27,8 +26,6 @@ QVariant FreqPlotModel::data(const QModelIndex &index, int role) const {
     case TypeRole:
         return point.type == SigTypeEnum::NONE ? QString(" ----")
                                                : QString::fromStdString(SigType(point.type).name());
-    case Qt::DecorationRole:
-        return SigTypeColors::getColor(point.type);
     default:
         return {};
     }

@@ -15,7 +15,6 @@ class FreqPlotModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    /// Qt::DecorationRole ("decoration") is the colour of the class.
     enum Role {
         FreqRole = Qt::UserRole, ///< text: MHz, "-----" when blank
         RssiRole,                ///< text: the level with its unit, "----dB" when blank

@@ -4,6 +4,11 @@
 #include "visuals/level-axis.h"
 #include "visuals/time-axis.h"
 
+void FreqPlot::setTextColor(const QColor &color) {
+    GridPlot::setTextColor(color);
+    emit sizeChanged();
+}
+
 void FreqPlot::setHistory(History history) {
     masterMode = history.getMasterMode();
     course.follow(history.getHistoryLevels(), history.getHistoryFreqs());

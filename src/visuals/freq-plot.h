@@ -18,6 +18,9 @@ public:
     QString getLang() const { return lang; }
     void setLang(const QString &tag) { lang = tag; }
 
+    /// Shows at once.
+    void setTextColor(const QColor &color) override;
+
     void setHistory(History history) override;
 
 protected:

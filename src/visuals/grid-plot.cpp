@@ -1,19 +1,8 @@
 #include "visuals/grid-plot.h"
 
-void GridPlot::setTextColor(const QColor &color) {
-    textColor = color;
-    emit sizeChanged();
-}
-
 QRect GridPlot::layOutGrid(const QSize &item, int topPad) {
     grid = QSize(item.width() - leftPad(), item.height() - topPad - labelsHeight());
     return QRect(QPoint(leftPad(), topPad), grid);
-}
-
-Words GridPlot::levelLabel(int x, int baseLine, int levelDb) const {
-    Words label = words(x, baseLine, QString::number(levelDb), textColor);
-    label.room = leftPad() - x;
-    return label;
 }
 
 Words GridPlot::number(int x, int top, std::int64_t number) const {

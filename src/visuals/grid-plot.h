@@ -21,7 +21,7 @@ public:
     using LayeredPlot::LayeredPlot;
 
     QColor getTextColor() const { return textColor; }
-    void setTextColor(const QColor &color);
+    virtual void setTextColor(const QColor &color) { textColor = color; }
     /// Colour of the grid.
     QColor getBorderColor() const { return borderColor; }
     void setBorderColor(const QColor &color) { borderColor = color; }
@@ -39,9 +39,9 @@ protected:
 
     DrawnLine row(int y) const { return {QLine(0, y, grid.width(), y), borderColor, lineWidth}; }
     DrawnLine column(int x) const { return {QLine(x, 0, x, grid.height()), borderColor, lineWidth}; }
-    /// The label of a level. It is squeezed if it is wider than the column of level labels, which happens
-    /// with wide digits.
-    Words levelLabel(int x, int baseLine, int levelDb) const;
+    Words levelLabel(int x, int baseLine, int levelDb) const {
+        return LayeredPlot::levelLabel(x, baseLine, levelDb, textColor, leftPad());
+    }
     /// A number with its top left corner at this place. It is never wrapped or cut, unlike a text in a
     /// rectangle.
     Words number(int x, int top, std::int64_t number) const;

@@ -12,6 +12,8 @@ class HistView : public GridPlot {
     Q_OBJECT
 
 public:
+    static constexpr int minLevelDb = LevelAxis::minLevelDb; ///< dB. No caller today.
+
     explicit HistView(QQuickItem *parent = nullptr);
 
     /// Throws std::out_of_range for a number that is no band. On purpose: with a history without rows the

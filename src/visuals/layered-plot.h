@@ -71,6 +71,11 @@ protected:
     Words words(int x, int baseLine, const QString &text, const QColor &color) const {
         return {QPoint(x, baseLine), text, color, textSize};
     }
+    /// A level, squeezed where a font with wide digits would have it run under the picture, which begins so
+    /// many pixels from the left.
+    Words levelLabel(int x, int baseLine, int levelDb, const QColor &color, int pictureX) const {
+        return {QPoint(x, baseLine), QString::number(levelDb), color, textSize, pictureX - x};
+    }
 
     /// Does the same as QQuickPaintedItem, but on whole pixels of the screen. At a scale such as 1.25 the
     /// item may begin or end inside a pixel. A picture in exactly that size would be blurred.

@@ -143,6 +143,10 @@ TEST_F(ConfigDrawerTest, FollowsTheGenerationAndTheWindow) {
     EXPECT_THAT(driver->look(frame), StartsWith("#c0415f50 r18 *0.8, 'Detection' #a4ebb6 25 bold *0.8, "));
     EXPECT_TRUE(isInView("Detection") && isInView("Display timeout"));
     EXPECT_THAT(gaps(), ElementsAre(18, 24));
+    std::string margins;
+    for (const char *header : {"Detection", "Alarm", "Interface"})
+        margins += QString::number(driver->control(header)->x()).toStdString() + ' ';
+    EXPECT_EQ(margins, "24 0 0 ") << "only the first has a margin";
     const double height = frame.height();
     for (const auto &[generation, last] : {std::pair("K6", "Brightness"), {"K7EW", "Display timeout"}}) {
         deviceSays(std::string(R"({"type":"CONFIG","proto":")") + generation + "\"}");

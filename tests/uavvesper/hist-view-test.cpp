@@ -45,6 +45,15 @@ TEST(HistView, OlderScansFadeAndTheNewestIsOpaque) {
     EXPECT_EQ(persistenceBlocks(rows, 10, 1, 100, 5).front().color.alpha(), 25);
 }
 
+TEST(HistView, TakesAColourOfWordsWithTheNextSize) {
+    Shown<HistView> plot;
+    QSignalSpy sizes(&plot, &HistView::sizeChanged);
+    plot.setTextColor(Qt::red);
+    EXPECT_EQ(sizes.count(), 0);
+    plot.setTextSize(11);
+    EXPECT_EQ(sizes.count(), 1);
+}
+
 TEST(HistView, HasTheLabelsOfTheBandAndThenOfItsScans) {
     Shown<HistView> plot({130, 100});
     plot.setHistory(plot.getHistory());

@@ -74,8 +74,8 @@ TYPED_TEST(LayeredPlotTest, ShowsLabelsAndDataHoweverTheyCame) {
     EXPECT_EQ(rescaled.measured, std::pair(metrics.averageCharWidth(), metrics.ascent()));
     rescaled.setProperty("textColor", QColor(Qt::red));
     rescaled.setHistory(this->history);
-    rescaled.resize(size, 10, 0); // a line of no width keeps the one it has
     rescaled.setProperty("textColor", QColor("#eeeeee"));
+    rescaled.resize(size, 10, 0); // a line of no width keeps the one it has
     EXPECT_EQ(rescaled.picture(), expected);
 
     Shown<TypeParam> hidden(size);
