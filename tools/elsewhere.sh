@@ -10,6 +10,10 @@ declare -A GENERAL=(
     [qtquickcontrols2-5-dev]='library Qt5QuickControls2 Qt 5.15 Quick Controls 2 with its headers'
     [libqt5svg5-dev]='library Qt5Svg Qt 5.15 SVG with its headers'
     [qttools5-dev]='folder Qt5LinguistTools Qt 5.15 Linguist tools'
+    [qt6-base-dev]='library Qt6Gui Qt 6 base with its headers'
+    [qt6-declarative-dev]='library Qt6QuickControls2 Qt 6 Declarative with its headers'
+    [qt6-svg-dev]='library Qt6Svg Qt 6 SVG with its headers'
+    [qt6-tools-dev]='folder Qt6LinguistTools Qt 6 Linguist tools'
     [libusb-1.0-0-dev]='library libusb-1.0 libusb 1.0 with its headers'
     [rapidjson-dev]='library RapidJSON RapidJSON'
     [libgtest-dev]='library gtest GoogleTest'
@@ -18,6 +22,10 @@ declare -A GENERAL=(
     [qml-module-qtquick-window2]='module QtQuick/Window.2 the QML module QtQuick.Window 2'
     [qml-module-qtquick-templates2]='module QtQuick/Templates.2 the QML module QtQuick.Templates 2'
     [qml-module-qtquick-controls2]='module QtQuick/Controls.2 the QML module QtQuick.Controls 2'
+    [qml6-module-qtquick]='module QtQuick the QML module QtQuick'
+    [qml6-module-qtquick-window]='module QtQuick/Window the QML module QtQuick.Window'
+    [qml6-module-qtquick-templates]='module QtQuick/Templates the QML module QtQuick.Templates'
+    [qml6-module-qtquick-controls]='module QtQuick/Controls the QML module QtQuick.Controls'
     [xvfb]='command Xvfb Xvfb'
     [xauth]='command xauth xauth'
     [clang-format]='command clang-format clang-format'
@@ -30,12 +38,14 @@ declare -A GENERAL=(
 # are, so that it alone is missing then.
 is_there() {
     local libraries
-    libraries=$(pkg-config --variable=libdir Qt5Core 2>/dev/null) || true
+    libraries=$(pkg-config --variable=libdir "Qt${QT}Core" 2>/dev/null) || true
     case "$1" in
         command) command -v "$2" >/dev/null ;;
         library) ! command -v pkg-config >/dev/null || pkg-config --exists "$2" 2>/dev/null ;;
         folder) [ -z "$libraries" ] || [ -d "$libraries/cmake/$2" ] ;;
-        module) [ -z "$libraries" ] || [ -d "$libraries/qt5/qml/$2" ] || [ -d "$libraries/qt/qml/$2" ] || [ -d "$libraries/../qml/$2" ] ;;
+        module)
+            [ -z "$libraries" ] || [ -d "$libraries/qt$QT/qml/$2" ] || [ -d "$libraries/qt/qml/$2" ] || [ -d "$libraries/../qml/$2" ]
+            ;;
     esac
 }
 

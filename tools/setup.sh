@@ -3,15 +3,8 @@
 
 set -euo pipefail
 
-BUILD_PACKAGES=(
-    build-essential cmake ninja-build pkg-config
-    qtbase5-dev qtdeclarative5-dev qtdeclarative5-dev-tools qtquickcontrols2-5-dev libqt5svg5-dev qttools5-dev qttools5-dev-tools
-    libusb-1.0-0-dev rapidjson-dev libgtest-dev libgmock-dev
-)
-SCREEN_PACKAGES=(
-    qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
-    qml-module-qtquick-templates2 qtwayland5 fonts-dejavu-core xdg-utils
-)
+BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config libusb-1.0-0-dev rapidjson-dev libgtest-dev libgmock-dev)
+SCREEN_PACKAGES=(fonts-dejavu-core xdg-utils)
 TEST_PACKAGES=(locales xvfb xauth)
 CHECK_PACKAGES=(mmdebstrap lintian man-db desktop-file-utils appstream udev xvfb xauth xdotool imagemagick)
 PACKAGE_PACKAGES=(dpkg-dev debhelper fakeroot librsvg2-bin)
@@ -28,6 +21,50 @@ apt_install() {
         "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
 }
 
+is_installed() {
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null || true)" = installed ]
+}
+
+# usual_qt: Qt's major version, 5 (that is 5.15), or 6 where only that is there or can be had.
+usual_qt() {
+    local usual=5
+    if ! command -v apt-get >/dev/null; then
+        pkg-config --exists Qt5Core 2>/dev/null || ! pkg-config --exists Qt6Core 2>/dev/null || usual=6
+    elif ! is_installed qtbase5-dev; then
+        if is_installed qt6-base-dev || { ! apt-cache show qtbase5-dev && apt-cache show qt6-base-dev; } >/dev/null 2>&1; then
+            usual=6
+        fi
+    fi
+    echo $usual
+}
+
+# QT=6 in the environment asks for Qt 6. RELEASE, ADDRESS and THREAD are the presets, whose folders in build/ bear their names.
+export QT=${QT:-$(usual_qt)}
+case "$QT" in
+    5)
+        RELEASE=release ADDRESS=address THREAD=thread
+        BUILD_PACKAGES+=(
+            qtbase5-dev qtdeclarative5-dev qtdeclarative5-dev-tools qtquickcontrols2-5-dev libqt5svg5-dev qttools5-dev
+            qttools5-dev-tools
+        )
+        SCREEN_PACKAGES+=(
+            qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2 qml-module-qtquick-layouts
+            qml-module-qtquick-templates2 qtwayland5
+        )
+        ;;
+    6)
+        RELEASE=qt6 ADDRESS=qt6-address THREAD=qt6-thread
+        BUILD_PACKAGES+=(
+            qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+        )
+        SCREEN_PACKAGES+=(
+            qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-controls qml6-module-qtquick-layouts
+            qml6-module-qtquick-templates qml6-module-qtqml-workerscript qt6-wayland
+        )
+        ;;
+    *) fail "QT names Qt 5 or Qt 6, not $QT." ;;
+esac
+
 # install_missing PACKAGE...: asks for sudo only when something is missing.
 install_missing() {
     local package missing=()
@@ -38,7 +75,7 @@ install_missing() {
     fi
     as_root=()
     for package in "$@"; do
-        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)" = installed ] || missing+=("$package")
+        is_installed "$package" || missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
     if [ "$(id -u)" -ne 0 ]; then
