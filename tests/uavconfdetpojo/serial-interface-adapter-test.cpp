@@ -149,7 +149,7 @@ TEST(SerialInterfaceAdapterThreads, AReplyMayComeBetweenTheLookForItAndTheWait) 
             std::this_thread::sleep_for(1ms);
         EXPECT_FALSE(isDelivered) << "and nobody waited yet";
     });
-    EXPECT_NE(link.transaction(request(), 24h, {MsgTypeEnum::STATE}), nullptr);
+    EXPECT_NE(link.transaction(request(), 60s, {MsgTypeEnum::STATE}), nullptr);
     device.join();
 }
 
