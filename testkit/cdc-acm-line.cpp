@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 
 // The linker's option --wrap sends the program's calls to the functions "__wrap_", and these to the system's.
 extern "C" {
+int __real_tcgetattr(int descriptor, termios *settings);
 int __real_tcsetattr(int descriptor, int when, const termios *settings);
 int __real_close(int descriptor);
 int __real_dup3(int from, int to, int flags);
@@ -200,8 +201,17 @@ void CdcAcmLine::run() {
 
 extern "C" {
 
-int __wrap_tcsetattr(int descriptor, int when, const termios *settings) {
+int __wrap_tcgetattr(int descriptor, termios *settings) {
     CdcAcmLine::setUp(descriptor);
+    const int result = __real_tcgetattr(descriptor, settings);
+    if (CdcAcmLine *line = CdcAcmLine::of(descriptor))
+        settings->c_cflag = line->control;
+    return result;
+}
+
+int __wrap_tcsetattr(int descriptor, int when, const termios *settings) {
+    if (CdcAcmLine *line = CdcAcmLine::of(descriptor))
+        line->control = settings->c_cflag;
     return __real_tcsetattr(descriptor, when, settings);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -7,6 +8,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <termios.h>
 #include <thread>
 #include <vector>
 
@@ -20,8 +22,8 @@
 /// its calls through it; calls for other descriptors go on to the system.
 class CdcAcmLine {
 public:
-    /// In front of this terminal once the program sets the line up. One at a time, made and ended while no
-    /// program has the terminal open.
+    /// In front of this terminal once the program looks at the line's settings. One at a time, made and ended
+    /// while no program has the terminal open.
     explicit CdcAcmLine(std::string terminal);
     ~CdcAcmLine();
     CdcAcmLine(const CdcAcmLine &) = delete;
@@ -40,6 +42,10 @@ public:
     void takeWhile(std::function<bool()> isTaking);
     /// Called each time that the program asks how much is under way, on its thread.
     void whenAsked(std::function<void()> call);
+
+    /// The control modes of the line: those that another program has left, then those that this one has set.
+    /// A pseudo-terminal knows neither parity nor handshake lines.
+    std::atomic<tcflag_t> control{CS8 | CREAD};
 
     /// Pieces under way when the program closed or replaced its descriptor.
     std::size_t leftToClose() const;

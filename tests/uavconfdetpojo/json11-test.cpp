@@ -8,6 +8,7 @@
 #include <limits>
 #include <set>
 #include <sstream>
+#include <thread>
 
 using json11::Json;
 
@@ -66,6 +67,23 @@ TEST(Json11, Limits) {
     const std::pair<double, int> ints[] = {{-3.9, -3}, {2147483648, 2147483647}, {-1e300, -2147483647 - 1}};
     for (const auto &[number, value] : ints)
         EXPECT_EQ(Json(number).int_value(), value) << number;
+}
+
+TEST(Json11Threads, OfEqualKeysTheLastCountsForEveryReaderAtOnce) {
+    for (const int others : {2, 40}) { // few members are looked through, many have a map
+        std::string text = R"({"a": 1, "b": {"c": 1, "c": 2})", err;
+        for (int i = 0; i < others; ++i)
+            text += ", \"" + std::to_string(i) + "\": 0";
+        const Json json = Json::parse(text + R"(, "a": 3})", err);
+        const auto read = [&] {
+            EXPECT_EQ(json["a"], 3);
+            EXPECT_EQ(json.object_items().at("a"), 3);
+            EXPECT_EQ(json["b"].dump(), R"({"c": 2})");
+        };
+        std::thread other(read);
+        read();
+        other.join();
+    }
 }
 
 TEST(Json11, WrongTypesReadAsEmptyValues) {

@@ -92,8 +92,9 @@ TEST(MessageReader, GivesUpBytesInWhichNoObjectEndsForMoreThanFiveSeconds) {
                           "[tag] reset recv buffer by LAST_PARSED_TIMEOUT\n[tag] reset all recv buffer\n");
     EXPECT_EQ(in.take(OK), "OK ") << "the counter has started anew, too";
     in.take("{", 6000);
+    in.take(R"("type":)", 5000);
     EXPECT_EQ(in.log, "") << "an empty buffer has no age";
-    EXPECT_EQ(in.take(R"("type":"OK"})", 6000), "OK ") << "late, but an end";
+    EXPECT_EQ(in.take(R"("OK"})", 6000), "OK ") << "late, but an end";
 }
 
 TEST(MessageReader, RecoveryKeepsTheNewestObjectThatBeganOnItsOwnLine) {

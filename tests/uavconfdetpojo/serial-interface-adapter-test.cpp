@@ -1,6 +1,7 @@
 #include "serial-interface-adapter.h"
 
 #include "log.h"
+#include "stepped-wait.h"
 #include "wire-text.h"
 
 #include <gtest/gtest.h>
@@ -110,8 +111,13 @@ TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
     const auto errors = std::make_shared<Errors>();
     link.addOnErrorListener(errors);
     link.setIoLogger(std::make_shared<IoLogger>([&](const std::string &text) { errors->texts += text; }));
+    link.processNewData(" \"");
     link.fireError(&BROKEN);
-    EXPECT_EQ(errors->texts, "broken<<<error: broken>>>\n");
+    EXPECT_EQ(errors->texts, " \"broken<<<error: broken>>>\n");
+    link.setIoLogger(nullptr);
+    link.removeOnErrorListener(errors);
+    link.fireError(&BROKEN);
+    EXPECT_EQ(errors->texts.size(), 28U) << "both logs have ended";
     EXPECT_EQ(link.getRecvBuffer(), "");
     logOf([&] { link.processNewData(STATE); });
     EXPECT_EQ(link.received, (Types{MsgTypeEnum::OK, MsgTypeEnum::STATE}));
@@ -129,6 +135,24 @@ TEST(SerialInterfaceAdapterThreads, ASinkOfTheLogMayAskTheLink) {
     EXPECT_EQ(seen, "[RFD24] received unknown msg: {}||");
 }
 
+/// It would be lost if the wait did not hold a lock from its look at the result on.
+TEST(SerialInterfaceAdapterThreads, AReplyMayComeBetweenTheLookForItAndTheWait) {
+    Link link;
+    std::atomic<bool> isDelivered{false};
+    std::thread device;
+    const SteppedWait step([&] {
+        device = std::thread([&] {
+            link.processNewData(STATE);
+            isDelivered = true;
+        });
+        for (int i = 0; i < 50 && !isDelivered; ++i)
+            std::this_thread::sleep_for(1ms);
+        EXPECT_FALSE(isDelivered) << "and nobody waited yet";
+    });
+    EXPECT_NE(link.transaction(request(), 60s, {MsgTypeEnum::STATE}), nullptr);
+    device.join();
+}
+
 TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
     Link link;
     std::atomic<bool> done{false};
@@ -138,6 +162,7 @@ TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
         for (int answered = 0; !done;) {
             link.processNewData(FAIL + "\n{\"type\":");
             link.processNewData(answered < requests ? ++answered, "\"STATE\"}\n" : "\"OK\"}\n");
+            link.getIoLogger();
         }
     });
     for (int i = 0; i < 200; ++i) {
@@ -145,6 +170,21 @@ TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
         link.setIoLogger(std::make_shared<IoLogger>([&](auto) {}));
         link.getRecvBuffer();
     }
+    std::string seen;
+    link.setIoLogger(std::make_shared<IoLogger>([&](auto) { seen = link.getRecvBuffer(); }));
+    link.fireError(&BROKEN);
     done = true;
     reader.join();
+    link.fireError(&BROKEN); // between two halves of a message it leaves one
+    link.processNewData("{");
+    done = false;
+    std::thread waiting([&] {
+        link.waitEmptyBuffer();
+        EXPECT_TRUE(done);
+    });
+    std::this_thread::sleep_for(20ms); // or there is less to see
+    done = true;
+    link.processNewData("}");
+    waiting.join();
+    EXPECT_EQ(seen, "{}") << "the log gets bytes that the link has";
 }

@@ -6,9 +6,12 @@
 #include "msg/all-messages.h"
 #include "pty-device.h"
 
+#include <array>
+#include <fcntl.h>
 #include <future>
 #include <gmock/gmock.h>
 #include <set>
+#include <unistd.h>
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
@@ -95,6 +98,50 @@ TEST_F(LineThreads, SeveralSendersGetTheirRequestsAcrossWholeAndInOrder) {
     EXPECT_TRUE(device.waitForRequests(begun.size()));
     const auto arrived = device.requests();
     EXPECT_EQ(std::multiset(arrived.begin(), arrived.end()), begun);
+}
+
+TEST_F(LineThreads, HasNeitherParityNorHandshakeWhateverWasLeftOn) {
+    line.control = PARENB | PARODD | CSTOPB | CS6 | CRTSCTS;
+    ASSERT_TRUE(tty.openPort());
+    EXPECT_EQ(line.control, tcflag_t(PARODD | CS8 | CREAD | CLOCAL));
+}
+
+/// More than one attempt, since a busy machine may hold one up.
+TEST_F(LineThreads, WaitingForRoomAndForTheRestHaveOneTimeOut) {
+    ASSERT_TRUE(tty.openPort());
+    const auto pieces = 2 * std::count(config.begin(), config.end(), '\n') + 1;
+    const auto inTime = [&] {
+        line.hold();
+        EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
+        const auto start = std::chrono::steady_clock::now();
+        line.takeWhile([&, left = pieces + 1]() mutable { // the former request and a piece of the next
+            return std::chrono::steady_clock::now() - start > 150ms && left-- > 0;
+        });
+        tty.sendWithin(config, 200ms);
+        const bool isLate = std::chrono::steady_clock::now() - start >= 330ms;
+        line.release();
+        return !isLate;
+    };
+    int attempts = 0;
+    while (!inTime() && ++attempts < 20)
+        continue;
+    EXPECT_LT(attempts, 20);
+}
+
+/// A descriptor that has gone may be that of a file since.
+TEST_F(LineThreads, NothingIsWrittenWhereTheLineWas) {
+    ASSERT_TRUE(tty.openPort());
+    EXPECT_EQ(tty.sendWithin(ask, 60s), Sent::WHOLE);
+    tty.serialClose();
+    std::vector<std::array<int, 2>> pipes(8);
+    for (auto &ends : pipes)
+        ASSERT_EQ(pipe2(ends.data(), O_NONBLOCK), 0);
+    EXPECT_EQ(tty.sendWithin(ask, 0ms), Sent::CLOSED);
+    for (const auto &ends : pipes) {
+        char byte;
+        EXPECT_EQ(read(ends[0], &byte, 1), -1);
+        close(ends[0]), close(ends[1]);
+    }
 }
 
 TEST_F(LineThreads, RoomIsWhatAWriteTakes) {

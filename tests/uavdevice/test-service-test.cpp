@@ -108,11 +108,17 @@ TEST_F(TestServiceThreads, TurnsTheMaskAndScansOn) {
     EXPECT_EQ(std::count(all.begin(), all.end(), MASK_TIME.count()), 2);
 }
 
-TEST(ScannerThreads, ASecondStopInARowThrows) {
+TEST(ScannerThreads, SettingsChangeWhileItScansAndASecondStopInARowThrows) {
     Scanner scanner(std::make_shared<MsgListener>([](auto) {}), [](auto) {});
     scanner.stop(); // as long as it never ran
     scanner.start();
     scanner.start();
+    scanner.setByConfig(ConfigMsgBuilder().ranges({FreqModeEnum::STD_2400}).share());
+    scanner.setByAiPrior(AiPriorMsgBuilder().aiPrior(AiPriorEnum::FIELD).share());
+    for (int i = 0; i < 20; ++i) {
+        scanner.setMask();
+        scanner.getRandBattery();
+    }
     scanner.stop();
     EXPECT_THROW(scanner.stop(), std::system_error);
 }

@@ -90,7 +90,7 @@ TEST_F(ButtonRowTest, TwelveClicksOnHelpStartTheSimulatorWhileNothingIsConnected
     plugIn(ProtoEnum::K6);
     clickHelp(11);
     connect();
-    clickHelp(1);
+    clickHelp(2);
     disconnect();
     clickHelp(11);
     EXPECT_FALSE(isConnected()) << "a click while connected starts the count anew";

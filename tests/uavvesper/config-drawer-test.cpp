@@ -156,7 +156,16 @@ TEST_F(ConfigDrawerTest, FollowsTheGenerationAndTheWindow) {
         EXPECT_THAT(gaps(), ElementsAre(18, 24)) << generation;
     }
     driver->resize({300, 400});
-    EXPECT_TRUE(isInView("Detection") && !isInView("Display timeout"));
+    const auto turnWheel = [this](const QPoint &at) {
+        QWheelEvent turn(at, at, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(window, &turn);
+    };
+    click("Scan mode");
+    for (const QPoint &at : {QPoint(20, 120), {150, 200}})
+        turnWheel(at);
+    choose("Standard");
+    EXPECT_TRUE(isInView("Detection") && !isInView("Display timeout")) << "a dialog keeps the wheel";
+    EXPECT_TRUE(ScreenDriver::waitFor([&] { return turnWheel({20, 120}), !isInView("Detection"); }));
     EXPECT_TRUE(driver->scrollDown(frame));
     EXPECT_TRUE(!isInView("Detection") && isInView("Display timeout"));
 }

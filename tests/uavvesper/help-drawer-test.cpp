@@ -38,6 +38,7 @@ TEST_F(HelpDrawerTest, ShowsTheDevicesValuesAndPlaceholdersWithoutOneInEverySize
     EXPECT_EQ(fullHeight - frame().height(), 2 * 15 * 1.25) << "two bands that are off";
     const auto corner = [this](const char *word) { return driver->control(word)->mapToScene({0, 0}); };
     EXPECT_EQ(corner("80").y(), corner("Headphones volume: ").y());
+    EXPECT_EQ(corner("5725-5851").y() - corner("830-1730").y(), 15 * 1.25) << "no gaps";
     EXPECT_EQ(corner("Wi-Fi scanning: ").x(), corner("Mode: ").x());
     const std::string other =
         R"({"type":"CONFIG","indSnd":true,"wifiDet":true,"md5Serial":")" + std::string(200, 'f');

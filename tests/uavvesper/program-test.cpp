@@ -128,6 +128,47 @@ TEST_F(MainWindowTest, DividesItselfInEverySize) {
     }
 }
 
+/// Whatever is drawn at one size, it is so at another, and painted as if it had begun there.
+TEST_F(MainWindowTest, GrowsInAllItsParts) {
+    connectTo(ProtoEnum::K7);
+    click("info");
+    const auto sizes = [this] {
+        driver->picture();
+        std::map<const QQuickItem *, QString> found;
+        for (const QQuickItem *item : driver->findAll({})) {
+            const auto font = item->property("font");
+            if (font.isValid())
+                found[item] = "font " + QString::number(font.value<QFont>().pointSize());
+            else if (item->property("textSize").isValid())
+                found[item] =
+                    item->property("textSize").toString() + ' ' + item->property("lineWidth").toString();
+        }
+        return found;
+    };
+    driver->resize({600, 800});
+    const auto small = sizes();
+    driver->resize({1200, 1600});
+    const auto large = sizes();
+    EXPECT_GT(small.size(), 40U);
+    for (const auto &[item, size] : small) {
+        const auto number = [](const QString &text, int section) {
+            return text.section(' ', section, section).toInt();
+        };
+        const auto grown = large.find(item);
+        ASSERT_NE(grown, large.end()) << driver->look(*item);
+        for (int section : {0, 1})
+            EXPECT_NEAR(number(grown->second, section), 2 * number(size, section), 1.5)
+                << driver->look(*item) << qPrintable(size + " to " + grown->second);
+    }
+    click("info");
+    const QImage grown = driver->picture();
+    for (QQuickItem *item : driver->findAll("QQuickPaintedItem"))
+        item->update();
+    for (QQuickItem *plot : driver->findAll("LayeredPlot"))
+        QMetaObject::invokeMethod(plot, "sizeChanged");
+    EXPECT_EQ(driver->picture(), grown);
+}
+
 TEST_F(MainWindowTest, AcceptsEachMessageTwiceAndEndsTheConnectionWithItself) {
     connectTo(ProtoEnum::K7);
     const std::tuple<const char *, const char *, MsgTypeEnum> handlers[] = {

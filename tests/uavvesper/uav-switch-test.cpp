@@ -1,10 +1,12 @@
 #include "visuals/uav-switch.h"
 
+#include "screen-driver.h"
 #include "signal-recorder.h"
 #include "visuals/uav-three-switch.h"
 
 #include <QImage>
 #include <QPainter>
+#include <QQuickWindow>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
@@ -55,6 +57,41 @@ TEST(UavSwitch, ShowsItsState) {
     three.setProperty("text", "2.4");
     three.nextPosition();
     EXPECT_EQ(signalsOfThree.take(), "textChanged positionChanged");
+}
+
+TEST(UavSwitch, IsPaintedAgainWhateverChanges) {
+    QQuickWindow window;
+    window.resize(160, 40);
+    window.show();
+    const ScreenDriver driver(window);
+    UavSwitch two;
+    UavThreeSwitch three;
+    for (UavSwitchItem *item : {static_cast<UavSwitchItem *>(&two), static_cast<UavSwitchItem *>(&three)}) {
+        item->setParentItem(window.contentItem());
+        item->setSize({160, 40});
+        QImage before = driver.picture();
+        const auto expectChange = [&](const char *what) {
+            const QImage after = driver.picture();
+            EXPECT_NE(before, after) << what;
+            before = after;
+        };
+        const std::pair<const char *, QVariant> changes[] = {{"backgroundColor", QColor("#0a141e")},
+                                                             {"lineWidth", 3},
+                                                             {"switchEnabled", true},
+                                                             {"text", "2.4"},
+                                                             {"textSize", 15},
+                                                             {"checked", true},
+                                                             {"text", "5.8"},
+                                                             {"switchEnabled", false}};
+        for (const auto &[name, value] : changes) {
+            if (name == std::string("checked") && item == &three)
+                three.nextPosition();
+            else
+                item->setProperty(name, value);
+            expectChange(name);
+        }
+        item->setParentItem(nullptr);
+    }
 }
 
 TEST(UavSwitch, ShrinksAWordThatTheLabelWouldCut) {

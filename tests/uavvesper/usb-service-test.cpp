@@ -155,11 +155,11 @@ TEST_F(UsbServiceThreads, TheMaskIsTheDevicesAnswer) {
 }
 
 TEST_F(UsbServiceThreads, AFactoryResetReadsBackWhatTheDeviceTook) {
-    line.replies = {{MsgTypeEnum::CONFIG, ok}, {MsgTypeEnum::CONFIG_K7, fail}, {MsgTypeEnum::CONFIG_EW, ok}};
-    service.resetToDefaults(static_cast<int>(ProtoEnum::K7EW)); // AI_PRIOR is not answered
+    line.replies = {{MsgTypeEnum::CONFIG, ok}, {MsgTypeEnum::CONFIG_K7, fail}, {MsgTypeEnum::AI_PRIOR, ok}};
+    service.resetToDefaults(static_cast<int>(ProtoEnum::K7EW)); // CONFIG_EW is not answered
     EXPECT_EQ(
         line.take(),
-        "CONFIG 5, GET_CONFIG 100, CONFIG_K7 5, CONFIG_EW 5, GET_CONFIG_EW 100, AI_PRIOR 5, GET_CONFIG 100");
+        "CONFIG 5, GET_CONFIG 100, CONFIG_K7 5, CONFIG_EW 5, AI_PRIOR 5, GET_AI_PRIOR 100, GET_CONFIG 100");
     EXPECT_EQ(toasts.value(0).value(0).toString(), "Ошибка: busy");
 }
 
@@ -210,6 +210,19 @@ TEST(UsbServiceConnectionThreads, ServeSeveralRequestersAndSurviveUnplugging) {
     device.plugIn();
     ASSERT_TRUE(usb.connects());
     EXPECT_TRUE(usb.hears("gotScanResult"));
+}
+
+TEST(UsbServiceConnectionThreads, TellWhatHelpsAmongTheErrorsAlone) {
+    const SerialDirectory directory;
+    std::filesystem::create_symlink("/dev/null", directory.path() / "usb-null");
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    UsbService service(nullptr, directory.path());
+    service.startUsb();
+    service.shutDown();
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "Error 25 from tcgetattr: Inappropriate ioctl for device\n");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "/dev/null: no serial line\n");
 }
 
 TEST(UsbServiceConnectionThreads, EndInEveryStateAndLeaveNoDeviceScanning) {
