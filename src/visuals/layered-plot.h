@@ -71,8 +71,8 @@ protected:
     Words words(int x, int baseLine, const QString &text, const QColor &color) const {
         return {QPoint(x, baseLine), text, color, textSize};
     }
-    /// A level, squeezed where a font with wide digits would have it run under the picture, which begins so
-    /// many pixels from the left.
+    /// A level, squeezed where a font with wide digits would have it run under the picture, which begins this
+    /// number of pixels from the left.
     Words levelLabel(int x, int baseLine, int levelDb, const QColor &color, int pictureX) const {
         return {QPoint(x, baseLine), QString::number(levelDb), color, textSize, pictureX - x};
     }
