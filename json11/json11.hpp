@@ -16,8 +16,8 @@ enum JsonParse { STANDARD, COMMENTS };
 /// An immutable JSON value with the interface of json11. Copies share their content and may be read from
 /// several threads. A getter of another type than the value's own gives that type's empty value.
 ///
-/// Strings, arrays and objects lie in a document: all those of a text in one, a value that was made otherwise
-/// in one of its own. A copy of any part keeps the whole document.
+/// Strings, arrays and objects are stored in a document. One document has all values of a parsed text; a
+/// value that was made otherwise has its own. A copy of any part keeps the whole document alive.
 class Json final {
 public:
     enum Type { NUL, NUMBER, BOOL, STRING, ARRAY, OBJECT };
@@ -39,7 +39,7 @@ public:
     Json(const char *value);
     Json(array values);
     Json(object values);
-    Json(void *) = delete; // a pointer would otherwise read as a bool
+    Json(void *) = delete; // a pointer would otherwise become a bool
     Json(const Json &other);
     Json(Json &&other) noexcept = default;
     Json &operator=(const Json &other) { return *this = Json(other); }
@@ -74,24 +74,24 @@ public:
 
     /// 0 for a value that is no number.
     double number_value() const;
-    /// Cut towards zero; a value beyond the range of int gives the nearest end of it, NaN gives 0.
+    /// Rounded towards zero. A value beyond the range of int gives the nearest end of it; NaN gives 0.
     int int_value() const;
     bool bool_value() const;
     const std::string &string_value() const;
     const array &array_items() const;
     const object &object_items() const;
-    /// Null where there is no such element.
+    /// Null if there is no such element.
     const Json &operator[](std::size_t i) const;
     const Json &operator[](const std::string &key) const;
 
-    /// Keys in byte order, one blank behind each colon and comma, numbers as by "%.17g" with a decimal point
-    /// in every locale, null for a number that is not finite.
+    /// Writes the value: keys in byte order, a blank behind each colon and comma, numbers as "%.17g" with a
+    /// decimal point in every locale, null for a number that is not finite.
     void dump(std::string &out) const;
     std::string dump() const;
 
-    /// One JSON value and nothing behind it, nested at most 200 deep. Bytes of strings are kept as they come;
-    /// of equal keys the last one counts. On failure the result is null and `err` tells why; otherwise `err`
-    /// stays.
+    /// Parses one JSON value with nothing behind it, nested at most 200 deep. The bytes of strings are kept
+    /// as they come. Of equal keys the last one counts. On failure the result is null and `err` has the
+    /// reason; otherwise `err` is not changed.
     static Json parse(const std::string &in, std::string &err, JsonParse strategy = JsonParse::STANDARD);
     static Json parse(const char *in, std::string &err, JsonParse strategy = JsonParse::STANDARD);
 
@@ -115,8 +115,8 @@ private:
 
     Type kind = NUL;
     unsigned index = 0; // among the document's strings or arrays; of an object's first member
-    double number = 0;  // or the truth value, or how many members there are
-    // Owned, but by the values in the document itself, which would keep it for ever.
+    double number = 0;  // or the bool, or the number of members
+    // Null in the values inside the document itself; they would keep it alive for ever.
     std::shared_ptr<const Document> document;
 };
 

@@ -4,7 +4,7 @@ namespace json11 {
 inline namespace standin {
 
 const Json *Json::Document::find(std::size_t first, std::size_t count, const std::string &key) const {
-    constexpr std::size_t FEW = 16; // members that are looked through faster than a map is made
+    constexpr std::size_t FEW = 16; // so few members are searched faster than a map is made
     if (count > FEW) {
         const auto &items = mapOf(first, count);
         const auto found = items.find(key);

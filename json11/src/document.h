@@ -17,7 +17,7 @@ const T &empty() {
 
 } // namespace internal
 
-/// What values refer to by their index. Nothing changes once it is made, but for the maps.
+/// The content of values, which refer to it by index. After it is made, only the maps change.
 struct Json::Document : std::enable_shared_from_this<Document> {
     struct Member {
         std::string_view key;
@@ -26,22 +26,22 @@ struct Json::Document : std::enable_shared_from_this<Document> {
 
     std::vector<std::string> strings;
     std::vector<array> arrays;
-    std::vector<Member> members; // those of an object stand side by side, as they came
+    std::vector<Member> members; // those of an object are side by side, in the text's order
     std::string text;            // where the keys are
 
-    /// Looks among an object's members. Null where there is none; of equal keys the last one counts.
+    /// Searches an object's members. Null if there is none with this key. Of equal keys the last one counts.
     const Json *find(std::size_t first, std::size_t count, const std::string &key) const;
 
-    /// Made when it is asked for: most objects are only searched.
+    /// The map is made at the first call, because most objects are only searched.
     const object &mapOf(std::size_t first, std::size_t count) const;
 
-    /// A value with a document of its own.
+    /// A value with its own document.
     static Json of(std::string value);
     static Json of(array values);
     static Json of(object values);
 
 private:
-    /// A value for the document itself.
+    /// The value as it is stored in the document itself.
     static Json lent(const Json &value);
 
     mutable std::mutex mutex; // guards the maps

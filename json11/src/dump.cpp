@@ -23,7 +23,7 @@ void appendEscaped(std::string &out, const std::string &text) {
             out += hex[static_cast<unsigned char>(c) >> 4];
             out += hex[static_cast<unsigned char>(c) & 0xf];
         } else if (three == "\xe2\x80\xa8" || three == "\xe2\x80\xa9") {
-            out += three[2] == '\xa8' ? "\\u2028" : "\\u2029"; // line ends to JavaScript, though not to JSON
+            out += three[2] == '\xa8' ? "\\u2028" : "\\u2029"; // line ends in JavaScript
             i += 2;
         } else {
             out += c;

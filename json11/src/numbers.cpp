@@ -15,7 +15,7 @@ inline namespace standin {
 namespace internal {
 namespace {
 
-/// By JSON's grammar.
+/// Whether the text is a number in JSON's grammar.
 bool isNumber(std::string_view text) {
     const auto skipDigits = [&text] {
         const auto end = std::min(text.find_first_not_of("0123456789"), text.size());
@@ -51,8 +51,9 @@ double toNumber(const char *text, std::size_t length) {
     }
     double value = 0;
     if (std::from_chars(text, end, value).ec == std::errc::result_out_of_range) {
+        // This one gives zero or infinity.
         static const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
-        value = strtod_l(std::string(text, length).c_str(), nullptr, classic); // tells zero from infinity
+        value = strtod_l(std::string(text, length).c_str(), nullptr, classic);
     }
     return value;
 }
@@ -82,7 +83,7 @@ std::string withPlainNumbers(const std::string &in) {
         const double value = isNumber(token) ? toNumber(token.data(), token.size()) : INFINITY;
         if (std::isfinite(value)) {
             appendNumber(out, value);
-            out += value == 0 ? ".0" : ""; // or its sign would be lost
+            out += value == 0 ? ".0" : ""; // keeps the sign of a zero
         } else {
             out += token;
         }

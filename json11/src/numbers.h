@@ -3,19 +3,19 @@
 #include <cstddef>
 #include <string>
 
-/// How numbers are read and written. Nothing here asks for the process's locale.
+/// Reads and writes numbers. The process's locale has no influence.
 namespace json11 {
 inline namespace standin {
 namespace internal {
 
-/// `text` is a number by JSON's grammar.
+/// `text` must be a number in JSON's grammar.
 double toNumber(const char *text, std::size_t length);
 
-/// As `Json::dump` writes numbers.
+/// Appends a number as `Json::dump` writes it.
 void appendNumber(std::string &out, double value);
 
-/// The text with every number written anew: the reader refuses some by their length or exponent that are in
-/// range after all. A number beyond the range stays.
+/// Returns the text with every number in a plain form. The reader refuses some numbers for their length or
+/// exponent although they are in range. A number beyond the range stays as it is.
 std::string withPlainNumbers(const std::string &in);
 
 } // namespace internal

@@ -12,7 +12,7 @@ inline namespace standin {
 
 constexpr std::size_t MAX_DEPTH = 200;
 
-/// Builds a document from the reader's events; an event that returns false ends the reading.
+/// Makes a document from the reader's events. An event that returns false ends the reading.
 class Builder : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Builder> {
 public:
     bool Null() { return place(nullptr); }
@@ -47,11 +47,11 @@ public:
     /// The value of the text that was read.
     Json root() const { return pending.front().value; }
 
-    /// Reads in place: the text is taken apart.
+    /// Reads in place, so it changes the text.
     template <unsigned FLAGS>
     rapidjson::ParseResult read(const std::string &text) {
         document->text = text;
-        document->members.reserve(text.size() / 16); // about what the device's objects come to
+        document->members.reserve(text.size() / 16); // about the number of members in the device's objects
         pending.reserve(16);
         rapidjson::InsituStringStream stream(document->text.data());
         return rapidjson::Reader()
@@ -62,8 +62,8 @@ public:
 private:
     const std::shared_ptr<Json::Document> document = std::make_shared<Json::Document>();
     const std::shared_ptr<const Json::Document> inside{std::shared_ptr<void>(), document.get()};
-    /// Members and items of the containers that are open, outermost first; the last member of an object
-    /// perhaps still without its value.
+    /// Members and items of the open containers, outermost first. The last member of an object may have no
+    /// value yet.
     std::vector<Json::Document::Member> pending;
     std::string open; // the containers: '{' or '['
 
@@ -85,7 +85,8 @@ private:
 };
 
 Json Json::parse(const std::string &in, std::string &err, JsonParse strategy) {
-    if (const auto zero = in.find('\0'); zero != std::string::npos) { // to the reader the end of the text
+    // The reader would take it for the end of the text.
+    if (const auto zero = in.find('\0'); zero != std::string::npos) {
         err = "zero byte at offset " + std::to_string(zero);
         return nullptr;
     }

@@ -63,7 +63,8 @@ const Json &Json::operator[](const std::string &key) const {
     return found ? *found : internal::empty<Json>();
 }
 
-// A getter of another type than the values' own gives equal results, so that only their own one decides.
+// Compares all getters. A getter of another type gives the same default for both values, so only the values'
+// own type decides.
 bool Json::operator==(const Json &other) const {
     return type() == other.type() && number_value() == other.number_value() &&
            bool_value() == other.bool_value() && string_value() == other.string_value() &&

@@ -13,7 +13,7 @@ struct _AiPriorEnumBase {
     std::string shortName;
 };
 
-/// Surroundings for which the device's AI weighs its findings.
+/// AI mode: the surroundings to which the device's AI adapts.
 #define ENUMERATORS(ENUMERATOR)                  \
     ENUMERATOR(AUTO, "Автоматический", "Авто")   \
     ENUMERATOR(DEFAULT, "По умолчанию", "Оптим") \
@@ -26,7 +26,7 @@ class AiPrior : public EnumClass<AiPriorEnum, AiPriorEnum_values> {
 public:
     using EnumClass::EnumClass;
 
-    /// The display name; `name()` is the one on the wire.
+    /// The display name; `name()` is the wire name.
     std::string getName() const { return record().name; }
     std::string getShortName() const { return record().shortName; }
 };

@@ -7,7 +7,7 @@
 
 #include "macros-on.h"
 
-/// Type of a configuration parameter.
+/// Type of a parameter of an EW output.
 #define ENUMERATORS(ENUMERATOR) \
     ENUMERATOR(STRING)          \
     ENUMERATOR(NUMBER)          \

@@ -7,7 +7,8 @@
 
 #include "macros-on.h"
 
-/// A parameter of an EW output. The limits are data for whoever edits a value; nothing here applies them.
+/// A parameter of an EW output. The limits are for programs that edit a value; the library does not check
+/// them.
 #define FIELDS(FIELD)                    \
     FIELD(std::string, name, Name)       \
     FIELD(std::string, descRu, DescRu)   \

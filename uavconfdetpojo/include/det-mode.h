@@ -25,7 +25,7 @@ class DetMode : public EnumClass<DetModeEnum, DetModeEnum_values> {
 public:
     using EnumClass::EnumClass;
 
-    /// The display name; `name()` is the one on the wire.
+    /// The display name; `name()` is the wire name.
     std::string getName() const { return record().name; }
     std::string getShortName() const { return record().shortName; }
 };

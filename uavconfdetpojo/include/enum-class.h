@@ -9,13 +9,13 @@
 
 inline namespace kelvane {
 
-/// Names the class that wraps an enumeration; every enumeration of the protocol specialises it once.
+/// Names the class of an enumeration. Each enumeration of the protocol specialises it once.
 template <typename Enum>
 struct EnumClassOf;
 
-/// What all enumerations of the protocol have in common. A class is its table: the enumerator is the index
-/// of its record in `Table`, and the record's `strValue` is the name on the wire. The tables are filled
-/// before `main` and never change, so every thread may read them.
+/// The common part of all enumerations of the protocol. A class is its table: the enumerator is the index of
+/// its record in `Table`, and the record's `strValue` is the wire name. The tables are filled before `main`
+/// and never change, so every thread may read them.
 template <typename Enum, const auto &Table>
 class EnumClass {
 public:
@@ -28,7 +28,7 @@ public:
     void setValue(Enum enumerator) { value = enumerator; }
     int ordinal() const { return static_cast<int>(value); }
 
-    /// The name on the wire; the exact inverse of `getEnumValue`.
+    /// The wire name: the text in the protocol. `getEnumValue` is the exact inverse.
     std::string name() const { return record().strValue; }
 
     static int getLength() { return length; }

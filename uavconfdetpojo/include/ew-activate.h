@@ -7,7 +7,7 @@
 
 #include "macros-on.h"
 
-/// How an EW target acts.
+/// EW activation: how long an EW target drives its output.
 #define ENUMERATORS(ENUMERATOR) \
     ENUMERATOR(ALWAYS)          \
     ENUMERATOR(TIMEOUT)

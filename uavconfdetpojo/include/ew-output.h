@@ -11,7 +11,7 @@
 
 /// An EW output and the parameters that it takes.
 ///
-/// - `id`: the number by which rules, states and switching name it
+/// - `id`: the number of the output in targets, states and SWITCH_EW_OUTPUT
 #define FIELDS(FIELD)                  \
     FIELD(int, id, Id)                 \
     FIELD(std::string, desc, Desc)     \

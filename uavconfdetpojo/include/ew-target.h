@@ -7,7 +7,7 @@
 
 #include "macros-on.h"
 
-/// A rule: what must be detected, and the output that it drives.
+/// An EW target: what must be detected, and the EW output that it drives.
 ///
 /// - `freqMin`: in MHz
 /// - `freqMax`: in MHz

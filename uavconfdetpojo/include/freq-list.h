@@ -8,8 +8,8 @@
 
 #define FIELDS(FIELD) FIELD(std::vector<float>, freqs, Freqs)
 
-/// A frequency plan in MHz. On purpose: made from a vector it holds the plan but does not count it as
-/// present, so that it writes itself with no keys. Such plans are only looked at, never sent.
+/// A frequency plan in MHz. On purpose: the constructor from a vector stores the plan but does not mark it
+/// present. Such an object is written without keys. These plans are only read, never sent.
 class FreqList : public NestedValue<FreqList> {
     FIELDS_BODY
 public:

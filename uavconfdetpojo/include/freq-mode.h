@@ -21,12 +21,12 @@ struct _FreqModeEnumBase {
     std::string viewName;
 };
 
-/// A sweep range inside a band: place in a list for the user (-1: in none), lowest and highest frequency and
-/// step of its plan in MHz, name.
+/// A sweep range inside a band. Columns: place in a list for the user (-1: not in the list); lowest
+/// frequency, highest frequency and step of its plan, in MHz; name.
 ///
-/// On purpose: the standard range at 4.9 GHz lies at 5150 to 5354 MHz, and the standard ranges at 2.4, 4.9
-/// and 5.8 GHz follow the 6 MHz raster of the product where all others step by 10 MHz. A device may report
-/// CUSTOM, which no generation lists and which has no plan.
+/// On purpose: the standard range at 4.9 GHz is 5150 to 5354 MHz. The standard ranges at 2.4, 4.9 and 5.8 GHz
+/// have steps of 6 MHz, as the product has them; all others have steps of 10 MHz. A device may report CUSTOM,
+/// which no generation lists and which has no plan.
 #define ENUMERATORS(ENUMERATOR)                     \
     ENUMERATOR(STD_1200, 0, 1000, 1680, 10, "1.2")  \
     ENUMERATOR(EXT_1200, 1, 830, 1730, 10, "1.2+")  \
@@ -43,9 +43,9 @@ class FreqMode : public EnumClass<FreqModeEnum, FreqModeEnum_values> {
 public:
     using EnumClass::EnumClass;
 
-    /// The frequency plan, shared by all: never modified.
+    /// The frequency plan. All callers share it; do not change it.
     std::shared_ptr<FreqList> getFreqList() const { return record().freqList; }
-    /// Place in a list for the user; -1 for a range that is shown in none.
+    /// Place in a list for the user; -1 for a range that is not in the list.
     int getVisibleIndex() const { return record().visibleIndex; }
     /// Limits of the range in MHz, both inclusive.
     float getMaxFreq() const { return record().maxFreq; }

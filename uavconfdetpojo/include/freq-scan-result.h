@@ -6,12 +6,12 @@
 
 #include "macros-on.h"
 
-/// What a scan found at one frequency.
+/// The result of a scan at one frequency.
 ///
 /// - `freqMHz`: centre frequency in MHz
 /// - `rssi`: level in dB, on `LevelScale`
-/// - `visible`: carried, without a use here
-/// - `type`: NONE where nothing was found
+/// - `visible`: not used by this library or the program
+/// - `type`: signal class; NONE if nothing was found
 #define FIELDS(FIELD)              \
     FIELD(float, freqMHz, FreqMHz) \
     FIELD(float, rssi, Rssi)       \

@@ -2,7 +2,7 @@
 
 inline namespace kelvane {
 
-/// The scale of the devices' levels, in dB. A device may send others, which are carried as they come.
+/// The scale of signal levels, in dB. A device may also send levels outside of it; they stay as they are.
 struct LevelScale {
     static constexpr int SILENCE = -105; ///< the bottom
     static constexpr int TOP = -75;

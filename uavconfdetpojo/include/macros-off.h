@@ -1,4 +1,4 @@
-// Ends what macros-on.h began.
+// Ends the namespace that macros-on.h opens, and removes its macros.
 
 } // namespace kelvane
 

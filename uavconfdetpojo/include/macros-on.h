@@ -1,9 +1,9 @@
-// Included last by a header that declares a class of the protocol; macros-off.h ends it at the header's end:
-// the library's namespace, and its macros. So no client sees a macro of ours, and a client's own of the same
-// name is set aside meanwhile. Deliberately without a guard. Macros only declare.
+// Opens the library's namespace and defines the library's macros. A header that declares a class of the
+// protocol includes it last, and includes macros-off.h at its end. So no client sees our macros. A client's
+// macro of the same name is saved meanwhile. On purpose: no include guard. The macros only declare.
 //
-// The namespace is inline: a client spells each name without it, and a Log or Utils of the client's own, in
-// another source file, is another one to the linker.
+// The namespace is inline, so a client writes each name without it. A client may have a class Log or Utils of
+// its own in another source file; the linker does not mix them up.
 
 #pragma push_macro("FIELD")
 #pragma push_macro("FIELDS")
@@ -50,8 +50,8 @@
 #undef VISIT_CLASS
 #undef MAKE_ROW
 
-// A message or nested value states its fields as FIELDS(FIELD), one FIELD(Type, key, AccessorName) a line, in
-// wire order. A type that holds a comma needs an alias.
+// A message or nested value lists its fields as FIELDS(FIELD), with a line FIELD(Type, key, AccessorName) for
+// each, in the written order. A type with a comma in it needs an alias.
 
 #define FIELD_ACCESSORS(Type, key, Name) \
 public:                                  \
@@ -94,8 +94,9 @@ private:                                                                        
         return *this;                          \
     }
 
-// The body of the builder that holds its value in `member`: one operation per field, each returning a copy of
-// the builder, `build()`, and `share()`, which makes the value that the library's operations take.
+// The body of a builder whose value is `member`. It has one operation for each field, which returns a copy of
+// the builder; `build()`, which returns the value; and `share()`, which returns a shared pointer to it, as
+// the library's operations need it.
 #define BUILDER_BODY(Class, member)             \
 public:                                         \
     FIELDS(FIELD_BUILDER)                       \
@@ -130,10 +131,10 @@ private:                                        \
         BUILDER_BODY(Class, member)                            \
     };
 
-// An enumeration states its enumerators as ENUMERATORS(ENUMERATOR), one ENUMERATOR(NAME, attribute...) a
-// line: the enumerator, which is also its name on the wire, and the further fields of its record.
-// ENUMERATION(Class) declares the enumeration, the table of the records and, for the source file that defines
-// the table, its rows.
+// An enumeration lists its enumerators as ENUMERATORS(ENUMERATOR), with a line ENUMERATOR(NAME, attribute...)
+// for each. NAME is the enumerator and also its wire name; the attributes are the other fields of its record.
+// ENUMERATION(Class) declares the enumeration, the table of the records and the rows of the table. A source
+// file defines the table from those rows.
 
 #define ENUMERATOR_NAME(...) ENUMERATOR_NAME_(__VA_ARGS__, )
 #define ENUMERATOR_NAME_(NAME, ...) NAME,
@@ -158,7 +159,7 @@ private:                                        \
         return {{ENUMERATORS(ENUMERATOR_ROW)}};                       \
     }
 
-// An enumeration that has nothing but its names.
+// An enumeration without attributes.
 #define NAMES_ENUMERATION(Class)                                      \
     struct _##Class##EnumBase {                                       \
         std::string strValue;                                         \

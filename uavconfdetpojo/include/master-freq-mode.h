@@ -16,7 +16,8 @@ struct _MasterFreqModeEnumBase {
     std::vector<FreqModeEnum> modes;
 };
 
-/// A frequency band of the device: its name, its widest range and all its ranges, standard first.
+/// A band of the device. Columns: its name, its widest sweep range, all its sweep ranges with the standard
+/// one first.
 #define ENUMERATORS(ENUMERATOR)                                                                            \
     ENUMERATOR(R_1200, "1.2ГГц", FreqModeEnum::EXT_1200, {FreqModeEnum::STD_1200, FreqModeEnum::EXT_1200}) \
     ENUMERATOR(R_2400, "2.4ГГц", FreqModeEnum::EXT_2400, {FreqModeEnum::STD_2400, FreqModeEnum::EXT_2400}) \
@@ -29,10 +30,10 @@ public:
     using EnumClass::EnumClass;
 
     std::string getViewName() const { return record().viewName; }
-    /// The widest range of the band.
+    /// The widest sweep range of the band.
     FreqModeEnum getMaxRangeFreqMode() const { return record().maxRangeFreqMode; }
     FreqMode getWidestRange() const { return getMaxRangeFreqMode(); }
-    /// The ranges of the band, standard first.
+    /// The sweep ranges of the band, the standard one first.
     std::vector<FreqModeEnum> getModes() const { return record().modes; }
 };
 

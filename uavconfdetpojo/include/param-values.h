@@ -6,9 +6,8 @@
 
 inline namespace kelvane {
 
-/// Parameter values of an EW output by name, an open set that the device defines at run time. A value is
-/// valid only as a `json11::Json` inside the `std::any`; any other is written as nothing, after a complaint
-/// on standard output.
+/// Parameter values of an EW output, by name. The device defines the names. A value must be a `json11::Json`
+/// inside the `std::any`. Any other value is not written, and standard output gets a line.
 using ParamValues = std::map<std::string, std::any>;
 
 } // namespace kelvane

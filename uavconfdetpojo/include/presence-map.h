@@ -5,8 +5,8 @@
 
 inline namespace kelvane {
 
-/// Which keys of an object are present: one flag a key, without an allocation. `Key` is an enumeration of the
-/// keys that ends with COUNT.
+/// Which keys of an object are present: one flag for each key, without an allocation. `Key` is an enumeration
+/// of the keys, with COUNT as its last enumerator.
 template <typename Key>
 class PresenceMap {
 public:

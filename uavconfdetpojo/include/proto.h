@@ -22,8 +22,8 @@ struct _ProtoEnumBase {
     std::vector<AiPriorEnum> aiPriors;
 };
 
-/// Protocol generation of a device: description, lowest band, whether the user may choose an AI mode. The
-/// generations are ordered: what one has, all later ones have.
+/// Generation of a device. Columns: description, lowest band, whether the user may choose an AI mode. The
+/// generations are in order: each one has everything that the ones before it have.
 #define ENUMERATORS(ENUMERATOR)                                                                         \
     ENUMERATOR(K1, "Kelvane v1-5 (2.4 4.9 5.8)", MasterFreqModeEnum::R_2400, false)                     \
     ENUMERATOR(K6, "Kelvane v6 (2.4 4.9 5.8) + AI_priors + SDR_MODE", MasterFreqModeEnum::R_2400, true) \

@@ -7,7 +7,7 @@
 
 #include "macros-on.h"
 
-/// Class of a signal, as the detector judges it.
+/// Signal class: the kind of signal that the detector found.
 #define ENUMERATORS(ENUMERATOR) \
     ENUMERATOR(NONE)            \
     ENUMERATOR(WIFI)            \

@@ -4,7 +4,7 @@
 
 #include "macros-on.h"
 
-/// Flags of one band, carried without a use here.
+/// Flags of one band. Not used by this library or the program.
 #define FIELDS(FIELD)               \
     FIELD(bool, overflow, Overflow) \
     FIELD(bool, rew, Rew)

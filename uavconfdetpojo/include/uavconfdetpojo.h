@@ -1,43 +1,43 @@
 #pragma once
 
-// The protocol of the Kelvane detectors of drone signals, as a library: what it needs to be read and spoken.
+// This library reads and writes the protocol of the Kelvane detectors of drone signals.
 //
-// A message is one JSON object on the line. Its key "type" names a type of msg/message-list.h, and each type
-// has a class: SCAN_RESULT is a ScanResultMsg, GET_STATE a GetStateMsg. Values of a closed set are
-// enumerations with a class that knows their names on the wire: ProtoEnum::K7, Proto(ProtoEnum::K7).name(),
-// Proto::getEnumValue("K7").
+// A message is one JSON object on the line. Its key "type" names one of the types in msg/message-list.h. Each
+// type has a class: SCAN_RESULT is a ScanResultMsg, GET_STATE a GetStateMsg. A value of a closed set is an
+// enumerator, and a class knows its wire name, the text in the protocol: ProtoEnum::K7,
+// Proto(ProtoEnum::K7).name(), Proto::getEnumValue("K7").
 //
-// To receive, feed the bytes as they come to a MessageReader, together with the time, and take messages out
-// of it:
+// To receive, give the bytes as they come to a MessageReader, with the time, and take messages out of it:
 //
 //     reader.write(bytes, nowMs);
 //     while (auto msg = reader.next(nowMs))
 //         if (const auto scan = messageCast<ScanResultMsg>(msg))
 //             show(scan->getFreqs());
 //
-// To send, build a message and write its text to the line. A null pointer gives "{}":
+// To send, build a message and write its text to the line:
 //
 //     const auto scan = ScanMsgBuilder().scan(true).share();
 //     line.write(MsgToJsonParser::toJson(scan));
 //
-// Or derive your link from SerialInterfaceAdapter, which does both and matches a request with its reply.
+// Or derive your link from SerialInterfaceAdapter. It does both and matches a request with its reply.
 //
-// Presence. Every key is optional in both directions. A getter gives zero, the first enumerator, an empty
-// string, an empty list or a null pointer for a key that was not there, and does not tell the difference. A
-// message writes only what a setter, its builder or the reader has set; a remover takes a key out again.
+// Presence. Every key is optional in both directions. For a key that was not there, a getter returns zero,
+// the first enumerator, an empty string, an empty list or a null pointer. A getter does not show the
+// difference. A message writes only the keys that a setter, its builder or the reader has set. A remover
+// takes a key out again.
 //
-// Errors. Reading never throws and knows no error codes: text that is no known message gives null, a value of
-// the wrong kind leaves its key absent, and the rest of the message stands. A list of the wrong kind is
-// present and empty. What a stream brings beside messages is a line in the log, which Log::setSink sends
-// elsewhere. Writing cannot fail; strings go out without escapes, so keep quotes, backslashes and line ends
-// out of them.
+// Errors. Reading never throws, and there are no error codes. A text that is no known message gives null. If
+// a value is of the wrong kind, its key stays absent, and the other keys are still read. Only a list of the
+// wrong kind is present and empty. An object in a stream that is no message is a line in the log;
+// Log::setSink sends the log elsewhere. Writing cannot fail. Strings are written without escapes, so they
+// must not contain quotes, backslashes or line ends.
 //
-// Memory and threads. Messages have no virtual operations, not even a destructor: make each by
-// std::make_shared of its own class and hold it by shared_ptr. Fill a message on one thread; once others have
-// it, it is only read, and then from any thread. Tables and writers may be used from any thread. A
-// MessageReader belongs to one thread at a time. A SerialInterfaceAdapter calls its listeners on the thread
-// that feeds it; they must not wait there for a reply. Numbers are read and written with a decimal point
-// whatever the process's locale.
+// Memory and threads. Messages have no virtual operations, not even a destructor. So make each message with
+// std::make_shared of its own class and keep it in a shared_ptr. Fill a message on one thread. Do not change
+// it any more when others have it; any thread may read it. Tables and writers may be used from any thread.
+// Only one thread at a time may use a MessageReader. A SerialInterfaceAdapter calls its listeners on the
+// thread that feeds it; they must not wait there for a reply. Numbers are read and written with a decimal
+// point in every locale.
 
 #include "log.h"
 #include "message-reader.h"

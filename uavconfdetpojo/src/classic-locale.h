@@ -4,8 +4,8 @@
 
 inline namespace kelvane {
 
-/// Pins the calling thread to the "C" locale while it lives: the JSON library may read and write numbers by
-/// the locale, and the wire knows the decimal point alone.
+/// Sets the locale of the calling thread to "C" while it lives. The JSON library may read and write numbers
+/// by the locale, but the protocol always has a decimal point.
 class ClassicLocale {
 public:
     ClassicLocale()

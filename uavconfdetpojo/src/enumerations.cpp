@@ -11,8 +11,8 @@
 
 inline namespace kelvane {
 
-// Every table has its rows beside its enumerators. The order of these lines does not matter: no table is made
-// from another.
+// The rows of a table are listed beside its enumerators. The order of these lines does not matter, because no
+// table uses another one.
 const decltype(AiPriorEnum_values) AiPriorEnum_values = rowsOfAiPrior<_AiPriorEnumBase>();
 const decltype(ConfParamTypeEnum_values) ConfParamTypeEnum_values =
     rowsOfConfParamType<_ConfParamTypeEnumBase>();

@@ -20,10 +20,10 @@
 
 inline namespace kelvane {
 
-/// How a value of type T is read and written; the rule of each type stands here and nowhere else.
+/// Reads and writes a value of type T. The rule of each type is here and nowhere else.
 ///
-/// `read` gives nothing where the JSON value is no T: a field then stays absent, an element is left out.
-/// `write` appends the value's text.
+/// `read` returns nothing if the JSON value is no T. A field then stays absent; an element of a list is left
+/// out. `write` appends the value's text.
 template <typename T, typename = void>
 struct FieldIo;
 
@@ -32,7 +32,7 @@ struct FieldIo<std::string> {
     static std::optional<std::string> read(const json11::Json &json) {
         return json.is_string() ? std::optional(json.string_value()) : std::nullopt;
     }
-    // On purpose: the bytes go out as they are, since the device knows no escapes.
+    // On purpose: the bytes are written as they are, because the device knows no escapes.
     static void write(std::string &out, const std::string &value) { out += '"' + value + '"'; }
 };
 
@@ -46,13 +46,13 @@ struct FieldIo<bool> {
 
 template <typename T>
 struct FieldIo<T, std::enable_if_t<std::is_floating_point_v<T>>> {
-    // Some builds of the JSON library read a number beyond a double's range as infinite; no field has a use
-    // for it.
+    // Some builds of the JSON library read a number beyond a double's range as infinite. No field accepts
+    // that.
     static std::optional<T> read(const json11::Json &json) {
         const bool usable = json.is_number() && std::isfinite(json.number_value());
         return usable ? std::optional(static_cast<T>(json.number_value())) : std::nullopt;
     }
-    // Six decimals and never an exponent, with a point whatever the user's locale says.
+    // Six decimals, never an exponent, and a decimal point in every locale.
     static void write(std::string &out, T value) {
         constexpr int decimals = 6;
         char digits[std::numeric_limits<double>::max_exponent10 + decimals + 8];
@@ -62,8 +62,8 @@ struct FieldIo<T, std::enable_if_t<std::is_floating_point_v<T>>> {
     }
 };
 
-/// Cut towards zero; a number beyond the type's range gives the nearest end of it. On purpose 64 bits are
-/// read through a double too: they are not squeezed through an int, but beyond 2^53 the low digits are lost.
+/// A fraction is rounded towards zero. A number beyond the type's range gives the nearest end of the range.
+/// On purpose: numbers of 64 bits are also read as a double, so above 2^53 the lowest digits are lost.
 template <typename T>
 struct FieldIo<T, std::enable_if_t<std::is_same_v<T, int> || std::is_same_v<T, std::int64_t>>> {
     static std::optional<T> read(const json11::Json &json) {
@@ -92,7 +92,8 @@ struct FieldIo<Enum, std::enable_if_t<std::is_enum_v<Enum>>> {
     static void write(std::string &out, Enum value) { out += '"' + Class(value).name() + '"'; }
 };
 
-/// A nested value. On purpose a null pointer writes nothing at all, neither as an element nor behind its key.
+/// A nested value. On purpose: a null pointer writes nothing at all, neither as an element of a list nor
+/// behind its key.
 template <typename Value>
 struct FieldIo<std::shared_ptr<Value>> {
     static std::optional<std::shared_ptr<Value>> read(const json11::Json &json) {
@@ -104,7 +105,7 @@ struct FieldIo<std::shared_ptr<Value>> {
     }
 };
 
-/// On purpose a list that is there but is no array is present and empty, where a map would be absent.
+/// On purpose: a list whose JSON value is no array is present and empty. A map would be absent.
 template <typename Element>
 struct FieldIo<std::vector<Element>> {
     static std::optional<std::vector<Element>> read(const json11::Json &json) {
@@ -127,8 +128,8 @@ struct FieldIo<std::vector<Element>> {
     }
 };
 
-/// Appends the entries of a map in the order of its keys. On purpose the style of a map is not that of an
-/// object: no line breaks but between the entries, no blanks around the colon.
+/// Appends the entries of a map in the order of its keys. On purpose: a map has another style than an object.
+/// There are line breaks only between the entries, and no blanks around the colon.
 template <typename Map, typename WriteKey, typename WriteValue>
 void writeMap(std::string &out, const Map &map, WriteKey writeKey, WriteValue writeValue) {
     out += "{";
@@ -162,7 +163,8 @@ struct FieldIo<std::map<Enum, Value>> {
     }
 };
 
-/// Parameter values: names and JSON values that only the device knows, kept as the JSON library's values.
+/// Parameter values: names and JSON values that only the device knows. They are kept as values of the JSON
+/// library.
 template <>
 struct FieldIo<std::map<std::string, std::any>> {
     using Map = std::map<std::string, std::any>;

@@ -9,11 +9,10 @@
 
 inline namespace kelvane {
 
-/// The reader and the writer of every class of the protocol, over its fields. A source file instantiates them
-/// for each class.
+/// The reader and the writer of all classes of the protocol. They go through the fields of a class. A source
+/// file instantiates them for each class.
 
-/// Puts an object together in the written style: each present key on its own line, nothing indented, no byte
-/// behind the closing brace.
+/// Writes an object: each present key on its own line, no indentation, no byte behind the closing brace.
 class ObjectWriter {
 public:
     template <typename T>
@@ -42,12 +41,13 @@ private:
     bool first = true;
 };
 
-/// Reads a field where its key is there and its value is of the right kind, else leaves it absent. False if
-/// so.
+/// Reads a field if its key is there and its value is of the right kind. Otherwise the field stays absent,
+/// and the result is false.
 template <typename T>
 bool readField(const json11::Json &object, const std::string &key, T &value, bool &present) {
     const json11::Json &json = object[key];
-    // Null stands for a missing key, too. Where the kind takes a null, the slower way tells.
+    // The JSON library also returns null for a missing key. If the kind accepts null, a slower search
+    // decides.
     auto read = FieldIo<T>::read(json);
     if (!read || (json.is_null() && object.object_items().count(key) == 0))
         return false;
@@ -55,8 +55,8 @@ bool readField(const json11::Json &object, const std::string &key, T &value, boo
     return present = true;
 }
 
-/// Fills an object's fields from a JSON object. Each key is looked at on its own: one that fails takes
-/// nothing from the others.
+/// Fills an object's fields from a JSON object. Each key is read by itself: if one fails, the others are
+/// still read.
 template <typename Object>
 void readFields(Object &object, const json11::Json &json) {
     FieldAccess::each(
@@ -64,7 +64,7 @@ void readFields(Object &object, const json11::Json &json) {
                         bool &present) { readField(json, key, value, present); });
 }
 
-/// A zero inside a nested value has no sign; in a message's own fields it keeps it.
+/// Removes the sign of a zero inside a nested value. A zero in a message's own fields keeps its sign.
 struct UnsignZeros {
     template <typename T>
     void operator()(T &value) const {
@@ -102,7 +102,7 @@ private:
     }
 };
 
-/// The same for an object inside another one.
+/// The same as `readFields`, for an object inside another one.
 template <typename Object>
 void readNestedFields(Object &object, const json11::Json &json) {
     FieldAccess::each(
@@ -150,7 +150,7 @@ std::shared_ptr<Msg> TypedMsg<Message>::parseJson(const std::string &text) {
     return object ? fromJson(*object) : nullptr;
 }
 
-/// On purpose a message ends with its type in any case, present or not.
+/// On purpose: the type is always written, at the end of the message, present or not.
 template <typename Message>
 std::string TypedMsg<Message>::parseMsg() const {
     ObjectWriter writer;

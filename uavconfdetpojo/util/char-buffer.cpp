@@ -3,7 +3,7 @@
 #include <cstddef>
 
 void CharBuffer::reset() {
-    constexpr std::size_t MUCH = 1 << 16; // what a few scans take is kept for the next ones
+    constexpr std::size_t MUCH = 1 << 16; // memory for a few scans is kept for the next ones
     if (joined.capacity() > MUCH)
         joined = std::string();
     joined.clear();

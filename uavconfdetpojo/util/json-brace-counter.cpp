@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Whether a byte counts. Nearly all do not, and every received byte is asked.
+/// Whether a byte has a meaning here. Most have none, and each received byte is checked.
 constexpr std::array<bool, 256> counts = [] {
     std::array<bool, 256> table{};
     for (const char c : {'"', '{', '}'})
@@ -17,7 +17,7 @@ constexpr std::array<bool, 256> counts = [] {
 std::vector<std::pair<int, int>> JsonBraceCounter::write(const buffer_t &bytes) {
     std::vector<std::pair<int, int>> result;
     int position = count;
-    int depth = currentBraceCount; // copies, as the compiler keeps only these in registers
+    int depth = currentBraceCount; // local copies, because the compiler keeps only these in registers
     bool quoted = currentQuote;
     for (const char c : bytes) {
         if (counts[static_cast<unsigned char>(c)]) {

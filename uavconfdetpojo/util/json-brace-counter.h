@@ -7,16 +7,16 @@
 
 inline namespace kelvane {
 
-/// Finds the JSON objects of a byte stream by counting braces outside of strings. Positions count the bytes
-/// since the last reset. On purpose a backslash
-/// has no meaning: the devices send no escaped quotes.
+/// Finds the JSON objects in a byte stream by counting braces outside of strings. Positions count the bytes
+/// since the last reset. On purpose: a backslash has no meaning, because the devices send no escaped quotes.
 class JsonBraceCounter {
 public:
-    /// The objects that end in these bytes, in order: positions of their first and last brace.
+    /// Reads the next bytes. Returns the objects that end in them, in order, as the positions of their first
+    /// and last brace.
     std::vector<std::pair<int, int>> write(const buffer_t &bytes);
-    /// Tells that the first `n` bytes were taken away. No caller today.
+    /// Call it after the first `n` bytes were removed. No caller today.
     void removeStartBytes(int n);
-    /// Tells that all bytes to the end of the last of these objects were taken away. No caller today.
+    /// Call it after all bytes to the end of the last of these objects were removed. No caller today.
     void removeByResult(const std::vector<std::pair<int, int>> &result);
     void reset();
 

@@ -11,22 +11,23 @@
 
 inline namespace kelvane {
 
-/// Listeners in the order of adding, each known by its shared pointer. Every operation may be called from any
-/// thread and from inside a listener. No lock is held while a listener runs; several threads may fire at
-/// once, and then run the same listener at once.
+/// Listeners in the order of adding. A listener is identified by its shared pointer. Every operation may be
+/// called from any thread and from inside a listener. No lock is held while a listener runs. Several threads
+/// may fire at once, and may then run the same listener at once.
 template <class Listener>
 class ListenerList {
 public:
-    /// A listener that is added while others run is called in the same round, as the last one.
+    /// A listener that is added during a round is called in the same round, as the last one.
     void add(std::shared_ptr<Listener> listener) {
         const std::lock_guard lock(mutex);
         listeners.push_back(std::move(listener));
     }
 
-    /// Once this has returned, the listener is running on no other thread and will not run again, so that
-    /// what it refers to may go. One case apart, which would wait for ever: called from inside a listener, it
-    /// does not wait for a thread that waits itself, directly or through others, for that listener's end. Of
-    /// a listener that was added twice in a row, one stays.
+    /// When this has returned, the listener runs on no other thread and will not run again. The objects that
+    /// it uses may then be destroyed. There is one exception: two listeners on two threads may remove each
+    /// other. Each would wait for the other's end for ever. So inside a listener this call does not wait for
+    /// a thread that waits for the caller's thread, directly or through others. If a listener was added twice
+    /// in a row, one of the two stays.
     void remove(std::shared_ptr<Listener> listener) {
         std::unique_lock lock(mutex);
         for (std::size_t i = 0; i < listeners.size(); ++i) {
@@ -47,18 +48,18 @@ public:
         markRemoving(self, nullptr);
     }
 
-    /// Calls `call(Listener &)` for each listener in order. An exception of a call ends the round.
+    /// Calls `call(Listener &)` for each listener in order: a round. An exception of a call ends the round.
     template <class Call>
     void fire(Call call) {
         Round round;
-        std::unique_lock lock(mutex); // held all the time but while a listener runs
+        std::unique_lock lock(mutex); // not held while a listener runs
         const Entry entry(*this, round, lock);
         while (round.next != listeners.size()) {
-            std::shared_ptr<Listener> listener = listeners[round.next++]; // outlives its own removal
+            std::shared_ptr<Listener> listener = listeners[round.next++]; // lives on if removed
             round.running = listener.get();
             lock.unlock();
             call(*listener);
-            listener.reset(); // not under the lock: what goes with it may use the list
+            listener.reset(); // not under the lock: its destruction may use the list
             lock.lock();
             round.running = nullptr;
             changed.notify_all();
@@ -66,12 +67,12 @@ public:
     }
 
 private:
-    /// One pass of one thread over the listeners; lives on the stack of `fire`.
+    /// One pass of a thread over the listeners. Lives on the stack of `fire`.
     struct Round {
         std::size_t next = 0;
         const Listener *running = nullptr;
         const std::thread::id thread = std::this_thread::get_id();
-        const Listener *removing = nullptr; // what its thread waits for inside `remove`
+        const Listener *removing = nullptr; // the listener for whose end its thread waits inside `remove`
     };
 
     class Entry {
@@ -95,7 +96,8 @@ private:
         std::unique_lock<std::mutex> &lock;
     };
 
-    /// Tells the others what this thread's rounds wait for. Under the lock, as the next one.
+    /// Notes for the other threads which listener this thread's rounds wait for. The lock is held here and in
+    /// the next function.
     void markRemoving(std::thread::id self, const Listener *removing) {
         for (Round *round : rounds)
             if (round->thread == self)
@@ -103,8 +105,8 @@ private:
         changed.notify_all();
     }
 
-    /// Whether a round's listener cannot end before those of the thread do: it waits for them, directly or
-    /// through others, of which there are at most `links`.
+    /// Whether the round waits for a listener that runs on `thread`, directly or through at most `links`
+    /// other rounds.
     bool waitsFor(const Round &round, std::thread::id thread, std::size_t links) const {
         return round.removing && links > 0 &&
                std::any_of(
@@ -115,7 +117,7 @@ private:
                    });
     }
 
-    std::mutex mutex; // guards everything below, also what the rounds hold
+    std::mutex mutex; // guards everything below, also the rounds' members
     std::condition_variable changed;
     std::vector<std::shared_ptr<Listener>> listeners;
     std::vector<Round *> rounds;

@@ -14,10 +14,10 @@ public:
     /// A line without a level.
     static void write(const std::string &tag, const std::string &msg);
 
-    /// Gets each line, without its end, on the thread that logs it; several threads may log at once.
+    /// Gets each line, without its line end, on the thread that logs it. Several threads may log at once.
     using Sink = std::function<void(const std::string &line)>;
-    /// Sends the lines elsewhere. An empty sink brings back the default: standard output, each line written
-    /// and flushed at once, so that lines do not mix.
+    /// Sends the lines to this function. An empty function restores the default, standard output. There each
+    /// line is written and flushed at once, so that lines do not mix.
     static void setSink(Sink sink);
 };
 

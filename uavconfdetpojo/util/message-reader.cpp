@@ -14,7 +14,7 @@ MessageReader::MessageReader(Logger logger, long long nowMs)
 
 void MessageReader::write(const buffer_t &bytes, long long nowMs) {
     if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max() - buffer.size()))
-        reset(); // or positions would no longer fit
+        reset(); // a position must fit into an int
     wasEmpty = isEmpty();
     buffer.write(bytes);
     const auto ended = jbc.write(bytes);
@@ -33,15 +33,16 @@ std::shared_ptr<Msg> MessageReader::next(long long nowMs) {
         frames.pop_front();
         const std::string &all = orphans > 0 ? orphaned : buffer.toString();
         orphans -= orphans > 0 ? 1 : 0;
-        // On purpose longer than the object unless it begins the buffer: one that is followed by another in
-        // the same chunk is so made unreadable, while the line end behind it does no harm.
+        // On purpose: the second argument is the object's end, not its length. So the text goes too far
+        // unless the object begins the buffer. A line end behind the object does no harm. But if another
+        // object follows in the same chunk, this one cannot be read.
         const std::string frame =
             all.substr(static_cast<std::size_t>(first), static_cast<std::size_t>(second) + 1);
         try {
             if (auto msg = Msg::parseJson(frame))
                 return msg;
             log(Log::write, "received unknown msg: " + frame);
-        } catch (const std::invalid_argument *) { // On purpose by pointer: nothing throws it.
+        } catch (const std::invalid_argument *) { // On purpose: by pointer, which nobody throws.
         }
     }
     if (std::exchange(chunkOpen, false))
@@ -57,12 +58,13 @@ void MessageReader::endChunk(long long nowMs) {
         }
         return;
     }
-    // A started object stays with everything before it, since the counter's positions refer to all of it.
+    // If an object has begun, all bytes before it stay too, because the counter's positions refer to them.
     if (bytes().find('{', static_cast<std::size_t>(lastEnd) + 1) == std::string::npos)
         reset();
 }
 
-/// Keeps the newest object that began on a line of its own. One that is complete already is not handed out.
+/// Drops all but the newest object that began on a line of its own. An object that is complete already is not
+/// returned.
 void MessageReader::recover() {
     const std::string all = bytes();
     logBuffer("recvBuffer: ", all);
@@ -83,7 +85,7 @@ void MessageReader::reset() {
     if (orphans == 0)
         orphaned = frames.empty() ? std::string() : buffer.toString();
     else
-        frames.resize(orphans); // dropped twice while messages wait: the older bytes are kept
+        frames.resize(orphans); // second drop while messages wait: only the older bytes are kept
     orphans = frames.size();
     buffer.reset();
     jbc.reset();

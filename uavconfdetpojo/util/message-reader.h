@@ -13,40 +13,40 @@
 
 inline namespace kelvane {
 
-/// Finds the messages in a stream of bytes. It has no thread, no lock and no clock of its own: whoever calls
-/// it brings the bytes and the time.
+/// Finds the messages in a stream of bytes. It has no thread, no lock and no clock. The caller passes the
+/// bytes and the time.
 ///
-/// An object ends where its braces close, and a device puts a line end behind each. What stands between
-/// objects is skipped; an object that cannot be read, or is of no known type, is a line in the log.
+/// An object ends with its closing brace. A device sends a line end after each object. Bytes between objects
+/// are skipped. An object that cannot be read or has an unknown type is logged.
 class MessageReader {
 public:
-    /// So long, in ms, bytes may go on arriving without an object's end before they are given up.
+    /// In ms. If no object has ended for longer than this when bytes arrive, the bytes are dropped.
     static constexpr long long LAST_PARSED_TIMEOUT = 5000;
 
-    /// Gets each line for the log, with the operation of `Log` that it is for.
+    /// Gets each line for the log, with the operation of `Log` that would write it.
     using Logger = std::function<void(void (*operation)(const std::string &tag, const std::string &msg),
                                       const std::string &msg)>;
 
-    /// `nowMs`, here and below, is on one clock of the caller's choice. Lines go to the log at once.
+    /// `nowMs`, here and below, is the time of a clock that the caller chooses. Lines go to `Log` at once.
     MessageReader(const std::string &logTag, long long nowMs);
     /// `logger` is called inside `next`.
     MessageReader(Logger logger, long long nowMs);
 
-    /// Takes the next bytes; `next` is then to be called until it gives null.
+    /// Adds the next bytes. Call `next` afterwards until it returns null.
     void write(const buffer_t &bytes, long long nowMs);
-    /// The next message that ended in the bytes so far. Null when there is none left: bytes that are done
-    /// with are dropped then, and where no object has ended for too long all bytes are given up, but for the
+    /// Returns the next message that has ended, or null if there is none left. At a null, bytes that are no
+    /// longer needed are dropped. If no object has ended for too long, all bytes are dropped except the
     /// newest object that began on a line of its own.
     std::shared_ptr<Msg> next(long long nowMs);
 
-    /// Drops the bytes. Messages that ended in them are still handed out.
+    /// Drops the bytes. `next` still returns the messages that ended in them.
     void reset();
-    /// The bytes that are not done with yet; valid until the next call of another operation.
+    /// The bytes that are kept; valid until the next call of another operation.
     const std::string &bytes() const { return buffer.toString(); }
     bool isEmpty() const { return buffer.size() == 0; }
 
-    /// For log lines. On purpose a piece is as long as the position of its end, so that all but the first run
-    /// long, and what stands behind the last delimiter is left out.
+    /// Splits a text for the log. On purpose: the length of a piece is the position of its end. So all pieces
+    /// but the first are too long. Text behind the last delimiter is left out.
     static std::vector<std::string> split(const std::string &text, const std::string &delimiter);
 
 private:
@@ -57,8 +57,8 @@ private:
     const Logger log;
     CharBuffer buffer;
     JsonBraceCounter jbc;                   // over the bytes of `buffer`
-    std::deque<std::pair<int, int>> frames; // not handed out yet: positions of their first and last brace
-    std::size_t orphans = 0;                // the first of `frames`, if their bytes were dropped meanwhile
+    std::deque<std::pair<int, int>> frames; // not returned yet: positions of their first and last brace
+    std::size_t orphans = 0;                // number of first `frames` whose bytes were dropped meanwhile
     std::string orphaned;                   // those bytes
     bool chunkOpen = false;                 // between `write` and the `next` that gives null
     bool wasEmpty = true;                   // before the chunk

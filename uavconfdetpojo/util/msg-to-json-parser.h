@@ -7,11 +7,11 @@
 
 inline namespace kelvane {
 
-/// Messages to the text that goes to the device.
+/// Makes the text of a message, as it goes to the device.
 class MsgToJsonParser {
 public:
-    /// "{}" for a null pointer, the empty string for a type that is no enumerator; otherwise the text of the
-    /// class that the message's type names. Only reads, so any thread may call it.
+    /// Returns the text of the message, by the class of its type. Returns "{}" for a null pointer, and the
+    /// empty string for a type that is no enumerator. It only reads, so any thread may call it.
     static std::string toJson(const std::shared_ptr<Msg> &msg);
 };
 

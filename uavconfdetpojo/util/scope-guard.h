@@ -4,7 +4,7 @@
 
 inline namespace kelvane {
 
-/// Calls a function when its scope is left, by whatever way. The function must not throw.
+/// Calls a function when its scope is left, also by an exception. The function must not throw.
 template <typename Function>
 class ScopeGuard {
 public:

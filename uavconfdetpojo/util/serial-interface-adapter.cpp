@@ -28,18 +28,19 @@ std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> ms
     const auto listener = std::make_shared<MsgListener>([&](std::shared_ptr<Msg> reply) {
         if (std::find(expected.begin(), expected.end(), reply->getType()) == expected.end())
             return;
-        const std::lock_guard lock(mutex); // between the other thread's look at the result and its wait
+        // Without the lock the other thread might be between its check of the result and its wait.
+        const std::lock_guard lock(mutex);
         std::atomic_store(&result, std::move(reply));
         arrived.notify_one();
     });
     Sent sent = Sent::WHOLE;
     addListener(listener);
     {
-        // The listener refers to this stack: it goes before anything else, also when sending throws.
+        // The listener refers to this stack. It is removed first, also when sending throws.
         const ScopeGuard removal([&] { removeListener(listener); });
         try {
             sent = sendWithin(MsgToJsonParser::toJson(msg), timeout);
-        } catch (const std::exception *e) { // On purpose by pointer, here and below: others pass through.
+        } catch (const std::exception *e) { // On purpose: by pointer, here and below. Others pass through.
             Log::error(TAG, name + " send ERROR: " + e->what());
         }
         try {
@@ -54,7 +55,7 @@ std::shared_ptr<Msg> SerialInterfaceAdapter::transaction(std::shared_ptr<Msg> ms
         return std::atomic_load(&result);
     if (sent != Sent::CLOSED)
         transactionGaveUp(msg, sent, timeout);
-    return nullptr; // what came meanwhile answers something else
+    return nullptr; // a message that came meanwhile answers something else
 }
 
 Sent SerialInterfaceAdapter::sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout) {
@@ -79,7 +80,7 @@ void SerialInterfaceAdapter::setIoLogger(std::shared_ptr<IoLogger> logger) {
     if (!logger)
         logger = std::make_shared<IoLogger>(logClbck);
     const std::lock_guard lock(readerMutex);
-    ioLogger.swap(logger); // the former one goes when the lock has gone
+    ioLogger.swap(logger); // the former one is destroyed after the lock is released
 }
 
 std::shared_ptr<IoLogger> SerialInterfaceAdapter::getIoLogger() {
@@ -123,7 +124,7 @@ void SerialInterfaceAdapter::fireError(const std::exception *error) {
 }
 
 void SerialInterfaceAdapter::processNewData(buffer_t bytes) {
-    const long long now = getCurrentTimeMs(); // for the whole chunk: asking again for each message costs much
+    const long long now = getCurrentTimeMs(); // once for the chunk: once for each message would cost much
     std::shared_ptr<IoLogger> logger;
     {
         const std::lock_guard lock(readerMutex);

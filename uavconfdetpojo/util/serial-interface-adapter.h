@@ -9,8 +9,8 @@
 
 inline namespace kelvane {
 
-/// What all byte links share: finds the messages in the bytes, hands them to the listeners, and matches
-/// requests with replies. A link adds `sendBytes`, and a reading thread that calls `processNewData`.
+/// The common part of all byte links. It finds the messages in the bytes, calls the listeners with them, and
+/// matches requests with replies. A link adds `sendBytes`, and a reading thread that calls `processNewData`.
 class SerialInterfaceAdapter : public virtual SerialInterface {
 public:
     static constexpr std::chrono::milliseconds SEND_TIMEOUT{2000};
@@ -33,17 +33,17 @@ public:
     void addOnErrorListener(std::shared_ptr<OnErrorListener> listener) override;
     void removeOnErrorListener(std::shared_ptr<OnErrorListener> listener) override;
 
-    /// Called on the caller's thread, next to the reading.
+    /// Called on the thread that sends, also while the reading thread reads.
     virtual void sendBytes(buffer_t bytes, std::chrono::milliseconds timeout) = 0;
-    /// As `sendBytes`, and tells what the line has taken within the time-out. Transactions send by it. A link
-    /// that cannot tell has sent all.
+    /// Like `sendBytes`, but returns how much the line has taken within the time-out. Transactions call this
+    /// one. The default calls `sendBytes` and returns `Sent::WHOLE`.
     virtual Sent sendWithin(const buffer_t &bytes, std::chrono::milliseconds timeout);
 
     std::shared_ptr<IoLogger> getIoLogger();
     void fireMsg(std::shared_ptr<Msg> msg);
-    /// Tells the listeners and drops all received bytes. No caller today.
+    /// Calls the error listeners and drops all received bytes. No caller today.
     void fireError(const std::exception *error);
-    /// Takes the next bytes from the device, on the reading thread.
+    /// Accepts the next bytes from the device. Call it on the reading thread.
     void processNewData(buffer_t bytes);
     /// No caller today.
     void waitEmptyBuffer();
@@ -55,8 +55,8 @@ public:
 protected:
     const std::string TAG = "RFD24";
 
-    /// A transaction ended without waiting for a reply, since the line had not taken all of its request
-    /// within the time-out. On the thread of the transaction, once for each.
+    /// A transaction ended without waiting for a reply, because the line had not taken all of its request
+    /// within the time-out. Called once for each such transaction, on its thread.
     virtual void transactionGaveUp(const std::shared_ptr<Msg> &, Sent, std::chrono::milliseconds) {}
 
 private:
@@ -65,8 +65,8 @@ private:
     ListenerList<OnErrorListener> onErrorListeners;
     std::atomic<int> trIdHolder{0};
 
-    // Guards the three below: they are the reading thread's, but any thread may ask for the bytes and set the
-    // logger. Not held while a line is logged, since a sink of the log may ask, too.
+    // Guards the next three. The reading thread uses them, but any thread may ask for the bytes and set the
+    // logger. Not held while a line is logged, because the log's sink may ask, too.
     std::mutex readerMutex;
     std::vector<std::function<void()>> unlogged;
     MessageReader reader;

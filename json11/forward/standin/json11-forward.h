@@ -1,7 +1,7 @@
 #pragma once
 
-/// Declares the stand-in's value. Its namespace is inline and its own, so that a program may link the real
-/// json11 as well.
+/// Declares the stand-in's value. It has an inline namespace, so that a program may link the real json11,
+/// too.
 namespace json11 {
 inline namespace standin {
 class Json;

@@ -7,10 +7,10 @@
 
 #include "macros-on.h"
 
-/// What the AI made of the data at one frequency.
+/// The AI's result for the data at one frequency.
 ///
 /// - `freqMHz`: in MHz
-/// - `cnt`: a count of the device; need not be the length of `data`
+/// - `cnt`: a count that the device sends; it may differ from the length of `data`
 #define FIELDS(FIELD)                  \
     FIELD(float, freqMHz, FreqMHz)     \
     FIELD(SigTypeEnum, ai_res, Ai_res) \

@@ -8,7 +8,7 @@
 
 #include "macros-on.h"
 
-/// The rules that drive the EW outputs.
+/// The EW targets, which drive the EW outputs.
 #define FIELDS(FIELD) FIELD(std::vector<std::shared_ptr<EwTarget>>, targets, Targets)
 
 MESSAGE(ConfigEwMsg, m_configEwMsg, CONFIG_EW)

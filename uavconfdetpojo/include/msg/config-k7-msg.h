@@ -7,13 +7,13 @@
 
 /// The settings that generation K7 added: display, voice, headset jack, Bluetooth.
 ///
-/// - `voiceEn`: voice alert on
+/// - `voiceEn`: voice alarm on
 /// - `dispLvl`: display brightness, 0 to 100
 /// - `dispOffTime`: seconds without activity before the display shuts off
 /// - `indHeadLvl`: headphones volume, 0 to 100
 /// - `btEn`: Bluetooth on
 /// - `btPowerDbm`: Bluetooth transmit power in dBm
-/// - `voiceDbLvl`: level in dB from which the voice alert speaks
+/// - `voiceDbLvl`: level in dB from which the voice alarm speaks
 #define FIELDS(FIELD)                             \
     FIELD(bool, voiceEn, VoiceEn)                 \
     FIELD(int, dispLvl, DispLvl)                  \

@@ -10,7 +10,7 @@
 
 #include "macros-on.h"
 
-/// The main settings of the device, which also tell its protocol generation.
+/// The main settings of the device, and its generation.
 ///
 /// - `indLedLvl`: brightness, 0 to 100
 /// - `indSndLvl`: sound volume, 0 to 100

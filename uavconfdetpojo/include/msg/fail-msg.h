@@ -6,7 +6,7 @@
 
 #include "macros-on.h"
 
-/// The device refused a message.
+/// The device refuses a message.
 ///
 /// - `respOn`: type of the refused message
 /// - `failMsg`: text for the user

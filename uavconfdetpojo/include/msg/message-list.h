@@ -1,12 +1,12 @@
-// The one list of the messages, from which everything that names them all is made. Included between
-// macros-on.h and macros-off.h. Deliberately without a guard.
+// The list of all messages. Enumerators, table, readers and writers are made from it. Include it between
+// macros-on.h and macros-off.h. On purpose: no include guard.
 
-/// The message types in the order of their numbers: name (also the value of the key "type"), first protocol
-/// generation that has it, class, and the class of the request that makes the device send it.
+/// The message types in the order of their numbers. Columns: name, which is also the value of the key "type";
+/// first generation that has it; class; class of the request that makes the device send it.
 ///
-/// On purpose: FREQ_RANGE_ATTEN has a request class but no request here, since nothing reads it back;
-/// SET_MASK_RANGES stands among the old types and came with K7; USB_NODE_INIT came last and holds for every
-/// generation all the same.
+/// On purpose: FREQ_RANGE_ATTEN has no request here although there is a class for it, because nothing reads
+/// it back. SET_MASK_RANGES is among the old types but came with K7. USB_NODE_INIT came last but is for every
+/// generation.
 #define ENUMERATORS(ENUMERATOR)                                                  \
     ENUMERATOR(CONFIG, K1, ConfigMsg, GetConfigMsg)                              \
     ENUMERATOR(GET_CONFIG, K1, GetConfigMsg, NoRequest)                          \

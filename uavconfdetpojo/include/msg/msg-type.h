@@ -15,17 +15,17 @@
 #include "msg/message-list.h"
 
 class Msg;
-/// Stands in the place of a request class where no request makes the device send a type.
+/// In place of a request class: no request makes the device send this type.
 struct NoRequest;
 
 struct _MsgTypeEnumBase {
     std::string strValue;
     ProtoEnum sinceProto;
-    /// Text to message of the row's class; null for text that is no JSON object.
+    /// Makes a message of the row's class from a text; null for a text that is no JSON object.
     std::function<std::shared_ptr<Msg>(const std::string &)> parseFunc;
-    /// Null where no request makes the device send this type. Shared by all who send it; never modified.
+    /// Null if no request makes the device send this type. All senders share it; do not change it.
     std::shared_ptr<Msg> requestMsg;
-    /// The same as `parseFunc` for an object that is parsed already.
+    /// The same as `parseFunc` for an object that is already parsed.
     std::function<std::shared_ptr<Msg>(const json11::Json &)> fromJson;
 };
 
@@ -38,8 +38,8 @@ public:
     ProtoEnum getSinceProto() const { return record().sinceProto; }
     /// The request that makes the device send this type, or null.
     std::shared_ptr<Msg> getRequestMsg() const { return record().requestMsg; }
-    /// The type that the device sends at this request, or nothing: settings and orders are answered by OK or
-    /// FAIL, and SET_MASK by MASK_RESULT or FAIL.
+    /// The type of message with which the device answers this request. Nothing for other messages: settings
+    /// and orders are answered by OK or FAIL, and SET_MASK by MASK_RESULT or FAIL.
     std::optional<MsgTypeEnum> getReplyType() const;
     static std::function<std::shared_ptr<Msg>(const std::string &)> getParseFunc(MsgTypeEnum type) {
         return MsgType(type).record().parseFunc;
@@ -49,8 +49,8 @@ public:
 #define DECLARE_CLASS(NAME, since, Message, Request) class Message;
 ENUMERATORS(DECLARE_CLASS)
 
-/// Calls visit(Message *) with a null pointer to the class of a type, which tells no more than the class.
-/// `otherwise` is the result for a number that is no type.
+/// Calls visit(Message *) with a null pointer, whose class is that of the type. `otherwise` is the result for
+/// a number that is no type.
 template <typename Result, typename Visit>
 Result withClassOf(MsgTypeEnum type, Result otherwise, Visit visit) {
 #define VISIT_CLASS(NAME, since, Message, Request) \
@@ -60,7 +60,7 @@ Result withClassOf(MsgTypeEnum type, Result otherwise, Visit visit) {
     return otherwise;
 }
 
-/// The rows of the table, each made by Make::row<Message, Request>(name, first generation).
+/// The rows of the table. Make::row<Message, Request>(name, first generation) makes each of them.
 template <typename Make>
 auto rowsOfMsgType() {
 #define MAKE_ROW(NAME, since, Message, Request) Make::template row<Message, Request>(#NAME, ProtoEnum::since),

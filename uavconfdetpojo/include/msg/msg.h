@@ -8,22 +8,22 @@
 
 inline namespace kelvane {
 
-/// What all messages have: their type. There are no virtual operations, so a message is made by
-/// `std::make_shared` of its concrete class, and a holder of a `shared_ptr<Msg>` reaches that class by
-/// `messageCast`. A message is filled by one thread and only read once others have it.
+/// The base of all messages: their type. There are no virtual operations. So make a message with
+/// `std::make_shared` of its own class, and get from a `shared_ptr<Msg>` to that class with `messageCast`.
+/// One thread fills a message; when others have it, it is only read.
 class Msg {
 public:
     MsgTypeEnum getType() const { return type; }
-    /// Not to be called with another type on an object made as a concrete class.
+    /// Do not set another type on an object of a message's own class.
     void setType(MsgTypeEnum newType);
-    /// Leaves the first type, CONFIG. No caller today.
+    /// The type is then the first one, CONFIG, and absent. No caller today.
     void removeType();
 
-    /// Any text from the device to the message of its type: null if the text is no JSON object with a known
-    /// "type". A bad field leaves that field absent and the message valid.
+    /// Makes a message from a text of the device, by its "type". Returns null if the text is no JSON object
+    /// with a known type. A bad field stays absent, and the message is valid.
     static std::shared_ptr<Msg> parseJson(const std::string &text);
 
-    /// The base part as text; messages are written by the writer of their own class. No caller today.
+    /// The base part as text. The writer of a message's own class writes the whole message. No caller today.
     std::string parseMsg() const;
 
 private:
@@ -33,19 +33,19 @@ private:
     PresenceMap<Key> initVals;
 };
 
-/// The message as its own class: null if it is of another type, or no message at all.
+/// The message as its own class. Null if it is of another type or a null pointer.
 template <typename Message>
 std::shared_ptr<Message> messageCast(const std::shared_ptr<Msg> &msg) {
     return msg && msg->getType() == Message::TYPE ? std::static_pointer_cast<Message>(msg) : nullptr;
 }
 
-/// What all concrete message classes have in common; each adds its fields and its `TYPE`.
+/// The common part of all message classes. Each of them adds its fields and its `TYPE`.
 template <typename Message>
 class TypedMsg : public Msg {
 public:
     TypedMsg() { setType(Message::TYPE); }
 
-    /// Null for text that is no JSON object. The text's own "type" is not looked at.
+    /// Returns null for a text that is no JSON object. The text's "type" is ignored.
     static std::shared_ptr<Msg> parseJson(const std::string &text);
     static std::shared_ptr<Message> fromJson(const json11::Json &object);
     std::string parseMsg() const;

@@ -4,7 +4,7 @@
 
 #include "macros-on.h"
 
-/// The device took a message.
+/// The device accepts a message.
 ///
 /// - `respOn`: type of the message that this answers
 #define FIELDS(FIELD) FIELD(MsgTypeEnum, respOn, RespOn)

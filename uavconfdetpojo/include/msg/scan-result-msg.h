@@ -12,7 +12,7 @@
 /// One scan over all active ranges.
 ///
 /// - `freqs`: in the order of the device
-/// - `mask`: the mask of the device is on; devices always send it
+/// - `mask`: true if the mask of the device is on; devices always send it
 /// - `maskedModes`: the masked bands
 #define FIELDS(FIELD)                                                 \
     FIELD(std::vector<std::shared_ptr<FreqScanResult>>, freqs, Freqs) \

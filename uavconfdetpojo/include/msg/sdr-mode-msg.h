@@ -4,10 +4,10 @@
 
 #include "macros-on.h"
 
-/// The SDR mode at one frequency. What it does is the business of the device.
+/// The SDR mode at one frequency. Only the device knows what it does.
 ///
 /// - `freqMHz`: in MHz
-/// - `count`: without a unit here
+/// - `count`: unit unknown
 #define FIELDS(FIELD)              \
     FIELD(float, freqMHz, FreqMHz) \
     FIELD(int, count, Count)

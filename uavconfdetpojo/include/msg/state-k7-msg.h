@@ -8,7 +8,7 @@
 
 /// The state of the Bluetooth link.
 ///
-/// - `btConnect`: a peer is connected
+/// - `btConnect`: true if a peer is connected
 /// - `btMac`: address in the text form of the device
 #define FIELDS(FIELD)                 \
     FIELD(bool, btConnect, BtConnect) \

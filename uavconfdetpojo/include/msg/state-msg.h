@@ -11,11 +11,11 @@
 
 using StateRanges = std::map<MasterFreqModeEnum, std::shared_ptr<StateRange>>;
 
-/// Battery and boot state; the proof that a device is there.
+/// Battery and boot state. A device is recognised by this message.
 ///
 /// - `battLvl`: battery charge in percent
 /// - `battVoltage`: battery voltage in volts
-/// - `bootload`: the device runs its boot loader
+/// - `bootload`: true if the device runs its boot loader
 #define FIELDS(FIELD)                      \
     FIELD(int, battLvl, BattLvl)           \
     FIELD(float, battVoltage, BattVoltage) \

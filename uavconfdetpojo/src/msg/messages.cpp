@@ -5,7 +5,8 @@
 
 #include "msg/message-list.h"
 
-// The reader and the writer of each message, in one place so that no client needs the JSON library for them.
+// The reader and the writer of each message. They are all here, so that no client needs the JSON library to
+// compile.
 #define INSTANTIATE(NAME, since, Message, Request) template class TypedMsg<Message>;
 ENUMERATORS(INSTANTIATE)
 #undef INSTANTIATE

@@ -4,7 +4,7 @@
 
 #include "macros-on.h"
 
-/// Makes what was written to the external memory take effect.
+/// Makes the device use the data that was written to its external memory.
 #define FIELDS(FIELD)
 MESSAGE(ApplyExtMemoryMsg, m_applyExtMemoryMsg, APPLY_EXT_MEM)
 

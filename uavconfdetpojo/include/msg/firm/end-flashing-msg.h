@@ -4,7 +4,7 @@
 
 #include "macros-on.h"
 
-/// Closes the loading.
+/// Ends the loading of a firmware image.
 #define FIELDS(FIELD)
 MESSAGE(EndFlashingMsg, m_endFlashingMsg, END_FLASHING)
 

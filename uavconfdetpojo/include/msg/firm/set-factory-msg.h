@@ -6,7 +6,7 @@
 
 #include "macros-on.h"
 
-/// Writes the factory data of the device.
+/// Writes the serial number of the device.
 #define FIELDS(FIELD) FIELD(std::string, serial, Serial)
 
 MESSAGE(SetFactoryMsg, m_setFactoryMsg, SET_FACTORY)

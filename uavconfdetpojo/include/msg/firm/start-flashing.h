@@ -6,7 +6,7 @@
 
 #include "macros-on.h"
 
-/// Opens the loading of a firmware image.
+/// Begins the loading of a firmware image.
 ///
 /// - `md5File`: MD5 digest of the image, as text
 #define FIELDS(FIELD) FIELD(std::string, md5File, Md5File)

@@ -4,7 +4,7 @@
 
 #include "macros-on.h"
 
-/// Drives the signalling outputs for a test.
+/// Switches light, vibration and sound for a test.
 #define FIELDS(FIELD)         \
     FIELD(bool, led, Led)     \
     FIELD(bool, vibro, Vibro) \

@@ -4,7 +4,7 @@
 
 #include "macros-on.h"
 
-/// Tells the device to leave the boot loader for its application.
+/// Makes the device leave its boot loader and start its application.
 #define FIELDS(FIELD)
 MESSAGE(ToAppMsg, m_toAppMsg, TO_APP)
 

@@ -4,7 +4,7 @@
 
 #include "macros-on.h"
 
-/// Tells the device to enter its boot loader.
+/// Makes the device enter its boot loader.
 #define FIELDS(FIELD)
 MESSAGE(ToBootloadMsg, m_toBootloadMsg, TO_BOOTLOAD)
 

@@ -6,7 +6,7 @@
 
 #include "macros-on.h"
 
-/// Carries one piece of the image.
+/// One piece of the firmware image.
 ///
 /// - `b64Buffer`: base64 text
 #define FIELDS(FIELD) FIELD(std::string, b64Buffer, B64Buffer)
