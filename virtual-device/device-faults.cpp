@@ -7,7 +7,7 @@ using Manner = PtyDevice::Manner;
 
 namespace {
 
-constexpr milliseconds LATE{1000}; // more than a device has for its first answer
+constexpr milliseconds LATE{1000}; // more than the time-out of the first request
 
 std::vector<DeviceFault>::const_iterator faultNamed(const std::string &name) {
     return std::find_if(
@@ -21,10 +21,10 @@ const std::vector<DeviceFault> &deviceFaults() {
     static const std::vector<DeviceFault> FAULTS = {
         {"late", "Answers come a second late.", Manner::OBLIGING, LATE},
         {"silent", "The detector hears everything and says nothing.", Manner::SILENT},
-        {"deaf", "The detector takes no bytes, like one that has hung.", Manner::DEAF},
+        {"deaf", "The detector takes no bytes, as if it had crashed.", Manner::DEAF},
         {"sweeps", "The detector takes bytes only between two scans.", Manner::SWEEPING},
         {"refusing", "Every change of a setting fails.", Manner::REFUSING},
-        {"noise", "Bytes of no meaning come before each message.", Manner::NOISY},
+        {"noise", "Meaningless bytes come before each message.", Manner::NOISY},
         {"cut", "Messages end in the middle.", Manner::CUT},
         {"unplug", "The detector is unplugged for a while. Needs --period.", Manner::OBLIGING,
          milliseconds(0), true},
@@ -69,14 +69,14 @@ void DeviceFaults::run() {
     }
 }
 
-/// False when the end came before half to one and a half of this time had passed.
+/// Waits for a random time from half to one and a half of `about`. False if the end came first.
 bool DeviceFaults::lasts(milliseconds about) {
     const auto time = about * (50 + static_cast<int>(random() % 101)) / 100;
     std::unique_lock lock(mutex);
     return !changed.wait_for(lock, time, [this] { return ending; });
 }
 
-/// Empty for none.
+/// An empty name ends the fault.
 void DeviceFaults::set(const std::string &name) {
     const auto named = faultNamed(name);
     const DeviceFault fault = named == deviceFaults().end() ? DeviceFault() : *named;

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// What may be wrong with a device on its line.
+/// A fault that the virtual detector can have.
 struct DeviceFault {
     std::string name;
     std::string what; ///< a sentence for --help
@@ -19,12 +19,13 @@ struct DeviceFault {
 const std::vector<DeviceFault> &deviceFaults();
 bool isDeviceFault(const std::string &name);
 
-/// Has a device go wrong now and then, on a thread of its own: after about a period of good time one of the
-/// faults lasts for about a quarter of a period. The same seed gives the same faults after the same times.
-/// Without a period the first fault lasts all the time.
+/// Gives a virtual detector faults now and then, on a thread of its own. After about a period without a
+/// fault, one of the faults comes for about a quarter of a period. The same seed gives the same faults after
+/// the same times. With a period of 0 the first fault stays all the time.
 class DeviceFaults {
 public:
-    using Report = std::function<void(const std::string &fault)>; ///< empty when it is over; on the thread
+    /// Gets the name of the fault, or an empty one when it is over. Runs on the thread of the faults.
+    using Report = std::function<void(const std::string &fault)>;
 
     DeviceFaults(PtyDevice &device, std::vector<std::string> faults, std::chrono::milliseconds period,
                  unsigned seed, Report report);

@@ -31,7 +31,7 @@ double number(const std::string &text, double least, double most) {
 
 void requireName(bool known, const std::string &kind, const std::string &name) {
     if (!known)
-        throw std::runtime_error("there is no " + kind + " \"" + name + "\"; --help tells of all");
+        throw std::runtime_error("there is no " + kind + " \"" + name + "\"; see --help");
 }
 
 std::vector<std::string> faultNames(const std::string &list) {
@@ -48,17 +48,17 @@ std::vector<std::string> faultNames(const std::string &list) {
 
 struct Option {
     const char *name;
-    const char *value; ///< what --help calls it, or nullptr where the option has none
+    const char *value; ///< the value's name in --help; nullptr if the option has no value
     const char *what;  ///< for --help, in lines of at most 58 characters
-    /// Throws std::runtime_error with what is wrong with the value.
+    /// Throws std::runtime_error that says what is wrong with the value.
     void (*take)(DeviceOptions &options, const std::string &value);
 };
 
 const Option OPTIONS[] = {
     {"link", "PATH",
-     "PATH leads to the detector while it plays. The program\n"
-     "looks into /dev/serial/by-id, which is root's. Without\n"
-     "--link the detector's own terminal is printed.",
+     "PATH is a link to the detector while it plays. uav-vesper\n"
+     "looks into /dev/serial/by-id, where only root may write.\n"
+     "Without --link the path of the terminal is printed.",
      [](DeviceOptions &options, const std::string &value) { options.link = value; }},
     {"generation", "NAME", "The detector is of this generation. Default: K7",
      [](DeviceOptions &options, const std::string &value) {
@@ -93,21 +93,21 @@ const Option OPTIONS[] = {
      [](DeviceOptions &options, const std::string &value) {
          options.seed = static_cast<unsigned>(number(value, 0, 4294967295.0));
      }},
-    {"replay", "FILE", "The detector plays this recording when told to scan.",
+    {"replay", "FILE", "Settings and scans come from this recording.",
      [](DeviceOptions &options, const std::string &value) { options.replay = value; }},
     {"speed", "NUMBER", "The recording plays NUMBER times as fast. Default: 1",
      [](DeviceOptions &options, const std::string &value) { options.speed = number(value, 0.001, 1000); }},
     {"tap", "DEVICE",
-     "Every byte passes between this real detector and the\n"
-     "program. Needs --record.",
+     "Plays nothing: passes each byte between this real\n"
+     "detector and the program. Needs --record.",
      [](DeviceOptions &options, const std::string &value) { options.tapped = value; }},
-    {"record", "FILE", "The tap writes what either side says to this file.",
+    {"record", "FILE", "The tap writes all bytes of both sides to this file.",
      [](DeviceOptions &options, const std::string &value) { options.record = value; }},
-    {"help", nullptr, "This text is printed.",
+    {"help", nullptr, "Prints this text.",
      [](DeviceOptions &options, const std::string &) { options.help = true; }},
 };
 
-/// A line of --help, or several, with the text in a column of its own.
+/// A line of --help, or several. The text is in the second column.
 std::string row(const std::string &head, std::size_t width, std::string what) {
     const std::string margin(width, ' ');
     for (std::size_t end = 0; (end = what.find('\n', end)) != std::string::npos; end += width)
@@ -131,7 +131,7 @@ void checkTogether(const DeviceOptions &options, const std::set<std::string> &gi
     require(options.tapped.empty() == options.record.empty(), "--tap and --record go together");
     if (!options.tapped.empty())
         refuse({"generation", "pace", "scene", "battery", "faults", "replay"},
-               " is for a device that is played; --tap has a real one");
+               " is for the virtual detector; --tap uses a real one");
     if (options.replay.empty())
         refuse({"speed"}, " needs --replay");
     else
@@ -169,7 +169,7 @@ DeviceOptions parseDeviceOptions(int argc, char **argv) {
     known.push_back({});
     DeviceOptions options;
     options.seed = std::random_device()();
-    optind = 0; // getopt begins anew
+    optind = 0; // getopt starts again
     opterr = 0;
     std::set<std::string> given;
     for (int word = 1, index = 0, result;
@@ -177,7 +177,7 @@ DeviceOptions parseDeviceOptions(int argc, char **argv) {
         if (result == ':')
             throw std::runtime_error(std::string(argv[word]) + " needs a value");
         if (result != 0)
-            throw std::runtime_error(std::string(argv[word]) + " is no option; --help tells of all");
+            throw std::runtime_error(std::string(argv[word]) + " is no option; see --help");
         const Option &option = OPTIONS[index];
         try {
             option.take(options, optarg ? optarg : "");
@@ -187,7 +187,7 @@ DeviceOptions parseDeviceOptions(int argc, char **argv) {
         given.insert(option.name);
     }
     if (optind < argc)
-        throw std::runtime_error(std::string(argv[optind]) + " is no option; --help tells of all");
+        throw std::runtime_error(std::string(argv[optind]) + " is no option; see --help");
     checkTogether(options, given);
     return options;
 }

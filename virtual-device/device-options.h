@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// How a virtual device is to play, as its user says on the command line.
+/// The options of the virtual detector's command line.
 struct DeviceOptions {
     std::string link; ///< empty for none
     ProtoEnum generation = ProtoEnum::K7;
@@ -14,15 +14,15 @@ struct DeviceOptions {
     std::string scene = "drone";
     int battery = 87; ///< percent
     std::vector<std::string> faults;
-    std::chrono::milliseconds faultPeriod{0}; ///< 0: the one fault all the time
+    std::chrono::milliseconds faultPeriod{0}; ///< 0: the fault stays all the time
     unsigned seed = 0;
     std::string replay; ///< a recording, or empty
     double speed = 1;
-    std::string tapped, record; ///< stands between this device and the program, or empty
+    std::string tapped, record; ///< the real detector and the file of the tap, or both empty
     bool help = false;
 };
 
-/// What --help says of the options, and of the names that they take.
+/// The text of --help for the options and for the names that they take.
 std::string deviceOptionsHelp();
 
 /// Throws std::runtime_error with one line for the user.

@@ -20,7 +20,7 @@ constexpr int SCANS = History::DEFAULT_HISTORY_LEN + 1;
 } // namespace
 
 std::vector<ScanResults> fieldScene(ProtoEnum generation) {
-    std::minstd_rand engine; // seeded alike each time
+    std::minstd_rand engine; // has the same seed each time
     const auto ripple = [&engine](int most) { return static_cast<float>(engine() % (most + 1U)); };
     std::vector<ScanResults> scans;
     scans.reserve(SCANS);

@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr std::size_t MOST_PENDING = 65536; // bytes; above it the side that they come from is not read
+constexpr std::size_t MOST_PENDING = 65536; // bytes; with more of them their sender is not read
 
-/// Bytes pass unchanged: the program's line has made them what they are.
+/// Bytes pass unchanged. The program's terminal has already changed the line ends.
 int openRaw(const std::string &path) {
     const int line = checked(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC), path);
     termios settings{};
@@ -26,12 +26,12 @@ int openRaw(const std::string &path) {
     return line;
 }
 
-/// What to wait for at an end, by what comes from it and what is to go to it.
+/// The events to wait for at an end. `from` is what came from it, `to` is what must go to it.
 short events(const std::string &from, const std::string &to) {
     return static_cast<short>((from.size() < MOST_PENDING ? POLLIN : 0) | (to.empty() ? 0 : POLLOUT));
 }
 
-/// As much of it as the line takes now.
+/// Writes as much as the line takes now.
 void writeTo(int line, std::string &pending) {
     const ssize_t taken = pending.empty() ? 0 : ::write(line, pending.data(), pending.size());
     pending.erase(0, static_cast<std::size_t>(std::max<ssize_t>(taken, 0)));
@@ -53,32 +53,32 @@ LineTap::~LineTap() {
 }
 
 void LineTap::run(int stop) {
-    std::string toDevice, toProgram; // recorded, and not taken by that end yet
+    std::string toDevice, toProgram; // recorded, but not yet taken by that end
     for (bool isOpen = false;;) {
         pollfd ends[] = {{stop, POLLIN, 0},
                          {device, events(toProgram, toDevice), 0},
                          {pty.descriptor(), events(toDevice, toProgram), 0}};
-        // A closed line answers every poll at once.
+        // With a closed line every poll returns at once.
         poll(ends, isOpen ? 3 : 2, isOpen ? -1 : Pty::CLOSED_POLL);
         if (ends[0].revents != 0)
             return;
         const bool wasOpen = std::exchange(isOpen, pty.isOpen());
         if (wasOpen && !isOpen)
-            pty.dropUnread(); // or it would meet the next who opens the line
+            pty.dropUnread(); // otherwise the next program would read it
         if ((ends[1].revents & ~POLLOUT) && !read(device, true, toProgram))
             throw std::runtime_error(path + ": the device has gone");
-        // A program may have closed the line right after its last words.
+        // A program may have closed the line right after its last bytes.
         if (!isOpen ? toDevice.size() < MOST_PENDING : ends[2].revents & POLLIN)
             read(pty.descriptor(), false, toDevice);
         writeTo(device, toDevice);
         if (isOpen)
             writeTo(pty.descriptor(), toProgram);
         else
-            toProgram.clear(); // what nobody reads is gone, as on a real line
+            toProgram.clear(); // bytes that nobody reads are lost, as on a real line
     }
 }
 
-/// False when nothing comes from there any more.
+/// False if that end has gone.
 bool LineTap::read(int from, bool fromDevice, std::string &pending) {
     char bytes[4096];
     const ssize_t count = ::read(from, bytes, sizeof bytes);

@@ -5,20 +5,20 @@
 
 #include <filesystem>
 
-/// Stands between a real device and a program: passes every byte on and records both directions. The program
-/// opens the other end of a pseudo-terminal that is linked at `link`.
+/// Sits between a real device and a program. It passes every byte on and records both directions. The program
+/// opens the other end of a pseudo-terminal, by the link at `link`.
 class LineTap {
 public:
-    /// Throws std::runtime_error where the device does not open or something is at `link` already; without a
-    /// link where it is empty.
+    /// Makes no link if `link` is empty. Throws std::runtime_error if the device does not open or `link`
+    /// exists already.
     LineTap(const std::string &device, const std::filesystem::path &link, const std::string &recordingPath);
     ~LineTap();
     LineTap(const LineTap &) = delete;
     LineTap &operator=(const LineTap &) = delete;
 
     const std::string &terminal() const { return pty.terminal(); }
-    /// Until `stop` can be read, whether either end takes bytes or not. Throws std::runtime_error when the
-    /// device has gone or the recording can't go on.
+    /// Runs until the descriptor `stop` can be read, also if an end takes no bytes. Throws std::runtime_error
+    /// when the device has gone or the recording can't be written.
     void run(int stop);
 
 private:

@@ -1,4 +1,4 @@
-// Plays a detector on a pseudo-terminal, or stands between a real one and the program.
+// Plays a detector on a pseudo-terminal, or sits between a real detector and the program.
 
 #include "line-tap.h"
 #include "virtual-device.h"
@@ -12,13 +12,13 @@
 
 namespace {
 
-/// Can be read once the process was told to end; nothing else happens then.
+/// A descriptor that can be read after a signal that asks the process to end. The signal itself does nothing.
 int endingEvent() {
     sigset_t ending;
     sigemptyset(&ending);
     for (const int number : {SIGINT, SIGTERM, SIGHUP})
         sigaddset(&ending, number);
-    sigprocmask(SIG_BLOCK, &ending, nullptr); // before the first thread, which then have it too
+    sigprocmask(SIG_BLOCK, &ending, nullptr); // before the first thread starts, because threads inherit it
     return checked(signalfd(-1, &ending, SFD_CLOEXEC), "signalfd");
 }
 
@@ -39,7 +39,7 @@ void play(const DeviceOptions &options, int ending) {
 
 int main(int argc, char **argv) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
-    std::signal(SIGPIPE, SIG_IGN); // it plays on when nobody reads what it says any more
+    std::signal(SIGPIPE, SIG_IGN); // it goes on if nobody reads its output any more
     try {
         const DeviceOptions options = parseDeviceOptions(argc, argv);
         if (options.help)

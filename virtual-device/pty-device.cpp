@@ -49,7 +49,7 @@ std::map<std::string, Json::object> factorySettings(ProtoEnum proto) {
              {{"battLvl", 87}, {"battVoltage", 3.9}, {"bootload", false}, {"stateRanges", Json::object()}}}};
 }
 
-/// Behind the last brace of the object that begins at or after `start`, or npos.
+/// The position behind the last brace of the object that begins at or after `start`, or npos.
 std::size_t objectEnd(const std::string &text, std::size_t start) {
     int depth = 0;
     bool quoted = false;
@@ -225,7 +225,7 @@ void PtyDevice::run() {
         bool isOpen = false;
         {
             const std::lock_guard lock(mutex);
-            isOpen = pty->isOpen(); // before it reads, so that it has all when a closed port shows
+            isOpen = pty->isOpen(); // checked before reading, so that no bytes are left if the port is closed
             if (isListening())
                 readBytes();
             setOpen(isOpen);
@@ -236,14 +236,14 @@ void PtyDevice::run() {
             ends[1].events =
                 static_cast<short>((isListening() ? POLLIN : 0) | (leaving.empty() ? 0 : POLLOUT));
         }
-        // A closed port answers every poll at once, so only the other end is waited for then.
+        // With a closed port every poll returns at once, so then only the other descriptor is waited for.
         poll(ends, isOpen ? 2 : 1, timeout);
         eventfd_t ignored;
         eventfd_read(wakeEvent, &ignored);
     }
 }
 
-/// What nobody has read is gone with a closed port and does not meet the next who opens it.
+/// When the port is closed, unread bytes are dropped, so that the next program does not read them.
 void PtyDevice::setOpen(bool isOpen) {
     if (!isOpen) {
         outgoing.clear();
@@ -320,7 +320,7 @@ void PtyDevice::queue(const std::string &message, milliseconds delay) {
 void PtyDevice::write() {
     if (isStreaming() && Clock::now() >= scanDue) {
         scanDue = Clock::now() + scanPeriod;
-        if (leaving.empty()) // it has room for one
+        if (leaving.empty()) // there is room for one
             queue(MsgToJsonParser::toJson(nextScan()), milliseconds(0));
         if (manner == Manner::SWEEPING)
             readBytes();
@@ -340,10 +340,10 @@ bool PtyDevice::isListening() const {
     return manner != Manner::DEAF && !(manner == Manner::SWEEPING && isStreaming() && open);
 }
 
-/// -1 for ever.
+/// The time for poll; -1 means no limit.
 int PtyDevice::msUntilDue() const {
     if (!leaving.empty())
-        return 1; // the reader is behind
+        return 1; // the reader has not taken all yet
     auto due = isStreaming() ? scanDue : Clock::time_point::max();
     if (!outgoing.empty())
         due = std::min(due, outgoing.begin()->first);

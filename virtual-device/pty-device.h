@@ -17,7 +17,7 @@
 #include <thread>
 #include <vector>
 
-/// A directory like the one in which the system links serial devices, gone with the object.
+/// A directory like the one in which the system links serial devices. It is removed with the object.
 class SerialDirectory {
 public:
     SerialDirectory();
@@ -31,51 +31,52 @@ private:
     std::filesystem::path directory;
 };
 
-/// A device on a pseudo-terminal that is linked under a serial directory. On a thread of its own it answers
-/// requests, keeps settings, streams scans while told to and while somebody has the port open, and records
-/// every byte it gets. All operations may be called from any thread.
+/// The virtual detector: a device on a pseudo-terminal. On a thread of its own it answers requests, keeps
+/// settings, and records every byte that it gets. It streams scans between SCAN on and SCAN off, while the
+/// port is open. All operations may be called from any thread.
 class PtyDevice {
 public:
     enum class Manner {
         OBLIGING,
-        DEAF,     // reads nothing from the line, as a device that has hung
-        SILENT,   // hears everything, says nothing
-        REFUSING, // FAIL to every change of a setting and to the mask
-        NOISY,    // bytes that belong to no object in front of each message
-        CUT,      // messages end in the middle
-        SWEEPING  // while it streams, takes bytes from the line only between two scans
+        DEAF,     // reads nothing from the line, as if it had crashed
+        SILENT,   // reads everything, sends nothing
+        REFUSING, // answers FAIL to every change of a setting and to the mask
+        NOISY,    // sends meaningless bytes before each message
+        CUT,      // sends messages that end in the middle
+        SWEEPING  // while it streams, reads only between two scans
     };
     static constexpr std::chrono::seconds DEADLINE{10};
 
     explicit PtyDevice(const SerialDirectory &directory, ProtoEnum proto = ProtoEnum::K7,
                        const std::string &linkName = "usb-detector");
-    /// With its link at this path, or none where it is empty. Throws std::runtime_error where something is
-    /// there already or the link can't be made.
+    /// `link` is the path of the link to the terminal; empty for no link. Throws std::runtime_error if the
+    /// path exists already or the link can't be made.
     explicit PtyDevice(std::filesystem::path link, ProtoEnum proto = ProtoEnum::K7);
     ~PtyDevice();
     PtyDevice(const PtyDevice &) = delete;
     PtyDevice &operator=(const PtyDevice &) = delete;
 
-    /// The terminal and its link go; whoever has it open reads nothing any more. It stops scanning and keeps
-    /// its settings.
+    /// Removes the terminal and its link. A program that has the terminal open reads nothing any more. The
+    /// device stops scanning and keeps its settings.
     void unplug();
     void plugIn();
 
     void setManner(Manner manner);
-    /// Answers leave so much later than asked for.
+    /// The time from a request to its answer.
     void setAnswerDelay(std::chrono::milliseconds delay);
-    /// Zero for scans on demand only. A scan that comes due while one is still leaving is left out.
+    /// The time between two scans; 0 means no scans by itself. A scan is left out if the one before is still
+    /// leaving.
     void setScanPeriod(std::chrono::milliseconds period);
-    /// Streams scans without having been told to.
+    /// Streams scans without a SCAN message.
     void startStreaming();
     void setBattery(int percent);
-    /// What it hears from the next scan on. Called on the device's thread.
+    /// The scene of the following scans. It is called on the device's thread.
     void setScene(Scene scene);
-    /// What it answers when asked for this type, by key.
+    /// The settings of a message type, by key, with which the device answers.
     void setSettings(const std::string &type, const json11::Json::object &values);
 
     void sendText(const std::string &text);
-    /// As the device writes its messages, with a line end.
+    /// Sends a message as a device writes it, with a line end.
     void send(const std::shared_ptr<Msg> &msg);
     void sendScan(const std::vector<std::shared_ptr<FreqScanResult>> &results, bool mask = false);
 
@@ -84,17 +85,17 @@ public:
     std::vector<std::string> requests() const;
     std::vector<std::string> requestTypes() const;
     void clearRecord();
-    /// The settings of a message type as the device has them now, by key.
+    /// The current settings of a message type, by key.
     json11::Json::object settingsOf(const std::string &type) const;
     bool isScanning() const;
-    /// Since it was made, whether somebody read them or not.
+    /// Number of scans since it was made, read or not.
     std::size_t scansSent() const;
 
-    /// These are false when the deadline has passed.
+    /// These return false if the deadline has passed.
     bool waitForRequests(std::size_t count) const;
     bool waitForOpen(bool open) const;
 
-    /// These are for a device that is plugged in.
+    /// Call these only while the device is plugged in.
     std::string terminal() const { return pty->terminal(); }
     termios lineSettings() const { return pty->lineSettings(); }
     void setLineSettings(const termios &line) { pty->setLineSettings(line); }
@@ -135,9 +136,9 @@ private:
     std::size_t scans = 0;
     Scene scene = wanderingPeaks;
     std::multimap<Clock::time_point, std::string> outgoing; // by the time they are due
-    std::string leaving;                                    // due, and not taken by the terminal yet
+    std::string leaving;                                    // due, but not yet taken by the terminal
     std::string record;
-    std::size_t framed = 0; // bytes of the record that are done with
+    std::size_t framed = 0; // bytes of the record that have been read
     std::vector<std::string> requestTexts;
     std::vector<std::string> types;
 };

@@ -23,14 +23,16 @@ Pty::Pty()
     checked(grantpt(master), "grantpt");
     checked(unlockpt(master), "unlockpt");
     slaveName = ptsname(master);
-    // It is root's, who plays a device at the system's own place; whoever sits here plays with it.
+    // Root plays a device at the system's own place. Every user may open it.
     if (geteuid() == 0)
         checked(chmod(slaveName.c_str(), 0666), "chmod");
-    // Whoever opens the port sets the line up; before that it must not send back what the device says.
+    // A program sets the line up when it opens the port. Before that the line must not echo the device's
+    // bytes.
     termios line = lineSettings();
     line.c_lflag &= ~static_cast<tcflag_t>(ECHO);
     setLineSettings(line);
-    close(checked(::open(slaveName.c_str(), O_RDWR | O_NOCTTY), "open")); // from now on "closed" can be seen
+    // Only after this a closed end can be recognised.
+    close(checked(::open(slaveName.c_str(), O_RDWR | O_NOCTTY), "open"));
 }
 
 Pty::~Pty() {
@@ -55,7 +57,7 @@ void Pty::linkAt(const fs::path &path) {
 }
 
 void Pty::unlink() {
-    std::error_code stays; // a folder that others use by now
+    std::error_code stays; // ignored: others may use the folder by now
     for (const fs::path &path : std::exchange(made, {}))
         fs::remove(path, stays);
 }

@@ -5,12 +5,12 @@
 #include <termios.h>
 #include <vector>
 
-/// A pseudo-terminal: what is written to one end is read at the other. The program under test opens the other
-/// end by its path; where root plays, so may everybody. Throws std::runtime_error where the system has none
-/// left.
+/// A pseudo-terminal: bytes that are written to one end are read at the other. A program opens the other end
+/// by its path. If root makes the terminal, every user may open it. Throws std::runtime_error if the system
+/// has none left.
 class Pty {
 public:
-    /// ms between looks whether somebody opened the other end, which no event tells.
+    /// In ms: how often to check whether the other end was opened. There is no event for that.
     static constexpr int CLOSED_POLL = 5;
 
     Pty();
@@ -18,17 +18,17 @@ public:
     Pty(const Pty &) = delete;
     Pty &operator=(const Pty &) = delete;
 
-    /// Links the terminal at this path, until `unlink` or the end, and makes the folders that are missing on
-    /// the way there for as long. Throws std::runtime_error where something is there already or the directory
-    /// is not the user's.
+    /// Makes a link to the terminal at this path, and the folders that are missing there. Both stay until
+    /// `unlink` or the destructor. Throws std::runtime_error if the path exists already or the user may not
+    /// write there.
     void linkAt(const std::filesystem::path &path);
     void unlink();
-    /// Our end, which does not block.
+    /// The descriptor of our end; it is non-blocking.
     int descriptor() const { return master; }
     const std::string &terminal() const { return slaveName; }
-    /// Somebody has the other end open.
+    /// True while the other end is open.
     bool isOpen() const;
-    /// Drops what was written and nobody has read.
+    /// Drops the bytes that were written and not read.
     void dropUnread() const;
 
     termios lineSettings() const;
@@ -37,8 +37,9 @@ public:
 private:
     int master = -1;
     std::string slaveName;
-    std::vector<std::filesystem::path> made; // the link and its folders, to be removed in this order
+    std::vector<std::filesystem::path> made; // the link and its folders, in the order of removing
 };
 
-/// The result of a system call, or std::runtime_error with the operation's name and the reason.
+/// Returns the result of a system call. If it failed, throws std::runtime_error with the operation's name and
+/// the reason.
 int checked(int result, const std::string &operation);

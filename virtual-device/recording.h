@@ -5,19 +5,19 @@
 #include <string>
 #include <vector>
 
-/// What passed over a line: a file with a JSON object a line, {"from": "device" or "program", "ms": since the
-/// start, "text": the bytes of one read}.
+/// An entry of a recording of a line. The file has a JSON object on each line: {"from": "device" or
+/// "program", "ms": time since the start, "text": the bytes of one read}.
 struct Recorded {
     std::chrono::milliseconds at{0};
     bool fromDevice = false;
     std::string text;
 };
 
-/// Throws std::runtime_error with the file, the line and what is wrong with it.
+/// Throws std::runtime_error that names the file, the line and what is wrong.
 std::vector<Recorded> readRecording(const std::string &path);
 
-/// Writes a recording as it happens; each line is in the file when `write` returns. Throws std::runtime_error
-/// where the file can't be made or the disk is full.
+/// Writes a recording. Each entry is in the file when `write` returns. Throws std::runtime_error if the file
+/// can't be made or the disk is full.
 class RecordingWriter {
 public:
     explicit RecordingWriter(const std::string &path);

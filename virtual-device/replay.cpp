@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto STEP = 5ms; // between looks whether the scan was stopped
+constexpr auto STEP = 5ms; // between two checks whether the scan was stopped
 
 bool isOrderToScan(const Recorded &entry) {
     return !entry.fromDevice && entry.text.find("\"SCAN\"") != std::string::npos &&
@@ -31,7 +31,7 @@ Replay::Replay(PtyDevice &played, const std::vector<Recorded> &recording, double
         throw std::runtime_error("The device says nothing in this recording.");
     for (Recorded &entry : stream)
         entry.at -= begin->at;
-    device.setScanPeriod(0ms); // its scans are those of the recording
+    device.setScanPeriod(0ms); // the scans come from the recording
     thread = std::thread([this, speed] { run(speed); });
 }
 

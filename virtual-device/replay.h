@@ -6,12 +6,12 @@
 #include <atomic>
 #include <thread>
 
-/// Plays what a device said in a recording: it answers with the settings that were told there, and each time
-/// that it is told to scan, what followed the recorded order to scan comes again, with its own timing divided
-/// by `speed`. The end of the recording is silence. On a thread of its own.
+/// Plays a recording of a device, on a thread of its own. The device answers with the recorded settings.
+/// After each SCAN on it sends what followed the recorded SCAN on, at the recorded times divided by `speed`.
+/// After the end of the recording it sends no more scans.
 class Replay {
 public:
-    /// Throws std::runtime_error where the device says nothing in it.
+    /// Throws std::runtime_error if the recording has no bytes of the device.
     Replay(PtyDevice &device, const std::vector<Recorded> &recording, double speed);
     ~Replay();
     Replay(const Replay &) = delete;
@@ -23,7 +23,7 @@ private:
     bool goesOn() const { return !ending && device.isScanning(); }
 
     PtyDevice &device;
-    std::vector<Recorded> stream; ///< of the device, from the order to scan on; `at` counts from there
+    std::vector<Recorded> stream; ///< from the device, after SCAN on; `at` counts from there
     std::atomic<bool> ending{false};
     std::thread thread;
 };

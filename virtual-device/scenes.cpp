@@ -9,14 +9,14 @@ namespace {
 constexpr float NOISE_FLOOR = LevelScale::SILENCE;
 constexpr int NOISE_RIPPLE = 6;      // dB
 constexpr float FALL = 6;            // dB from the middle of a source to its edge
-constexpr std::size_t APPROACH = 40; // scans until the drone is there, and as many until it has gone
+constexpr std::size_t APPROACH = 40; // scans until the drone is near, and as many until it has gone
 
 std::shared_ptr<FreqScanResult> resultOf(float freqMHz, float rssi, SigTypeEnum type) {
     return std::make_shared<FreqScanResult>(
         FreqScanResultBuilder().freqMHz(freqMHz).rssi(rssi).type(type).build());
 }
 
-/// Sources over noise that is the same each time that this scan is asked for.
+/// A scene of these sources over noise. The same scan always has the same noise.
 Scene sceneWith(std::vector<Source> sources) {
     return [sources = std::move(sources)](std::size_t scan, const std::vector<FreqModeEnum> &ranges) {
         std::minstd_rand engine(static_cast<unsigned>(scan + 1));

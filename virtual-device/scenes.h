@@ -11,10 +11,10 @@
 
 using ScanResults = std::vector<std::shared_ptr<FreqScanResult>>;
 
-/// What a detector hears in its n-th scan, counted from 0, over its active ranges.
+/// A scene: returns the results of scan number `scan`, counted from 0, over the active ranges.
 using Scene = std::function<ScanResults(std::size_t scan, const std::vector<FreqModeEnum> &ranges)>;
 
-/// A transmitter as a detector hears it over one scene.
+/// A transmitter of a scene, as the detector hears it.
 struct Source {
     float freqMHz;
     float halfWidthMHz;
@@ -23,12 +23,12 @@ struct Source {
     float last;  ///< dB in the newest scan
 };
 
-/// What is heard of these sources over noise; `share` is how far the scene has come, from 0 to 1. The noise
-/// is drawn from `ripple`, which gives a number of dB from 0 to the one that it is given.
+/// The results of a scan of these sources over noise. `share` is the progress of the scene, from 0 to 1.
+/// `ripple(most)` returns the noise as a number of dB from 0 to `most`.
 ScanResults hear(const std::vector<Source> &sources, const std::vector<FreqModeEnum> &ranges, float share,
                  const std::function<float(int)> &ripple);
 
-/// A peak wanders through each active range, a Wi-Fi one, a digital one, an FPV one.
+/// A peak moves through each active range. Its class is Wi-Fi, digital or FPV in turn.
 ScanResults wanderingPeaks(std::size_t scan, const std::vector<FreqModeEnum> &ranges);
 
 /// A scene that a user may choose.
@@ -39,5 +39,5 @@ struct NamedScene {
 };
 
 const std::vector<NamedScene> &namedScenes();
-/// Nothing for a name that no scene has.
+/// Nothing if no scene has this name.
 std::optional<Scene> sceneOf(const std::string &name);

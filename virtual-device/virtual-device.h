@@ -6,10 +6,10 @@
 
 #include <memory>
 
-/// A device that plays as told, and says on standard output what it does.
+/// The virtual detector with its options. It prints what it does to standard output.
 class VirtualDevice {
 public:
-    /// Throws std::runtime_error with one line for the user.
+    /// Throws std::runtime_error with a one-line text for the user.
     explicit VirtualDevice(const DeviceOptions &options);
 
     PtyDevice &pty() { return *device; }

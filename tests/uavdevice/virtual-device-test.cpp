@@ -38,16 +38,16 @@ static DeviceOptions parse(std::vector<std::string> words) {
 
 TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
     const std::pair<std::vector<std::string>, const char *> cases[] = {
-        {{"--rain"}, "--rain is no option; --help tells of all"},
-        {{"rain"}, "rain is no option; --help tells of all"},
-        {{"--battery", "9", "-help"}, "-help is no option; --help tells of all"},
+        {{"--rain"}, "--rain is no option; see --help"},
+        {{"rain"}, "rain is no option; see --help"},
+        {{"--battery", "9", "-help"}, "-help is no option; see --help"},
         {{"--pace"}, "--pace needs a value"},
         {{"--pace", "fast"}, "--pace: \"fast\" is no number from 1 to 3600000"},
         {{"--battery", "101"}, "--battery: \"101\" is no number from 0 to 100"},
         {{"--speed", "2x"}, "--speed: \"2x\" is no number from 0.001 to 1000"},
-        {{"--generation", "K99"}, "--generation: there is no generation \"K99\"; --help tells of all"},
-        {{"--scene", "sea"}, "--scene: there is no scene \"sea\"; --help tells of all"},
-        {{"--faults", "cut,rain"}, "--faults: there is no fault \"rain\"; --help tells of all"},
+        {{"--generation", "K99"}, "--generation: there is no generation \"K99\"; see --help"},
+        {{"--scene", "sea"}, "--scene: there is no scene \"sea\"; see --help"},
+        {{"--faults", "cut,rain"}, "--faults: there is no fault \"rain\"; see --help"},
         {{"--faults", "unplug"}, "--faults: several of them, or unplug, need a --period"},
         {{"--tap", "/dev/null"}, "--tap and --record go together"},
         {{"--speed", "2"}, "--speed needs --replay"},
@@ -58,7 +58,7 @@ TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
         {{"--replay", "x", "--scene", "drone"},
          "--scene is not for --replay, which plays the scans of the recording"},
         {{"--tap", "x", "--record", "x", "--faults", "cut"},
-         "--faults is for a device that is played; --tap has a real one"},
+         "--faults is for the virtual detector; --tap uses a real one"},
     };
     for (const auto &[words, error] : cases)
         EXPECT_EQ(errorOf([&, &given = words] { parse(given); }), error);
