@@ -13,7 +13,8 @@
 
 using namespace std::chrono_literals;
 
-// The linker's option --wrap sends the program's calls to the functions "__wrap_", and these to the system's.
+// The linker's option --wrap sends the program's calls to the functions "__wrap_". The functions "__real_"
+// are the system's.
 extern "C" {
 int __real_tcgetattr(int descriptor, termios *settings);
 int __real_tcsetattr(int descriptor, int when, const termios *settings);
@@ -28,10 +29,10 @@ int __real_tcflush(int descriptor, int queue);
 namespace {
 
 constexpr std::size_t MOST_PIECES = 16, PIECE_SIZE = 1280; // bytes
-constexpr auto STEP = 1ms;                                 // between looks at what no event tells
+constexpr auto STEP = 1ms;                                 // between two checks of states without an event
 
-std::mutex registry;           // taken by every thread that makes a call; guards theLine and its descriptors
-CdcAcmLine *theLine = nullptr; // outlives the program's use of the terminal, not that of other descriptors
+std::mutex registry;           // guards theLine and its descriptors; every call takes it
+CdcAcmLine *theLine = nullptr; // lives while the program uses the terminal; other descriptors live longer
 
 } // namespace
 
@@ -109,13 +110,13 @@ void CdcAcmLine::close(int terminal) {
     underWay.clear();
 }
 
-/// Any of the program's, which all lead to the same terminal; -1 without one.
+/// Any of the program's descriptors, since all are of the same terminal; -1 without one.
 int CdcAcmLine::descriptor() const {
     const std::lock_guard lock(registry);
     return descriptors.empty() ? -1 : descriptors.front();
 }
 
-/// The device was pulled out. Under the lock.
+/// True if the device was unplugged. The lock is held.
 bool CdcAcmLine::hasGone() const {
     pollfd end{descriptor(), 0, 0};
     __real_poll(&end, 1, 0);
@@ -172,7 +173,7 @@ void CdcAcmLine::flush() {
 
 void CdcAcmLine::run() {
     std::unique_lock lock(mutex);
-    /// Without the lock: what is asked may have locks of its own.
+    /// Called without the lock, because the function may have locks of its own.
     const auto isTaking = [&] {
         const auto condition = takes;
         const auto wait = pace;
@@ -186,7 +187,7 @@ void CdcAcmLine::run() {
     while (!ending) {
         changed.wait_for(lock, STEP);
         while (!underWay.empty() && !ending && isTaking() && !underWay.empty()) {
-            // The terminal makes carriage return and line feed of a line end itself.
+            // The terminal itself makes carriage return and line feed of a line end.
             std::string &piece = underWay.front();
             const ssize_t taken = __real_write(descriptor(), piece.data(), piece.size());
             if (taken <= 0)

@@ -177,8 +177,8 @@ QImage ScreenDriver::picture() const {
     window.update();
     if (drawn.isEmpty())
         drawn.wait();
-    // QQuickWindow::grabWindow() gives nothing on the offscreen platform with software rendering.
-    // Of a window on Wayland there is no other picture.
+    // QQuickWindow::grabWindow() gives nothing on the offscreen platform with software rendering. On Wayland
+    // this is the only way to a picture of a window.
     const QImage picture = window.screen()->grabWindow(window.winId()).toImage();
     return picture.isNull() ? window.grabWindow() : picture;
 }

@@ -8,18 +8,18 @@
 #include <QVector>
 #include <functional>
 
-/// Uses a window as a person does: finds things by the word or the picture on them, presses and drags with
-/// real mouse events, and looks at the result. UI thread only; the offscreen platform and software rendering
-/// suffice.
+/// Uses a window like a person: finds things by the word or the picture on them, presses and drags with real
+/// mouse events, and looks at the result. UI thread only. The offscreen platform and software rendering are
+/// enough.
 class ScreenDriver {
 public:
     explicit ScreenDriver(QQuickWindow &shownWindow)
         : window(shownWindow) {}
 
-    /// The visible items of an element, in another item if there is one, parents before children. An element
-    /// is known by the name of its document or its class ("Button", "UavSwitch"), also where others are made
-    /// of it. An item is known by its word or its picture ("usb" for qrc:/icons/usb), and "AI: *" stands for
-    /// all words that begin so. Empty stands for any.
+    /// The visible items of an element, parents before children; with `in` only those inside of it. `element`
+    /// is the name of the item's document or class, or of one that it is derived from ("Button",
+    /// "UavSwitch"). `word` is the word or picture on the item ("usb" for qrc:/icons/usb); "AI: *" means all
+    /// words that begin with "AI: ". An empty text means any.
     QVector<QQuickItem *> findAll(const QString &element, const QString &word = {},
                                   const QQuickItem *in = nullptr) const;
     /// The first of them; null if there is none.
@@ -28,19 +28,24 @@ public:
     }
     QQuickItem *control(const QString &word) const { return find({}, word); }
 
-    /// Everything written in the first item of an element, in its order, each followed by '|'.
+    /// All texts in the first item of an element, in order, each followed by '|'.
     std::string words(const QString &element) const;
-    /// What is drawn in an item, in its order: rectangles by colour/border and place, pictures by name and
-    /// place, texts with colour and size, painted switches with size of text/line, colour and position. A
-    /// place is left out where it is that of the item, and ends in '=' in the item's middle; an opacity is
-    /// left out where it is 1.
+    static constexpr const char *LOOK_LEGEND =
+        "How to read a look: the parts of an item in the order of drawing, joined by ', '.\n"
+        "  rectangle        COLOUR[/BORDER-COLOUR:BORDER-WIDTH] [rRADIUS] [PLACE]\n"
+        "  picture          NAME PLACE\n"
+        "  text             'TEXT' COLOUR POINTS [bold]\n"
+        "  painted switch   'TEXT' POINTS/LINE-WIDTH COLOUR POSITION [dead]\n"
+        "PLACE is WIDTHxHEIGHT+X+Y in the item; WIDTHxHEIGHT+X= is in the middle of its height. A rectangle\n"
+        "without a place is as large as the item. *NUMBER at the end is an opacity below 1.";
+    /// What is drawn in an item, in the language of LOOK_LEGEND.
     std::string look(const QQuickItem &item) const;
-    /// Place and look of each visible item of an element in the first of another, once all are in their
-    /// places. A line break stands before each.
+    /// Place and look of each visible item of an element in the first item of `in`, after a redraw. There is
+    /// a line break before each.
     std::string looks(const QString &element, const QString &in) const;
-    /// "WxH+X+Y", in the window or another item, in pixels to a tenth.
+    /// "WxH+X+Y" in the window or another item, in pixels, rounded to tenths.
     static std::string place(const QQuickItem &item, const QQuickItem *in = nullptr);
-    /// Whether all of an item is inside another, which may scroll it.
+    /// Whether an item is completely inside another one, which may scroll it.
     static bool isInView(const QQuickItem &item, const QQuickItem &in);
 
     void resize(const QSize &size);
@@ -52,18 +57,18 @@ public:
     /// Presses at one point, moves there in steps, and releases at the other.
     void drag(QPoint from, QPoint to);
 
-    /// Presses a slider in its middle, drags its runner to a value, and lets it go, or does not. Returns
-    /// where.
+    /// Presses a slider in its middle and drags its runner to a value. Lets it go if `letGo`. Returns the
+    /// point there.
     QPoint slide(const QQuickItem &slider, double value, bool letGo = true);
 
-    /// Drags what scrolls in an item up, at the left edge, where no control is, until its end is in view;
-    /// false if it does not come.
+    /// Scrolls the content of an item up until its end is in view, by drags at the left edge, where no
+    /// control is. False if the end does not come into view.
     bool scrollDown(const QQuickItem &item);
 
     /// Runs the event loop until the condition holds; false if it does not within the time.
     static bool waitFor(const std::function<bool()> &condition, int timeoutMs = 20000);
 
-    /// What the window shows once it is drawn anew.
+    /// The picture of the window after a redraw.
     QImage picture() const;
 
 private:

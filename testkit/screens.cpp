@@ -13,7 +13,8 @@ Screens::Screens(const QString &workingDirectory) {
     if (!window || !QTest::qWaitForWindowExposed(window))
         throw std::runtime_error("The window does not show.");
     driver.emplace(*window);
-    // Made behind the documents' own connections: what is counted, the screens have taken.
+    // These connections are made after those of the documents. So a message is counted after the screens have
+    // accepted it.
     const auto count = [this](auto signal, int &counter) {
         QObject::connect(&objects.usbService, signal, window, [&counter] { ++counter; });
     };

@@ -12,7 +12,7 @@ fail() {
     exit 1
 }
 
-# wait_for LINES FILE: until a file has so many lines, a minute at most.
+# wait_for LINES FILE: waits until a file has this number of lines, a minute at most.
 wait_for() {
     local tries
     for ((tries = 0; tries < 600; ++tries)); do
@@ -22,8 +22,8 @@ wait_for() {
     fail "$2 stays short."
 }
 
-# connected FILE COMMAND...: starts an example, again where a busy machine made it miss the device's first answer, until it
-# writes a line.
+# connected FILE COMMAND...: starts an example again and again until it writes a line. On a busy machine it may miss the
+# device's first answer.
 connected() {
     local tries
     for tries in {1..20}; do
@@ -56,7 +56,7 @@ wait $example || fail "log-scans ends with an error."
 ! grep -vE '^\{"ms": [0-9]{13}, "scan": \{ "freqs" : .* "type" : "SCAN_RESULT" \}\}$' "$work/log.txt" ||
     fail "Lines of another kind."
 
-# A detector that still scanned would not be found again.
+# A detector that still scans would not be found again.
 connected "$work/two.txt" bash -c '"$1" "$2" | head -n 2' bash "$examples/log-scans" "$work/serial"
 wait $example || fail "log-scans does not end when nobody reads it."
 connected "$work/set.txt" "$examples/set-brightness" 40 "$work/serial"

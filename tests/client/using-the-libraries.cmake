@@ -1,5 +1,5 @@
-# Installs the libraries of BUILD_DIR, then builds and runs clients against them, as somebody who has nothing else of
-# this tree: the examples beside a virtual device, and one that has names of its own like ours.
+# Installs the libraries of BUILD_DIR, then builds clients with only the installed files and runs them: the examples
+# beside a virtual device, and a client with names like ours.
 set(dir ${BUILD_DIR}/tests/using-the-libraries)
 file(REMOVE_RECURSE ${dir})
 
@@ -35,7 +35,7 @@ if(NOT output STREQUAL "fields042")
     message(FATAL_ERROR "The client with names of its own says: ${output}")
 endif()
 
-# No macro of the libraries' own outlives their headers, and those name nothing that a client has not got.
+# No macro of the libraries is left after their headers, and the headers include only installed files.
 file(STRINGS ${dir}/installed/include/uavconfdetpojo/macros-on.h ours REGEX "^#define ")
 run(${COMPILER} -std=c++17 -dM -E -I${dir}/installed/include/uavconfdetpojo -I${dir}/installed/include/uavdevice
     -x c++ ${dir}/installed/include/uavdevice/uavdevice.h)

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-/// Runs the process under a locale that writes a decimal comma, as long as it lives. There are two:
-/// de_DE.UTF-8 and ru_RU.UTF-8, which also groups digits by a blank of several bytes.
+/// While it lives, the process has a locale with a decimal comma. There are two: de_DE.UTF-8 and ru_RU.UTF-8,
+/// which also groups digits by a blank of several bytes.
 class CommaLocale {
 public:
     explicit CommaLocale(const char *name = "de_DE.UTF-8") {

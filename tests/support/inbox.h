@@ -6,7 +6,7 @@
 #include <deque>
 #include <mutex>
 
-/// A listener that keeps what it gets, for tests that wait for messages from another thread.
+/// A listener that keeps its messages, for tests that wait for messages from another thread.
 class Inbox {
 public:
     const std::shared_ptr<MsgListener> listener =
@@ -16,8 +16,7 @@ public:
             arrived.notify_all();
         });
 
-    /// Takes the next message of this class and drops those before it; null when none comes within a generous
-    /// time.
+    /// Takes the next message of this class and drops those before it. Null if none comes within a minute.
     template <typename Message>
     std::shared_ptr<Message> next() {
         std::unique_lock lock(mutex);
@@ -30,7 +29,7 @@ public:
         return found;
     }
 
-    /// Takes all that have come.
+    /// Takes all messages that have come.
     std::deque<std::shared_ptr<Msg>> take() {
         const std::lock_guard lock(mutex);
         return std::exchange(messages, {});

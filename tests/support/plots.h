@@ -8,7 +8,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 
-/// A history of these scans, oldest first, so many milliseconds apart.
+/// A history of these scans, oldest first, `apartMs` milliseconds apart.
 inline History historyOf(const std::vector<std::vector<Found>> &scans, int apartMs = 100,
                          MasterFreqModeEnum band = MasterFreqModeEnum::R_2400) {
     History history(band, History::DEFAULT_HISTORY_LEN);
@@ -18,8 +18,14 @@ inline History historyOf(const std::vector<std::vector<Found>> &scans, int apart
     return history;
 }
 
-/// The shapes of drawings in order, one a line, "0,298 400x4", "0,50 to 400,50", "'-105' 0,317", and before
-/// those that look different how they look: "#ff0000:", "2px dash 3 #c000ff00:", "10pt room 28 #eeeeee:".
+constexpr const char *SHAPES_LEGEND =
+    "How to read shapes: one a line, in the order of painting, in pixels. A line that ends in ':' is the "
+    "look\n"
+    "of the shapes below it: [WIDTHpx dash LENGTH] or [POINTSpt room WIDTH], and the colour.\n"
+    "  rectangle   X,Y WIDTHxHEIGHT\n"
+    "  line        X1,Y1 to X2,Y2\n"
+    "  words       'TEXT' X,Y, from the left end of their base line";
+/// The shapes of drawings as a text, in the language of SHAPES_LEGEND.
 inline std::string told(const std::vector<Drawing> &drawings) {
     QString all, former;
     const auto text = [](QString format, const auto &...values) {
@@ -47,12 +53,12 @@ inline std::string told(const std::vector<Drawing> &drawings) {
             }
     return all.toStdString();
 }
-/// The same from a table, where "; " stands for a line break too.
+/// The same text from a table of a test. There "; " also means a line break.
 inline std::string table(const QString &shapes) {
     return (shapes.trimmed().replace(QRegularExpression("; |\\s*\n\\s*"), "\n") + "\n").toStdString();
 }
 
-/// A view whose labels have a font of its own, 7 pixels a character and 9 above the base line.
+/// A view with fixed measures of the labels' font: 7 pixels for a character, 9 above the base line.
 template <typename Plot>
 class Shown : public Plot {
 public:
@@ -72,11 +78,11 @@ public:
     using Plot::data;
     using Plot::itemChange;
     using Plot::legend;
-    /// The labels, the place of the data in the item, and the data.
+    /// The labels, the plot area, and the data.
     std::string shapes() const {
         return told({legend(), {FilledRect{plotArea, this->backgroundColor}}, data()});
     }
-    /// In so many pixels for a logical one.
+    /// The picture of the view, with `scale` pixels for a logical one.
     QImage picture(double scale = 1) {
         QImage shown((this->boundingRect().size() * scale).toSize(), QImage::Format_RGB32);
         QPainter painter(&shown);
@@ -86,7 +92,7 @@ public:
     }
 
     QRect plotArea;
-    std::pair<int, int> measured; ///< of the font that the view would have by itself
+    std::pair<int, int> measured; ///< the measures of the real font
 
 protected:
     QRect layOut(const QSize &item) override {
@@ -96,5 +102,5 @@ protected:
     }
 };
 
-/// What a view shows in an item of a size, with labels of so many points and lines of so many pixels.
+/// A row of a table: size of the item, points of the labels, pixels of the lines, and the shapes.
 using Standing = std::tuple<QSize, int, int, const char *>;

@@ -9,7 +9,7 @@
 constexpr auto NONE = SigTypeEnum::NONE, WIFI = SigTypeEnum::WIFI, DIG = SigTypeEnum::DIG,
                FPV = SigTypeEnum::FPV;
 
-/// What a scan finds at one frequency: MHz, dB, class.
+/// The result of a scan at one frequency: MHz, dB, class.
 struct Found {
     float freqMHz;
     float rssi = -90;

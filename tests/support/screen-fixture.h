@@ -8,7 +8,7 @@
 #include <gmock/gmock.h>
 #include <mutex>
 
-/// Keeps what Qt warns of, on any thread, while it lives. One at a time.
+/// Collects Qt's warnings from any thread while it lives. At most one object at a time.
 class QtWarnings {
 public:
     QtWarnings() {
@@ -30,12 +30,12 @@ private:
     static inline std::vector<std::string> warnings;
 };
 
-/// The application's screens as a user has them. A warning of Qt's fails the test.
+/// The application's screens as a user has them. A warning of Qt fails the test.
 class ScreenFixture : public testing::Test, protected QtWarnings, protected Screens {
 protected:
     using Screens::Screens;
 
-    /// Ends as the application does: a device that is connected is told to stop its scan.
+    /// Ends like the application, and checks that a connected device got the request to stop its scan.
     void TearDown() override {
         if (window) {
             QTimer::singleShot(0, window, &QWindow::close);
@@ -46,7 +46,7 @@ protected:
         EXPECT_THAT(QtWarnings::take(), testing::IsEmpty());
     }
 
-    /// The texts that reach the connected device because of a gesture.
+    /// The texts that the connected device gets because of a gesture.
     std::vector<std::string> sentBy(const std::function<void()> &gesture) {
         drainWire();
         device->clearRecord();
@@ -57,7 +57,8 @@ protected:
         return texts;
     }
     /// The texts that set these settings of the connected device ("CONFIG indLedLvl, CONFIG_K7 dispLvl") to a
-    /// value in JSON. Each is on the wire twice: the documents' connections to the service are doubled.
+    /// value in JSON. Each text is sent twice, because the documents make each connection to the service
+    /// twice.
     std::vector<std::string> edits(const QString &settings, const QString &value) const {
         std::vector<std::string> texts;
         std::string error;
@@ -71,8 +72,8 @@ protected:
         }
         return texts;
     }
-    /// Has the connected device send a message, and waits until the screens have taken it, which sends
-    /// nothing.
+    /// Makes the connected device send a message, waits until the screens have accepted it, and checks that
+    /// nothing is sent back.
     void deviceSays(const std::string &text) {
         const int &count = taken(Msg::parseJson(text)->getType());
         const auto sent = sentBy([&, seen = count] {
@@ -83,8 +84,8 @@ protected:
     }
 
 private:
-    /// Waits until the device has all that was sent: the request sent last, which changes nothing on the
-    /// screens, has arrived.
+    /// Waits until the device has everything that was sent. It sends a last request, which changes nothing on
+    /// the screens, and waits for its arrival.
     void drainWire() {
         const auto count = device->requests().size();
         objects.usbService.sendGetAiPrior();

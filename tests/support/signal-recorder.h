@@ -4,8 +4,8 @@
 #include <QStringList>
 #include <utility>
 
-/// Notes by name and in order every signal that the sender's own class declares. A `QSignalSpy` sees one
-/// signal, which does not tell the order among several.
+/// Notes the name of every signal of the sender's own class, in order. A `QSignalSpy` sees one signal only,
+/// so not the order of several.
 class SignalRecorder : public QObject {
 public:
     explicit SignalRecorder(QObject *sender)
@@ -15,7 +15,7 @@ public:
                 QMetaObject::connect(sender, i, this, QObject::staticMetaObject.methodCount() + i);
     }
 
-    /// What was noted since the last call, separated by blanks.
+    /// The names since the last call, separated by blanks.
     std::string take() { return std::exchange(names, {}).join(' ').toStdString(); }
 
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override {

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <string>
 
-/// A text in the written style put on one line, each '|' standing for a line break.
+/// The text with a line break in place of each '|'. So a text in the written style fits on one line.
 inline std::string wire(std::string text) {
     std::replace(text.begin(), text.end(), '|', '\n');
     return text;
 }
 
-/// The shortest messages of three types, as a device may write them.
+/// The shortest messages of three types.
 inline const std::string OK = R"({"type":"OK"})", STATE = R"({"type":"STATE"})", FAIL = R"({"type":"FAIL"})";

@@ -21,7 +21,7 @@ std::string fromHex(const std::string &hex) {
     return bytes;
 }
 
-/// Rows of name, text, whether it is accepted, and what dump() makes of it.
+/// Checks the table. Its columns: name, text, accepted or not, result of dump().
 void expectTable() {
     const std::set<std::string> mayBeRefused = {"lone_hi", "hi_then_char", "hi_hi_lo", "huge"};
     std::ifstream file(TEST_DATA_DIR "/json11-behaviour.tsv");
@@ -52,7 +52,7 @@ TEST(Json11, Limits) {
     EXPECT_TRUE(Json::parse(std::string(200, '[') + "1" + std::string(200, ']'), err).is_array());
     EXPECT_TRUE(Json::parse(std::string(201, '[') + "1" + std::string(201, ']'), err).is_null());
     EXPECT_NE(err, "");
-    // In range however they are written, beside one that is not.
+    // Numbers in range in unusual forms, and one beyond the range.
     err.clear();
     const std::string longOne = "1" + std::string(400, '0') + "e-300";
     EXPECT_EQ(Json::parse("[0e999, -0e999, " + longOne + ", \"0e999\\\"\"]", err).dump(),

@@ -40,7 +40,7 @@ TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
     const auto listener = std::make_shared<Listener>([&] {
         again = ended.load();
         running = true;
-        // A removal that did not wait would be through long before.
+        // A removal that does not wait would end long before this.
         for (int i = 0; i < 50 && !removed; ++i)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         EXPECT_FALSE(removed);

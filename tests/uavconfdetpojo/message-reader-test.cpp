@@ -8,10 +8,10 @@ using testing::ElementsAre;
 
 namespace {
 
-/// A reader with its clock; what it hands out and logs is kept as text.
+/// A reader with a clock. Its messages and log lines are kept as text.
 class Stream {
 public:
-    /// The types of the messages that a chunk brings, each followed by a blank.
+    /// The types of the messages in a chunk, each followed by a blank.
     std::string take(const std::string &chunk, long long afterMs = 0) {
         nowMs += afterMs;
         reader.write(chunk, nowMs);
@@ -37,7 +37,7 @@ TEST(MessageReader, FindsTheSameMessagesHoweverTheStreamIsCut) {
         for (std::size_t two = one; two <= stream.size(); ++two) {
             Stream in;
             const auto cutBehind = [&](std::size_t end) { return one - end <= 1 || two - end <= 1; };
-            // The middle one is lost where its text runs into the next object.
+            // The middle one is lost if its text goes into the next object.
             const bool middle = cutBehind(okEnd) || cutBehind(stateEnd);
             std::string messages = in.take(stream.substr(0, one));
             messages += in.take(stream.substr(one, two - one));
@@ -82,7 +82,7 @@ TEST(MessageReader, LogsWhatItCannotRead) {
 TEST(MessageReader, GivesUpBytesInWhichNoObjectEndsForMoreThanFiveSeconds) {
     Stream in;
     in.take("{", 9000);
-    EXPECT_EQ(in.take(R"("type":"OK"}{)", 4000), "OK ") << "an end starts the time anew";
+    EXPECT_EQ(in.take(R"("type":"OK"}{)", 4000), "OK ") << "the end of an object restarts the time";
     in.take("\n22\n", 1);
     in.take("4", 4999);
     EXPECT_EQ(in.log, "");
@@ -90,7 +90,7 @@ TEST(MessageReader, GivesUpBytesInWhichNoObjectEndsForMoreThanFiveSeconds) {
     EXPECT_EQ(in.log, "[tag] recvBuffer: \n[DEBUG] [tag] |" + OK +
                           "{\n[DEBUG] [tag] |22\n45\n"
                           "[tag] reset recv buffer by LAST_PARSED_TIMEOUT\n[tag] reset all recv buffer\n");
-    EXPECT_EQ(in.take(OK), "OK ") << "the counter has started anew, too";
+    EXPECT_EQ(in.take(OK), "OK ") << "the counter has restarted, too";
     in.take("{", 6000);
     in.take(R"("type":)", 5000);
     EXPECT_EQ(in.log, "") << "an empty buffer has no age";
@@ -104,11 +104,11 @@ TEST(MessageReader, RecoveryKeepsTheNewestObjectThatBeganOnItsOwnLine) {
     EXPECT_EQ(in.reader.bytes(), "{\"type\":\"OK");
     EXPECT_THAT(in.log, testing::HasSubstr("afterRecvBuffer: "));
     in.take(" ", 5000);
-    EXPECT_EQ(in.log, "") << "five seconds begin anew";
+    EXPECT_EQ(in.log, "") << "the five seconds restart";
     EXPECT_EQ(in.take("\"}\n"), "") << "OK with a blank is no type";
     in.take("{{");
     in.take("}\n" + STATE, 5001);
-    EXPECT_EQ(in.take(FAIL), "FAIL ") << "what was complete in the kept text is gone";
+    EXPECT_EQ(in.take(FAIL), "FAIL ") << "an object that is complete in the kept text is dropped";
 }
 
 TEST(MessageReader, HandsOutWhatHasEndedBeforeAReset) {

@@ -21,8 +21,8 @@ TEST(Message, TextThatIsNoKnownMessageGivesNull) {
     EXPECT_NE(Msg::parseJson(" {\"type\":\"OK\"} \r\n\t"), nullptr);
 }
 
-/// What stands in a message of the type, and what of it is written again: a field that the reader left absent
-/// is not.
+/// Fields in a text of the type, and the text that is written again. A field that the reader left absent is
+/// missing there.
 TEST(Message, ReaderTakesEachFieldByItsOwnRule) {
     struct Case {
         std::string type;
@@ -59,7 +59,7 @@ TEST(Message, ReaderTakesEachFieldByItsOwnRule) {
              Case{"TO_BOOTLOAD", R"("led":true)", ""},
              Case{"CONFIG", R"("atten":99999999999,"indLedLvl":-99999999999)",
                   R"("indLedLvl" : -2147483648,|"atten" : 2147483647,|)"},
-             // A zero keeps its sign in a message's own fields and has none inside a nested value.
+             // A zero keeps its sign in a message's own fields and loses it inside a nested value.
              Case{"STATE", R"("battVoltage":-0.0)", R"("battVoltage" : -0.000000,|)"},
              Case{"FREQS", R"("freqList":{"freqs":[-0.0,-1]})",
                   R"("freqList" : {|"freqs" : [|0.000000,|-1.000000|]|},|)"},
@@ -78,7 +78,7 @@ TEST(Message, ReaderTakesEachFieldByItsOwnRule) {
 
 TEST(Message, GettersGiveWhatWasRead) {
     const auto read = AiDataMsg::parseJson(R"({"type":"OK","freqMHz":2400.5,"ai_res":"DIG","data":[1,2]})");
-    EXPECT_EQ(read->getType(), MsgTypeEnum::AI_DATA) << "the class's own reader does not ask for the type";
+    EXPECT_EQ(read->getType(), MsgTypeEnum::AI_DATA) << "the class's own reader ignores the type";
     const auto data = messageCast<AiDataMsg>(read);
     EXPECT_EQ(messageCast<AiModeMsg>(read), nullptr);
     EXPECT_EQ(messageCast<AiModeMsg>(nullptr), nullptr);
@@ -129,7 +129,7 @@ TEST(Message, WritesWhatIsNoWholeMessage) {
     EXPECT_EQ(MsgToJsonParser::toJson(nullptr), "{}");
     EXPECT_EQ(MsgToJsonParser::toJson(MsgBuilder().type(MsgTypeEnum(50)).share()), "");
     EXPECT_EQ(MsgToJsonParser::toJson(MsgBuilder().type(MsgTypeEnum(-1)).share()), "");
-    // The application sends its requests as the base part alone.
+    // The application's requests have only the base part.
     EXPECT_EQ(MsgToJsonParser::toJson(std::make_shared<Msg>(GetConfigMsgBuilder().build())),
               wire(R"({|"type" : "GET_CONFIG"|})"));
     EXPECT_EQ(Msg().parseMsg(), wire("{||}"));

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The objects in the JSON blocks of the protocol's page, to the byte.
+/// The objects in the JSON blocks of docs/protocol.md, byte for byte.
 std::vector<std::string> examples() {
     std::vector<std::string> objects;
     std::ifstream page(DOCS_DIR "/protocol.md");

@@ -71,7 +71,7 @@ TEST(SerialInterfaceAdapter, TransactionTakesMessagesOfTheExpectedTypesOnly) {
               "[ERROR] [RFD24] transaction 2 send ERROR: broken\n");
     link.onSend = [&](auto, auto timeout) { throw timeout; };
     EXPECT_THROW(link.transaction(request(), 1ms, MsgType::values()), std::chrono::milliseconds);
-    link.processNewData(STATE); // reaches no listener of the transactions that are over
+    link.processNewData(STATE); // no listener of the ended transactions gets it
     EXPECT_EQ(link.received.size(), 5u);
 }
 

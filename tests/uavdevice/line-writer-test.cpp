@@ -17,10 +17,10 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// The link to a detector on a line that takes bytes as the system's driver does.
+/// The link to a detector, on a line that takes bytes like the system's driver.
 class LineThreads : public testing::Test {
 protected:
-    /// What the device gets of these requests.
+    /// The bytes that the device gets for these requests.
     static std::string onTheWire(const std::vector<buffer_t> &requests) {
         std::string bytes;
         for (const buffer_t &request : requests)
@@ -28,7 +28,7 @@ protected:
                 bytes += byte == '\n' ? "\r\n" : std::string(1, byte);
         return bytes;
     }
-    /// Has the device take what is under way once the program looks after it.
+    /// Makes the device take the pieces under way when the program asks for them.
     void releaseAtTheEnd() {
         line.whenAsked([this, looks = 0]() mutable {
             if (++looks == 3)
@@ -70,7 +70,7 @@ TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
     EXPECT_TRUE(device.waitForRequests(2));
     line.hold();
     EXPECT_EQ(tty.sendWithin(config, 5ms), Sent::PART);
-    line.release(); // and nobody sends any more
+    line.release(); // without another request
     EXPECT_TRUE(device.waitForRequests(3));
     EXPECT_EQ(device.received(), onTheWire({config, ask, config}));
 }
@@ -161,7 +161,7 @@ TEST_F(LineThreads, TheEndWaitsForWhatADeviceTakesLate) {
     EXPECT_EQ(device.received(), onTheWire({config}));
 }
 
-/// It takes nothing as long as nobody takes what it has to say.
+/// This device takes nothing until its own bytes are read.
 TEST_F(LineThreads, TheEndGoesOnReading) {
     const auto isHeard = std::make_shared<std::atomic<bool>>(false);
     tty.addListener(
@@ -210,10 +210,10 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
         EXPECT_EQ(next.received(), onTheWire({ask}));
         tty.serialClose();
     };
-    /// Ends a line that a request waits for, which is never sent.
+    /// Ends a line while a request waits for room. The request is never sent.
     const auto endsWait = [this](auto end) {
         std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED); });
-        std::this_thread::sleep_for(10ms); // or there is less to see
+        std::this_thread::sleep_for(10ms); // so that the request surely waits
         end();
         waiting.join();
     };
@@ -229,7 +229,7 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     EXPECT_TRUE(tty.openPort()) << "once more";
     line.release();
     isNextOne(device);
-    EXPECT_EQ(line.leftToClose(), 0U) << "the system's close waits for what is under way";
+    EXPECT_EQ(line.leftToClose(), 0U) << "the system's close would wait for these pieces";
     hang();
     device.unplug();
     EXPECT_EQ(tty.sendWithin(ask, 5ms), Sent::NOTHING);
@@ -241,7 +241,7 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     isNextOne(device);
 }
 
-/// The same with the connector, to which the requests of a connection go.
+/// The same with the connector, which sends the requests of a connection.
 class ConnectorLineThreads : public LineThreads {
 protected:
     void connect() {
@@ -276,10 +276,11 @@ TEST_F(ConnectorLineThreads, ARequestThatWasGivenUpIsReportedOnce) {
     std::thread closing([this] { connector.disconnect(); });
     EXPECT_EQ(connector.transaction(setting, 24h, {}), nullptr);
     closing.join();
-    EXPECT_EQ(reports.size(), 2U) << "the end of the line is no refusal";
+    EXPECT_EQ(reports.size(), 2U) << "the end of the line is not reported";
 }
 
-/// The order to stop finds the rest of a setting, and the device is busy for longer than the order waits.
+/// The request to stop the scan has to wait for the rest of a setting, and the device is busy for longer than
+/// its time-out.
 TEST_F(ConnectorLineThreads, NoDeviceScansOnAfterTheEnd) {
     connect();
     scan(true);

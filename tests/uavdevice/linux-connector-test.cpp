@@ -21,7 +21,7 @@ protected:
     const LinuxConnector::Report report = [this](const char *text) { reports.push_back(text); };
     LinuxConnector connector{directory.path(), report, report};
 
-    /// More than one attempt, since a busy machine may miss the 100 ms of a probe.
+    /// Makes several attempts, because a busy machine may miss the 100 ms of a probe.
     bool connects() {
         for (int attempt = 0; attempt < 20; ++attempt)
             if (connector.connectInterface())
@@ -46,7 +46,7 @@ TEST_F(LinuxConnectorThreads, FindsNothingWhereNothingIs) {
     EXPECT_THAT(reports, ElementsAre("/dev/null: no serial line"));
     reports.clear();
     fs::remove(directory.path() / "null");
-    // A link that leads nowhere ends the search: of several there is one report.
+    // A broken link ends the search, so several give one report.
     for (const char *name : {"gone-1", "gone-2", "gone-3"})
         fs::create_symlink("../nowhere/tty", directory.path() / name);
     EXPECT_FALSE(connector.connectInterface());
@@ -54,7 +54,7 @@ TEST_F(LinuxConnectorThreads, FindsNothingWhereNothingIs) {
     EXPECT_EQ(descriptors(), before);
 }
 
-/// The order of the entries is the file system's, so the device is there first once and last once.
+/// The file system decides the order of the entries. So the device is made first once and last once.
 TEST_F(LinuxConnectorThreads, FindsTheDeviceBesideOthers) {
     for (const bool deviceFirst : {true, false}) {
         std::optional<PtyDevice> device, other;
@@ -81,7 +81,8 @@ TEST_F(LinuxConnectorThreads, TakesOnlyADeviceThatAnswersInTimeAndOfItsState) {
     const auto isTold = [&] {
         return reports.back().find("answered with OK instead of STATE") != std::string::npos;
     };
-    for (int attempt = 0; attempt < 20 && !isTold(); ++attempt) { // on a busy machine it may talk too late
+    // On a busy machine the message may come too late.
+    for (int attempt = 0; attempt < 20 && !isTold(); ++attempt) {
         std::thread talking([&] {
             device.waitForOpen(true);
             device.sendText("{\"type\":\"OK\"}\n");
@@ -92,10 +93,10 @@ TEST_F(LinuxConnectorThreads, TakesOnlyADeviceThatAnswersInTimeAndOfItsState) {
     EXPECT_TRUE(isTold()) << reports.back();
     device.setManner(PtyDevice::Manner::OBLIGING);
     device.setAnswerDelay(50ms);
-    EXPECT_TRUE(connects()) << "in half of the time that a device has";
+    EXPECT_TRUE(connects()) << "an answer after half of the time-out is in time";
 }
 
-/// Each port costs its probe, not the second that a read may wait.
+/// A silent port takes the time of its probe, not the second that a read may wait.
 TEST_F(LinuxConnectorThreads, LeavesSilentPortsAtOnce) {
     std::list<PtyDevice> devices;
     for (int i = 0; i < 8; ++i)

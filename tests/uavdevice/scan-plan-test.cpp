@@ -30,7 +30,7 @@ TEST(ScanPlan, FollowsTheSettings) {
         EXPECT_THAT(values(), ElementsAre(c.period, c.rssiMax, 0, 0, 0)) << "no range, no signal";
         config = config.ranges({Range::STD_2400});
         plan.setByConfig(config.build());
-        plan.setByAiPrior(AiPriorEnum::FIELD); // whose factors the next one replaces, as a CONFIG does
+        plan.setByAiPrior(AiPriorEnum::FIELD); // the next mode replaces its factors, and so does a CONFIG
         plan.setByAiPrior(c.prior);
         EXPECT_THAT(values(), ElementsAre(c.period, c.rssiMax, c.wifi, c.dig, c.fpv));
         plan.setByConfig(config.build());

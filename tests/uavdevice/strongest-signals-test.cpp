@@ -9,7 +9,7 @@ TEST(StrongestSignals, AreAtMostThreeTheStrongestFirst) {
         {{-100, -90, -95, -80}, {3, 1, 2}},
         {{-100, -90, -80, -85, -104}, {2, 3, 1}},
         {{-90, -80, -80}, {1, 2, 0}},
-        {{-80, -90, -95}, {0}}, // what is stronger than none is not appended, even where there is room
+        {{-80, -90, -95}, {0}}, // a weaker signal is not appended, even if there is room
         {{-80, -80}, {0}},
         {{-105, -110, -104.5F}, {2}}};
     for (const auto &[levels, places] : cases) {

@@ -7,7 +7,7 @@
 
 #include <gmock/gmock.h>
 
-/// The simulator in a time that passes in an instant, and what it waited for.
+/// The simulator with pauses that end at once. The pauses are noted.
 class TestServiceThreads : public testing::Test {
 protected:
     static constexpr std::chrono::milliseconds MASK_TIME{2000};
@@ -31,7 +31,7 @@ protected:
         return service.acceptMsg(Msg::parseJson(R"({"type":")" + type + R"("})"));
     }
     std::shared_ptr<Msg> scan(bool on) { return service.acceptMsg(ScanMsgBuilder().scan(on).share()); }
-    /// Stops the scan before it gives the pauses since the last call.
+    /// Stops the scan, then returns the pauses since the last call.
     std::vector<long> takePauses() {
         scan(false);
         return std::exchange(pauses, {});
@@ -52,7 +52,7 @@ TEST_F(TestServiceThreads, FiresEveryAnswerAndReturnsSome) {
          {Case{"GET_AI_PRIOR", R"({|"aiPrior" : "DEFAULT",|"type" : "AI_PRIOR"|})", true},
           Case{"SCAN", R"({|"respOn" : "SCAN",|"type" : "OK"|})", true},
           Case{"CONFIG", R"({|"respOn" : "CONFIG",|"type" : "OK"|})", false},
-          Case{"GET_CONFIG", R"({|"type" : "CONFIG"|})", true}, // as it was sent
+          Case{"GET_CONFIG", R"({|"type" : "CONFIG"|})", true}, // the same as was sent
           Case{"CONFIG_K7", R"({|"respOn" : "CONFIG_K7",|"type" : "OK"|})", false},
           Case{"GET_CONFIG_K7", R"({|"type" : "CONFIG_K7"|})", true},
           Case{"AI_PRIOR", R"({|"respOn" : "AI_PRIOR",|"type" : "OK"|})", false},
@@ -110,7 +110,7 @@ TEST_F(TestServiceThreads, TurnsTheMaskAndScansOn) {
 
 TEST(ScannerThreads, SettingsChangeWhileItScansAndASecondStopInARowThrows) {
     Scanner scanner(std::make_shared<MsgListener>([](auto) {}), [](auto) {});
-    scanner.stop(); // as long as it never ran
+    scanner.stop(); // allowed, because it never ran
     scanner.start();
     scanner.start();
     scanner.setByConfig(ConfigMsgBuilder().ranges({FreqModeEnum::STD_2400}).share());

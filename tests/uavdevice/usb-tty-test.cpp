@@ -25,7 +25,7 @@ TEST_F(UsbTtyThreads, SetsTheLineUpAndLeavesTheRest) {
         line.c_iflag = line.c_oflag = flags;
         cfsetspeed(&line, B57600);
         device.setLineSettings(line);
-        line = device.lineSettings(); // what the terminal took of it
+        line = device.lineSettings(); // the settings that the terminal has then
         ASSERT_TRUE(tty.openPort());
         const termios now = device.lineSettings();
         tty.serialClose();
@@ -74,7 +74,7 @@ TEST_F(UsbTtyThreads, ASecondPortTakesThePlaceOfTheFirst) {
     EXPECT_TRUE(other.waitForOpen(false));
 }
 
-/// A loop that spins takes all the time that it can get, whatever the machine.
+/// A loop without a pause takes all the processor time of any machine.
 TEST_F(UsbTtyThreads, AnUnpluggedDeviceCostsNoProcessorTime) {
     ASSERT_TRUE(tty.openPort());
     device.unplug();

@@ -14,7 +14,7 @@
 using namespace testing;
 using Names = std::vector<std::string>;
 
-/// What a section of the manual explains, in order.
+/// The names that a section of the man page explains, in order.
 static Names inManual(const std::string &wanted) {
     static const std::regex NAME(R"(\.BI? ([^ ]+).*)"), BACKSLASH(R"(\\)");
     std::ifstream page(PACKAGING_DIR "/uav-vesper-device.1");
@@ -28,7 +28,7 @@ static Names inManual(const std::string &wanted) {
     return names;
 }
 
-/// What bash offers for the word after these.
+/// The words that bash offers after these.
 static Names offered(const std::string &words) {
     const std::string command = "bash -c '. " PACKAGING_DIR "/uav-vesper-device.bash; compopt() { :; };"
                                 "COMP_WORDS=(uav-vesper-device " +
@@ -67,7 +67,7 @@ TEST(VirtualDevice, ItsManualAndItsCompletionTellOfEveryName) {
         EXPECT_EQ(inManual(section), names);
         EXPECT_EQ(offered(before), names) << before;
     }
-    for (const std::string &option : options) // neither where a value stands, nor twice
+    for (const std::string &option : options) // no option in place of a value, and none twice
         EXPECT_THAT(offered(option), Not(Contains(StartsWith("--")))) << option;
     EXPECT_THAT(offered("--scene drone"), AllOf(Contains("--pace"), Not(Contains("--scene"))));
     EXPECT_EQ(offered("--scene ="), scenes);

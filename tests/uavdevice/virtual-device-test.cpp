@@ -16,7 +16,7 @@
 using namespace std::chrono_literals;
 using namespace testing;
 
-/// What is said of an operation that has to fail.
+/// The error text of an operation that must fail.
 template <typename Operation>
 static std::string errorOf(Operation operation) {
     try {
@@ -70,7 +70,7 @@ TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
     EXPECT_EQ(options.seed, 7U);
 }
 
-/// As /dev/serial/by-id comes with the first serial device and goes with the last.
+/// Like /dev/serial/by-id, which comes with the first serial device and goes with the last.
 TEST(VirtualDeviceThreads, MakesTheFoldersOfItsLinkForAsLongAsItIsThere) {
     using std::filesystem::perms;
     const SerialDirectory directory;
@@ -114,10 +114,10 @@ TEST_F(RecordingThreads, SaysWhatIsWrongWithIt) {
     }
 }
 
-/// What a tap has recorded of a device plays again as that device.
+/// The recording of a tap plays like the device that was recorded.
 TEST_F(RecordingThreads, ATapPassesEveryByteOnAndItsRecordingPlaysAgain) {
     constexpr const char *scan = "SCAN_RESULT";
-    // Bytes, as a slow machine may miss messages that come in one piece.
+    // Compares bytes, because a slow machine may lose messages that come in one piece.
     const auto watch = [&](const std::string &terminal) {
         std::mutex mutex;
         std::condition_variable more;
@@ -161,7 +161,7 @@ TEST_F(RecordingThreads, ATapPassesEveryByteOnAndItsRecordingPlaysAgain) {
     EXPECT_TRUE(!seen.empty() && watch(device.terminal()) == seen);
 }
 
-/// A tap between a device that hears nothing until told to and a program that reads nothing until told to.
+/// A tap between a device and a program. Neither reads anything until the test makes it.
 class TappedRecordingThreads : public RecordingThreads {
 protected:
     TappedRecordingThreads() {
@@ -190,7 +190,8 @@ protected:
             have += static_cast<std::size_t>(more);
         return text.substr(0, have);
     }
-    /// False when the recording never has so many of this letter, which no other part of it may have.
+    /// Waits until the recording has this letter `count` times; false if it never does. The letter must not
+    /// be anywhere else in the recording.
     bool records(std::ptrdiff_t count, char letter) const {
         const auto deadline = std::chrono::steady_clock::now() + PtyDevice::DEADLINE;
         for (;; std::this_thread::sleep_for(1ms)) {
@@ -209,7 +210,8 @@ protected:
     std::thread passing;
 };
 
-/// More than the lines and the tap hold; at the end the device is deaf and the program reads nothing.
+/// Sends more than the lines and the tap can hold. At the end the device is deaf and the program reads
+/// nothing.
 TEST_F(TappedRecordingThreads, PassEveryByteOnAndEndWhereNobodyTakesThem) {
     const std::string said(200000, 'D'), asked = std::string(60000, 'P') + R"({"type":"GET_STATE"})";
     const auto talk = [&](int round) {
@@ -225,9 +227,9 @@ TEST_F(TappedRecordingThreads, PassEveryByteOnAndEndWhereNobodyTakesThem) {
     EXPECT_EQ(device.received(), asked);
     device.setManner(PtyDevice::Manner::DEAF);
     talk(2);
-    // What this program has not read does not meet the next one.
+    // The next program does not get bytes that this one has not read.
     close(program);
-    for (const char letter : {'X', 'Y'}) { // the tap has seen the end when it has recorded both
+    for (const char letter : {'X', 'Y'}) { // the tap has noticed the end when both are recorded
         device.sendText({letter});
         EXPECT_TRUE(records(1, letter));
     }

@@ -6,7 +6,7 @@
 
 using testing::ElementsAre;
 
-/// A tick as a text: its place, its number, and where that begins if it has room.
+/// A tick as a text: its place, its number, and the place of the number if it has room.
 static std::vector<std::string> told(const std::vector<Tick> &ticks) {
     std::vector<std::string> all;
     for (const auto &[x, number, labelX, hasLabel] : ticks)
@@ -17,7 +17,8 @@ static std::vector<std::string> told(const std::vector<Tick> &ticks) {
 
 TEST(LevelAxis, EachViewHasItsOwnWayBeyondTheEnds) {
     const std::tuple<float, int, int, int> cases[] = {
-        // dB; height of a bar of 300, place in a course of 120, top of a block of 5 pixels for each dB
+        // dB; height of a bar in a plot of 300; place in a level over time of 120; top of a block with 5
+        // pixels for each dB
         {-106, 300, 0, -30},  {-105, 0, 0, -25},    {-104, 10, 4, -20}, {-90.9f, 150, 56, 50},
         {-76, 290, 116, 120}, {-75, 300, 120, 125}, {-74, 0, 118, 125}, {1e30f, 0, 118, 125}};
     for (const auto &[level, barHeight, courseY, blockY] : cases) {

@@ -26,14 +26,14 @@ TEST(BarScanResultPlot, HasAllInItsPlaceInEverySize) {
     using Type = SigTypeEnum;
     Shown<BarScanResultPlot> plot;
     plot.setHistory(historyOf({{{2400, -80}},
-                               {{2349, -80}, // beyond the band, as is the last one
+                               {{2349, -80}, // outside of the band, like the last one
                                 {2350, -105, Type::NONE},
                                 {2360, -90.7f, Type::WIFI},
                                 {2400, -75, Type::DIG},
                                 {2401.5f, -74, Type::FPV},
                                 {2550, -76, Type::BLOCK},
                                 {2545, -106, Type::ALL},
-                                {2450, -80, Type(6)}, // no class
+                                {2450, -80, Type(6)}, // not a signal class
                                 {2551, -80}}}));
     for (const auto &[size, textSize, lineWidth, shapes] : cases) {
         plot.resize(size, textSize, lineWidth);

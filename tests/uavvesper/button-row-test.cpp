@@ -83,7 +83,7 @@ TEST_F(ButtonRowTest, TellsTheBatteryAndTheMaskAndDoesWhatItsButtonsSay) {
         const std::string settings = driver->control("Detection") ? "settings" : "";
         EXPECT_EQ(settings + (driver->control("Manual") ? "help" : ""), step.section(' ', 1).toStdString());
     }
-    EXPECT_EQ(look("Mask"), "#81909f/#808080:2 r12.8, 'Mask' #808080 15") << "waits for no device";
+    EXPECT_EQ(look("Mask"), "#81909f/#808080:2 r12.8, 'Mask' #808080 15") << "it does not wait for a device";
 }
 
 TEST_F(ButtonRowTest, TwelveClicksOnHelpStartTheSimulatorWhileNothingIsConnected) {
@@ -93,7 +93,7 @@ TEST_F(ButtonRowTest, TwelveClicksOnHelpStartTheSimulatorWhileNothingIsConnected
     clickHelp(2);
     disconnect();
     clickHelp(11);
-    EXPECT_FALSE(isConnected()) << "a click while connected starts the count anew";
+    EXPECT_FALSE(isConnected()) << "a click while connected restarts the count";
     for (const int clicks : {1, 12}) {
         clickHelp(clicks);
         EXPECT_TRUE(objects.usbService.inTesting());

@@ -4,7 +4,7 @@
 
 using namespace testing;
 
-/// The look of a switch ("on", "off") or of a slider whose runner stands at x.
+/// The look of a switch ("on", "off") or of a slider with its runner at x.
 static std::string lookOf(const QString &shown, const QString &opacity = "0.8") {
     QString look = "#808080 r15 60x30+0= *O, #ffffff r18.75 37.5x37.5+0= *O";
     if (shown == "on")
@@ -24,7 +24,7 @@ protected:
         driver->picture();
     }
 
-    /// The slider or switch of a row, or the row itself, which opens a dialog.
+    /// The slider or switch of a row. In a row that opens a dialog, the row itself.
     const QQuickItem &control(const QString &title) const {
         const QQuickItem &row = *driver->find("PreferenceRow", title);
         const QQuickItem *slider = driver->find("Slider", {}, &row);
@@ -42,14 +42,14 @@ protected:
         if (!isSlider && !where.isEmpty())
             choose(where);
     }
-    /// A switch glides, so its look is waited for.
+    /// Waits for the look, because a switch moves slowly.
     void expectLook(const QString &title, const std::string &look) const {
         ScreenDriver::waitFor([&] { return driver->look(control(title)) == look; });
         EXPECT_EQ(driver->look(control(title)), look) << qPrintable(title);
     }
 
-    /// Walks settings: title, summary, types and keys of what is edited, the look at first (of a dialog, the
-    /// marked entry), and touches with what they set.
+    /// Checks settings. A line has title, summary, types and keys of the edited fields, the first look (for a
+    /// dialog: the current entry), and touches with the values that they set.
     void walk(const QString &settings) {
         for (const QString &line : settings.split('\n')) {
             const QStringList setting = line.split('|'), touches = setting.mid(4);
@@ -129,7 +129,7 @@ TEST_F(ConfigDrawerTest, FollowsTheGenerationAndTheWindow) {
     open(ProtoEnum::K7);
     const QQuickItem &frame = *driver->find("DrawerFrame");
     const auto isInView = [&](const char *word) { return driver->isInView(*driver->control(word), frame); };
-    const auto gaps = [&] { // above the first and between the rows and headers, each once
+    const auto gaps = [&] { // above the first row or header and between all of them, each different gap once
         std::set<double> found;
         double end = frame.mapToScene({0, 0}).y();
         for (const QQuickItem *item : driver->findAll({}, {}, &frame))
@@ -190,7 +190,7 @@ TEST_F(ConfigDrawerTest, ADragFromASliderEitherScrollsTheDrawerOrSetsTheValue) {
     QQuickItem *flickable = driver->find("QQuickFlickable", {}, driver->find("DrawerFrame"));
     const auto scrolled = [&] { return flickable->property("contentY").toReal(); };
     const auto value = [this] { return control("Sound volume").property("value").toInt(); };
-    for (const int height : {1000, 2200}) { // a drawer that scrolls, and one that has no need to
+    for (const int height : {1000, 2200}) { // a drawer that scrolls, and one that fits
         driver->resize({800, height});
         const double top = scrolled();
         ASSERT_EQ(value(), 100);

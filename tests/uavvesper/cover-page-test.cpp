@@ -8,7 +8,7 @@
 #include <QQuickView>
 #include <gtest/gtest.h>
 
-/// What is on the page, row by row: the words and their colours, and the colour of the box around them.
+/// The content of the page, row by row: the words, their colours, and the colour of the box around them.
 static std::string shown(QQuickView &view) {
     ScreenDriver driver(view);
     driver.picture();

@@ -21,7 +21,7 @@ TEST(DrawingTest, FillsTheSamePixelsAsSmoothEdgesDo) {
                 painter->scale(scale, scale);
             }
             plain.setPen(Qt::NoPen);
-            for (int i = 0; i < 10; ++i) { // some reach beyond the picture
+            for (int i = 0; i < 10; ++i) { // some go beyond the picture
                 const QRect place(from(-20, 100), from(-20, 70), from(0, 60), from(0, 60));
                 const QColor color(from(0, 255), from(0, 255), from(0, 255), from(0, 255));
                 paintDrawing({FilledRect{place, color}}, fill);

@@ -5,7 +5,7 @@
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
-// What its rows say is shown by the cover page.
+// The test of the cover page checks the content of the rows.
 TEST(FreqPlotModel, ClearsItselfTenSecondsAfterTheLastScan) {
     FreqPlotModel model;
     auto *timer = model.findChild<QTimer *>();

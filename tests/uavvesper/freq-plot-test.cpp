@@ -40,7 +40,7 @@ TEST(FreqPlot, HasAllInItsPlaceInEverySizeAndLanguage) {
     EXPECT_THAT(
         plot.shapes(),
         EndsWith(table("0,60 to 201,60; #ffc000:; 21,21 21x21; 31pt room 0 #eeeeee:; '2420МГц DIG' 49,52")))
-        << "scans of one millisecond have neither axis nor curve";
+        << "scans of the same time have neither axis nor curve";
     plot.setHistory(historyOf({scans[2], scans[3]})); // a single point, without the oldest row
     EXPECT_THAT(plot.shapes(), EndsWith(table(R"(0,60 to 201,60; 0,0 to 0,60; 36,0 to 36,60; 72,0 to 72,60
         108,0 to 108,60; 144,0 to 144,60; 180,0 to 180,60)")));
@@ -68,7 +68,7 @@ TEST(SignalCourse, FollowsTheStrongestSignalFromNowToTheRowAfterTheOldest) {
         const History history = historyOf(scans);
         course.follow(history.getHistoryLevels(), history.getHistoryFreqs());
         EXPECT_EQ(course.points.size(), points) << what;
-        EXPECT_EQ(course.freq, 2410) << what << ", where it stays as it was";
+        EXPECT_EQ(course.freq, 2410) << what << ", where it keeps its value";
         EXPECT_EQ(course.sigType, DIG) << what;
     }
 }

@@ -8,18 +8,18 @@
 
 #include <gmock/gmock.h>
 
-/// A settings front-end, with an eye on what it emits and sends.
+/// A settings front-end whose signals and messages are noted.
 template <typename Handler>
 struct Watched : Handler {
     Watched() {
         QObject::connect(
             this, &Handler::gotMsg,
             [this](const MsgHolder &holder) {
-                sent = " " +
-                       MsgToJsonParser::toJson(holder.getMsg()); // as it is now: the message goes on living
+                // Its text now, because the message may change later.
+                sent = " " + MsgToJsonParser::toJson(holder.getMsg());
             });
     }
-    /// The signals that a call brings about, and what is sent.
+    /// The signals that a call causes, and the message that is sent.
     template <typename Call, typename... Arguments>
     std::string by(Call call, Arguments... arguments) {
         std::invoke(call, *this, arguments...);
