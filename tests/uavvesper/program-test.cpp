@@ -6,12 +6,47 @@
 #include <QFile>
 #include <QProcess>
 #include <QQmlContext>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <csignal>
+#include <fcntl.h>
+#include <linux/input.h>
+#include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 using namespace testing;
+
+/// A keyboard to plug into a program. Qt takes one from below /dev alone.
+class Keyboard {
+public:
+    Keyboard() {
+        ::mkfifo(qPrintable(path), 0600);
+        end = ::open(qPrintable(path), O_RDWR | O_CLOEXEC);
+    }
+    ~Keyboard() {
+        ::close(end);
+        ::unlink(qPrintable(path));
+    }
+    Keyboard(const Keyboard &) = delete;
+    Keyboard &operator=(const Keyboard &) = delete;
+
+    void press(unsigned short key) const {
+        for (const int value : {1, 0}) {
+            input_event event{};
+            event.type = EV_KEY;
+            event.code = key;
+            event.value = value;
+            EXPECT_EQ(::write(end, &event, sizeof event), ssize_t{sizeof event});
+        }
+    }
+
+    const QString path = QString("/dev/shm/uav-vesper-keyboard-%1").arg(QCoreApplication::applicationPid());
+
+private:
+    int end;
+};
 
 /// The built program as a user starts it. The platform writes each picture of the window into the working
 /// directory and says so.
@@ -32,17 +67,29 @@ TEST(Program, ShowsItsWindowInTheLanguageOfTheDirectoryAndEndsWhenToldTo) {
     for (const auto &[command, signal, ignored, dpi, russian] : starts) {
         SCOPED_TRACE(command);
         const QTemporaryDir directory;
+        const Keyboard keyboard;
         if (russian)
             QFile::copy(RUSSIAN_DIR "/UavVesper-ru.qm", directory.filePath("UavVesper-ru.qm"));
         QProcess program;
         program.setWorkingDirectory(directory.path());
         program.setProcessChannelMode(QProcess::MergedChannels);
-        program.start("env", {"XDG_CACHE_HOME=" + directory.path(), "QT_FONT_DPI=" + QString::number(dpi),
-                              "QT_DEBUG_BACKINGSTORE=1", "ASAN_OPTIONS=detect_leaks=0", command, PROGRAM,
-                              "-platform", "minimal:enable_fonts"});
+        program.start("env",
+                      {"XDG_CACHE_HOME=" + directory.path(), "QT_FONT_DPI=" + QString::number(dpi),
+                       "QT_DEBUG_BACKINGSTORE=1", "QT_QPA_GENERIC_PLUGINS=evdevkeyboard:" + keyboard.path,
+                       "ASAN_OPTIONS=detect_leaks=0", command, PROGRAM, "-platform", "minimal:enable_fonts"});
         QByteArray output;
-        while (!output.contains("output0000.png") && program.waitForReadyRead(60000))
-            output += program.readAll();
+        const auto writes = [&](const char *text) {
+            while (!output.contains(text) && program.waitForReadyRead(20000))
+                output += program.readAll();
+            return output.contains(text);
+        };
+        EXPECT_TRUE(writes("output0000.png"));
+        if (russian) {
+            keyboard.press(KEY_TAB); // to the help, of which twelve looks start the simulator
+            for (int look = 0; look < 12; ++look)
+                keyboard.press(KEY_ENTER);
+            EXPECT_TRUE(writes("starting scan\n")) << "what is logged into a pipe, at once";
+        }
         QFile status(QString("/proc/%1/status").arg(program.processId()));
         EXPECT_TRUE(status.open(QIODevice::ReadOnly)) << output.data();
         const auto mask = QString(status.readAll()).section("SigIgn:\t", 1).left(16).toULong(nullptr, 16);
@@ -76,7 +123,30 @@ TEST(Program, EndsAtOnceWhenAskedAgainASecondLater) {
     EXPECT_EXIT(asked(std::chrono::milliseconds(1001)), KilledBySignal(SIGTERM), "");
 }
 
+/// The program itself on a small display that nobody sees, of which another run of this test takes a picture.
 TEST(Program, FitsItsWindowIntoTheScreensFreeArea) {
+    if (QGuiApplication::platformName() == "offscreen") {
+        EXPECT_EQ(QProcess::execute("xvfb-run", {"-a", "-s", "-screen 0 900x600x24",
+                                                 QCoreApplication::applicationFilePath(), "-platform", "xcb",
+                                                 "--gtest_filter=Program.Fits*"}),
+                  0);
+    } else {
+        QProcess program;
+        program.start(PROGRAM, {"-platform", "xcb"});
+        const auto lastDeadRow = [] { // by the colour of what is disabled: that of the settings, if it shows
+            const QImage picture = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+            int i = picture.width() * picture.height();
+            while (i-- > 0 &&
+                   picture.pixelColor(i % picture.width(), i / picture.width()) != QColor("#808080"))
+                continue;
+            return i / picture.width();
+        };
+        int row = 0;
+        EXPECT_TRUE(ScreenDriver::waitFor([&] { return (row = lastDeadRow()) > 560 && row < 590; })) << row;
+        program.terminate();
+        EXPECT_TRUE(program.waitForFinished());
+        return;
+    }
     struct {
         QSize freeArea;
         QMargins frame;
