@@ -1,7 +1,7 @@
 import QtQuick 2.7
 
 // What every button is made of: the frame, the shade while it is pressed and the click. Content goes into the frame.
-Item {
+Pressable {
     id: button
 
     default property alias content: frame.data
@@ -12,18 +12,10 @@ Item {
     readonly property real border: frame.border.width
     readonly property real iconSize: Math.max(0, height - 2 * border - radius)
     readonly property real iconOpacity: enabled ? 1 : 0.5
-    // For a screen reader.
-    property string spokenName
 
     signal clicked
 
-    activeFocusOnTab: true
-    Keys.forwardTo: ring
-    Accessible.role: Accessible.Button
-    Accessible.name: spokenName
-    Accessible.description: ring.availability
-    Accessible.focusable: enabled
-    Accessible.onPressAction: ring.press()
+    onActivated: clicked()
 
     Rectangle {
         id: frame
@@ -49,11 +41,5 @@ Item {
 
         anchors.fill: parent
         onClicked: button.clicked()
-    }
-
-    FocusRing {
-        id: ring
-
-        onPressed: button.clicked()
     }
 }

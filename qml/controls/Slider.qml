@@ -12,17 +12,21 @@ Item {
     property bool isStepping: false
     // For a screen reader.
     property string spokenName
+    property string spokenSummary
 
     // The only point at which a value is to be sent: on release of the mouse or of the key, not while the runner moves.
     signal changed
     // A drag that scrolls what is around the slider: the value is to be that from before the press again.
     signal canceled
 
+    function setSteps(steps) {
+        value = Math.min(Math.max(steps * stepSize, minimumValue), maximumValue)
+    }
+
     // To the next multiple of the step in a direction, 1 or -1.
     function step(direction) {
         var steps = value / stepSize
-        var next = direction > 0 ? Math.floor(steps) + 1 : Math.ceil(steps) - 1
-        value = Math.min(Math.max(next * stepSize, minimumValue), maximumValue)
+        setSteps(direction > 0 ? Math.floor(steps) + 1 : Math.ceil(steps) - 1)
     }
 
     function endStepping() {
@@ -43,8 +47,6 @@ Item {
     width: 500
     height: 100
     opacity: enabled && !mouseArea.pressed && !isStepping ? 1 : 0.3
-    activeFocusOnTab: true
-    onActiveFocusChanged: endStepping()
     Keys.onPressed: {
         if (event.key !== Qt.Key_Left && event.key !== Qt.Key_Right)
             return
@@ -58,11 +60,35 @@ Item {
         event.accepted = true
         endStepping()
     }
-    Accessible.role: Accessible.Slider
-    Accessible.name: spokenName
-    Accessible.focusable: true
-    Accessible.onIncreaseAction: stepOnce(1)
-    Accessible.onDecreaseAction: stepOnce(-1)
+
+    // What the keyboard and a screen reader have of the slider. A reader writes the value here, and tells nobody.
+    Item {
+        id: reader
+
+        readonly property real minimumValue: slider.minimumValue
+        readonly property real maximumValue: slider.maximumValue
+        readonly property real stepSize: slider.stepSize
+        property real value: slider.value
+
+        z: 1
+        anchors.fill: parent
+        activeFocusOnTab: enabled
+        onActiveFocusChanged: slider.endStepping()
+        onValueChanged: {
+            if (value === slider.value)
+                return
+            slider.setSteps(Math.round(value / stepSize))
+            value = Qt.binding(function () { return slider.value })
+            slider.changed()
+        }
+        Accessible.role: Accessible.Slider
+        Accessible.name: slider.spokenName
+        Accessible.description: slider.spokenSummary
+        Accessible.onIncreaseAction: slider.stepOnce(1)
+        Accessible.onDecreaseAction: slider.stepOnce(-1)
+
+        FocusRing {}
+    }
 
     Row {
         id: line
@@ -156,6 +182,4 @@ Item {
         }
         onCanceled: slider.canceled()
     }
-
-    FocusRing {}
 }

@@ -1,11 +1,9 @@
 import QtQuick 2.7
 
-Item {
+Pressable {
     id: item
 
     property bool checked: true
-    // For a screen reader.
-    property string spokenName
 
     signal clicked
 
@@ -14,14 +12,10 @@ Item {
         clicked()
     }
 
-    activeFocusOnTab: true
-    Keys.forwardTo: ring
+    onActivated: press()
     Accessible.role: Accessible.CheckBox
-    Accessible.name: spokenName
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.focusable: true
-    Accessible.onPressAction: ring.press()
     Accessible.onToggleAction: ring.press()
 
     // The first placing is instant, later moves are to be seen.
@@ -59,11 +53,5 @@ Item {
     MouseArea {
         anchors.fill: parent
         onClicked: item.press()
-    }
-
-    FocusRing {
-        id: ring
-
-        onPressed: item.press()
     }
 }

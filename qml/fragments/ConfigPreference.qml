@@ -7,24 +7,19 @@ PreferenceRow {
 
     signal clicked
 
-    activeFocusOnTab: true
-    Keys.forwardTo: ring
-    Accessible.role: Accessible.ButtonMenu
-    Accessible.name: title
-    Accessible.description: summary
-    Accessible.focusable: true
-    Accessible.onPressAction: ring.press()
-
-    MouseArea {
+    Pressable {
         anchors.fill: parent
         anchors.leftMargin: row.indent
-        onClicked: row.clicked()
-    }
+        spokenName: row.title
+        spokenSummary: row.summary
+        // Around the words, not over them.
+        ring.anchors.margins: -themeData.fontSizeMedium * 0.25
+        onActivated: row.clicked()
+        Accessible.role: Accessible.ButtonMenu
 
-    FocusRing {
-        id: ring
-
-        anchors.leftMargin: row.indent * 0.9
-        onPressed: row.clicked()
+        MouseArea {
+            anchors.fill: parent
+            onClicked: row.clicked()
+        }
     }
 }

@@ -37,7 +37,7 @@ PreferenceRow {
             width: parent.width - label.width
             height: themeData.iconSizeSmall
             spokenName: row.title
-            Accessible.description: row.summary
+            spokenSummary: row.summary
             onChanged: {
                 mirrored.commit()
                 row.changed()

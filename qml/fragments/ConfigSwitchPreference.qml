@@ -29,7 +29,7 @@ PreferenceRow {
         width: themeData.iconSizeLarge * 1.5
         height: parent.height
         spokenName: row.title
-        Accessible.description: row.summary
+        spokenSummary: row.summary
         onClicked: {
             mirrored.commit()
             row.clicked()

@@ -1,12 +1,13 @@
 import QtQuick 2.7
+import QtQuick.Window 2.7
 
 // Opens list dialogs over the whole window.
-QtObject {
+Item {
     property var component
 
     // The entries have a name and a value each. `selected` is called with the value of the one that the user chooses.
     function open(title, entries, current, selected) {
-        var dialog = component.createObject(window)
+        var dialog = component.createObject(Window.window)
         if (!dialog)
             return
         dialog.title = title

@@ -67,7 +67,7 @@ Item {
                     height: themeData.iconSizeSmall
                     color: "transparent"
 
-                    MouseArea {
+                    Pressable {
                         id: band
 
                         readonly property var positions: [qsTr("off"), qsTr("standard range"), qsTr("wide range")]
@@ -79,20 +79,16 @@ Item {
 
                         anchors.fill: parent
                         enabled: usbService.isUsbActive
-                        onClicked: press()
-                        activeFocusOnTab: true
+                        spokenName: stringMode
+                        spokenSummary: positions[sw.position]
+                        onActivated: press()
                         onActiveFocusChanged: {
                             if (activeFocus)
                                 ranges.bandInFocus = index
                         }
-                        Keys.forwardTo: ring
                         Accessible.role: Accessible.CheckBox
-                        Accessible.name: stringMode
-                        Accessible.description: ring.availability || positions[sw.position]
                         Accessible.checkable: true
                         Accessible.checked: sw.position !== UavThreeSwitch.OFF
-                        Accessible.focusable: enabled
-                        Accessible.onPressAction: ring.press()
                         Accessible.onToggleAction: ring.press()
                         Component.onCompleted: {
                             if (ranges.activeFocus && ranges.bandInFocus === index)
@@ -111,10 +107,9 @@ Item {
                             position: valueRange
                         }
 
-                        FocusRing {
-                            id: ring
-
-                            onPressed: band.press()
+                        MouseArea {
+                            anchors.fill: parent
+                            onClicked: band.press()
                         }
                     }
 

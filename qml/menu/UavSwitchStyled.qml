@@ -4,7 +4,7 @@ import uavSwitch 1.0
 import "../controls"
 
 // A painted switch that a click turns over.
-Item {
+Pressable {
     id: item
 
     property alias checked: sw.checked
@@ -20,15 +20,11 @@ Item {
     }
 
     enabled: switchEnabled
-    activeFocusOnTab: true
-    Keys.forwardTo: ring
+    spokenName: text
+    onActivated: press()
     Accessible.role: Accessible.CheckBox
-    Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.description: ring.availability
-    Accessible.focusable: enabled
-    Accessible.onPressAction: ring.press()
     Accessible.onToggleAction: ring.press()
 
     MouseArea {
@@ -46,11 +42,5 @@ Item {
             lineWidth: themeData.fontSizeSmall * 0.1
             textSize: parent.height * 0.5
         }
-    }
-
-    FocusRing {
-        id: ring
-
-        onPressed: item.press()
     }
 }

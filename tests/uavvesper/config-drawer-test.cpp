@@ -173,7 +173,7 @@ TEST_F(ConfigDrawerTest, FollowsTheGenerationAndTheWindow) {
 TEST_F(ConfigDrawerTest, ASwitchTakesItsFirstPlaceAtOnceAndGlidesToTheNext) {
     QQmlComponent document(&engine->qmlEngine(), QUrl("qrc:/qml/controls/Switch.qml"));
     const std::unique_ptr<QObject> made(document.createWithInitialProperties({{"width", 120}}));
-    const QQuickItem &knob = *qobject_cast<QQuickItem *>(made.get())->childItems()[1];
+    const QQuickItem &knob = *qobject_cast<QQuickItem *>(made.get())->childItems()[2];
     EXPECT_EQ(knob.x(), 30);
     made->setProperty("checked", false);
     EXPECT_EQ(knob.x(), 30);

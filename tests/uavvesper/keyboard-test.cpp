@@ -231,7 +231,9 @@ TEST_F(KeyboardTest, ARingShowsTheFocusWhileTheKeyboardIsUsedAlone) {
         for (int i = 0; i < with.width() * with.height(); ++i)
             if (const QPoint at(i % with.width(), i / with.width()); with.pixel(at) != without.pixel(at))
                 changed |= QRect(at, at);
-        EXPECT_TRUE(place.contains(changed)) << control;
+        // Around the words of a row that opens a dialog, in the gap between the rows.
+        const int gap = driver->find("ConfigPreference", control) ? 6 : 0;
+        EXPECT_TRUE(place.adjusted(-gap, -gap, gap, gap).contains(changed)) << control;
         EXPECT_GT(changed.width() * changed.height(), 0.8 * place.width() * place.height()) << control;
         driver->clickAt({1, 660});
         EXPECT_EQ(driver->picture(), without) << control;
@@ -267,7 +269,15 @@ TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
                 reader && reader->actionInterface() && told(reader, QAccessible::Name) == name)
                 return reader->actionInterface()->doAction(action);
     };
+    const auto readerOf = [this](const char *name) -> QAccessibleInterface * {
+        for (QQuickItem *item : driver->findAll({}))
+            if (auto *reader = QAccessible::queryAccessibleInterface(item);
+                reader && told(reader, QAccessible::Name) == name)
+                return reader;
+        return nullptr;
+    };
     const QString press = QAccessibleActionInterface::pressAction();
+    EXPECT_FALSE(readerOf("Mask")->state().focusable);
     EXPECT_THAT(found(), HasSubstr("|Button Battery 0% [Not available]|Button Mask off [Not available]|"));
     open();
     click("cfg");
@@ -296,6 +306,10 @@ TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
     EXPECT_TRUE(ScreenDriver::waitFor([this] { return !driver->find("ListButtonDialog"); }));
     EXPECT_THAT(sentBy([&] { act("Sound volume", QAccessibleActionInterface::increaseAction()); }),
                 ElementsAre(isLouder, isLouder));
+    EXPECT_TRUE(readerOf("Mask")->state().focusable);
+    const auto isSet = HasSubstr(R"("dispOffTime" : 45)");
+    EXPECT_THAT(sentBy([&] { readerOf("Display timeout")->valueInterface()->setCurrentValue(44.0); }),
+                ElementsAre(isSet, isSet));
     const auto isOff = HasSubstr(R"("voiceEn" : false)");
     EXPECT_THAT(sentBy([&] { act("Voice alarm", QAccessibleActionInterface::toggleAction()); }),
                 ElementsAre(isOff, isOff));
