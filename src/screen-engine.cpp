@@ -1,6 +1,7 @@
 #include "screen-engine.h"
 
 #include "common/history-metatype.h"
+#include "common/qt-versions.h"
 #include "msg-holder.h"
 #include "renderer.h"
 #include "version.h"
@@ -80,7 +81,7 @@ void followDesktop(int argc, char **argv) {
     probe.reset();
     if (isRounded)
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::Round);
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    enableHighDpiScaling();
     // Words have their places in pixels, so a larger text of the desktop enlarges the window as a whole.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
 }
@@ -136,8 +137,8 @@ void ScreenEngine::load(const QUrl &document) {
     // The translation lies in the working directory of a user who reads Russian and nowhere else; without it
     // the screens keep their source texts. A null suffix stands for Qt's own, an empty one would be none.
     static auto *const translator = new QTranslator; // in use until the process ends
-    translator->load("UavVesper-ru", ".", QString(), QString());
-    QCoreApplication::installTranslator(translator);
+    if (translator->load("UavVesper-ru", ".", QString(), QString()))
+        QCoreApplication::installTranslator(translator);
     drawSoon();
     engine.load(document);
     for (QObject *window : engine.rootObjects())

@@ -17,7 +17,7 @@ extern "C" const char *__lsan_default_suppressions() {
 // memory, but not the mutex that guards it. Only calls that Qt itself makes are passed over: a frame of ours
 // stays seen.
 extern "C" const char *__tsan_default_suppressions() {
-    return "race:libQt5Core\n";
+    return "race:libQt5Core\nrace:libQt6Core\n";
 }
 #endif
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "common/history-metatype.h"
+#include "common/qt-versions.h"
 #include "visuals/drawing.h"
 
 #include <QPixmap>
-#include <QQuickPaintedItem>
 
 /// A view of one band's history, painted in two layers that are prepared outside paint(): `background` covers
 /// the whole item with the labels and is rebuilt when the item's size or its band changes; `image` covers the
@@ -15,7 +15,7 @@
 /// anew when the item comes to a screen of another scale.
 ///
 /// All of it runs on the GUI thread; the scene graph sees only what paint() copies.
-class LayeredPlot : public QQuickPaintedItem {
+class LayeredPlot : public PaintedItem {
     Q_OBJECT
     Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
     Q_PROPERTY(int lineWidth READ getLineWidth WRITE setLineWidth)
@@ -76,7 +76,7 @@ protected:
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
     void itemChange(ItemChange change, const ItemChangeData &value) override;
     void componentComplete() override;
-    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
     MasterFreqModeEnum masterMode = NO_BAND;
     QColor backgroundColor;
