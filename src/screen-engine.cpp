@@ -74,11 +74,16 @@ void followDesktop(int argc, char **argv) {
     // How to round has to be said before there is an application object, and only one tells of the screens.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::PassThrough);
     std::vector<char *> arguments(argv, argv + argc + 1);
+    // Scaled itself, as it always is with Qt 6, it would tell of every text that it is of the usual size.
+    constexpr const char *variable = "QT_ENABLE_HIGHDPI_SCALING";
+    const QByteArray asked = qgetenv(variable);
+    qputenv(variable, "0");
     auto probe = std::make_unique<QGuiApplication>(argc, arguments.data());
     const auto screens = QGuiApplication::screens();
     const bool isRounded = std::all_of(screens.begin(), screens.end(), isAboutWhole);
     chooseRenderer();
     probe.reset();
+    asked.isNull() ? qunsetenv(variable) : qputenv(variable, asked);
     if (isRounded)
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::Round);
     enableHighDpiScaling();
