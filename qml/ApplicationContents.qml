@@ -20,7 +20,7 @@ FocusScope {
     }
 
     focus: true
-    Keys.onEscapePressed: {
+    Keys.onEscapePressed: function (event) {
         event.accepted = helpFragment.open || configFragment.open
         helpFragment.open = configFragment.open = false
     }

@@ -1,6 +1,7 @@
 #include "screen-engine.h"
 
 #include "common/history-metatype.h"
+#include "common/qt-versions.h"
 #include "msg-holder.h"
 #include "renderer.h"
 #include "version.h"
@@ -75,14 +76,19 @@ void followDesktop(int argc, char **argv) {
     // the screens. So a first one is made to ask it.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::PassThrough);
     std::vector<char *> arguments(argv, argv + argc + 1);
+    // Qt 6 always scales, and then every desktop seems to have text of the usual size. So the first one does not.
+    constexpr const char *variable = "QT_ENABLE_HIGHDPI_SCALING";
+    const QByteArray asked = qgetenv(variable);
+    qputenv(variable, "0");
     auto probe = std::make_unique<QGuiApplication>(argc, arguments.data());
     const auto screens = QGuiApplication::screens();
     const bool isRounded = std::all_of(screens.begin(), screens.end(), isAboutWhole);
     chooseRenderer();
     probe.reset();
+    asked.isNull() ? qunsetenv(variable) : qputenv(variable, asked);
     if (isRounded)
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::Round);
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling, true);
+    enableHighDpiScaling();
     // The places of texts are given in pixels. So a larger text of the desktop enlarges the whole window.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
 }
@@ -138,8 +144,8 @@ void ScreenEngine::load(const QUrl &document) {
     // The translation is in the working directory if the user reads Russian. Without it the screens keep
     // their source texts. A null suffix means Qt's own; an empty one would mean none.
     static auto *const translator = new QTranslator; // in use until the process ends
-    translator->load("UavVesper-ru", ".", QString(), QString());
-    QCoreApplication::installTranslator(translator);
+    if (translator->load("UavVesper-ru", ".", QString(), QString()))
+        QCoreApplication::installTranslator(translator);
     drawSoon();
     engine.load(document);
     for (QObject *window : engine.rootObjects())

@@ -21,7 +21,7 @@ extern "C" const char *__lsan_default_suppressions() {
 // its memory, but not the mutex that guards it. Only Qt's own calls are suppressed; our code is still
 // checked.
 extern "C" const char *__tsan_default_suppressions() {
-    return "race:libQt5Core\n";
+    return "race:libQt5Core\nrace:libQt6Core\n";
 }
 #endif
 

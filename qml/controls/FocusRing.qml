@@ -18,7 +18,7 @@ Item {
     }
 
     anchors.fill: parent
-    Keys.onPressed: {
+    Keys.onPressed: function (event) {
         if (event.key !== Qt.Key_Space && event.key !== Qt.Key_Return && event.key !== Qt.Key_Enter)
             return
         event.accepted = true

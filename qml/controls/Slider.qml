@@ -47,14 +47,14 @@ Item {
     width: 500
     height: 100
     opacity: enabled && !mouseArea.pressed && !isStepping ? 1 : 0.3
-    Keys.onPressed: {
+    Keys.onPressed: function (event) {
         if (event.key !== Qt.Key_Left && event.key !== Qt.Key_Right)
             return
         event.accepted = true
         isStepping = true
         step(event.key === Qt.Key_Right ? 1 : -1)
     }
-    Keys.onReleased: {
+    Keys.onReleased: function (event) {
         if (event.isAutoRepeat || (event.key !== Qt.Key_Left && event.key !== Qt.Key_Right))
             return
         event.accepted = true
@@ -163,12 +163,12 @@ Item {
         drag.minimumX: 0
         drag.maximumX: slider.width - runner.width
         drag.smoothed: false
-        onPressed: {
+        onPressed: function (mouse) {
             from = Qt.point(mouse.x, mouse.y)
             isSliding = isScrolling = false
         }
-        onPositionChanged: findDirection(mouse.x, mouse.y)
-        onMouseXChanged: getValue(Math.min(Math.max(mouse.x - runner.width * 0.5, 0), width - runner.width))
+        onPositionChanged: function (mouse) { findDirection(mouse.x, mouse.y) }
+        onMouseXChanged: getValue(Math.min(Math.max(mouseX - runner.width * 0.5, 0), width - runner.width))
         // A drag has overwritten the binding; let go, the runner follows the value again.
         onPressedChanged: {
             if (!pressed)

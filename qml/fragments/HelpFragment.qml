@@ -65,8 +65,6 @@ Item {
             id: dataTable
 
             width: parent.width
-            // On purpose: no property is spelled so. That gives no number, and the grid is as high as its content.
-            height: lb_mode.heigh * rows
             columns: 2
             flow: Grid.LeftToRight
 

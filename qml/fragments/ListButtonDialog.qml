@@ -74,7 +74,7 @@ Item {
         z: 2
         anchors.fill: parent
         onClicked: dialog.end()
-        onWheel: wheel.accepted = true
+        onWheel: function (wheel) { wheel.accepted = true }
     }
 
     ListView {

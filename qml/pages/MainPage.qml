@@ -214,8 +214,8 @@ Rectangle {
 
                 anchors.fill: parent
                 preventStealing: true
-                onPressed: lastX = mouse.x
-                onReleased: {
+                onPressed: function (mouse) { lastX = mouse.x }
+                onReleased: function (mouse) {
                     if (mouse.x - lastX > minFlick)
                         rect.swipe(-1)
                     else if (lastX - mouse.x > minFlick)

@@ -23,7 +23,7 @@ QRectF scaled(const QRectF &area, double factor) {
 } // namespace
 
 LayeredPlot::LayeredPlot(QQuickItem *parent)
-    : QQuickPaintedItem(parent) {
+    : PaintedItem(parent) {
     connect(
         this, &LayeredPlot::historyChanged, this,
         [this] {
@@ -103,18 +103,18 @@ void LayeredPlot::paintOnImage() {
 }
 
 void LayeredPlot::componentComplete() {
-    QQuickPaintedItem::componentComplete();
+    PaintedItem::componentComplete();
     rebuild();
 }
 
-void LayeredPlot::geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) {
-    QQuickPaintedItem::geometryChanged(newGeometry, oldGeometry);
+void LayeredPlot::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) {
+    PaintedItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() != oldGeometry.size())
         rebuild();
 }
 
 void LayeredPlot::itemChange(ItemChange change, const ItemChangeData &value) {
-    QQuickPaintedItem::itemChange(change, value);
+    PaintedItem::itemChange(change, value);
     const double formerRatio = pixelRatio;
     if (change == ItemSceneChange && value.window)
         pixelRatio = value.window->effectiveDevicePixelRatio();

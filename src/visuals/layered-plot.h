@@ -1,10 +1,10 @@
 #pragma once
 
 #include "common/history-metatype.h"
+#include "common/qt-versions.h"
 #include "visuals/drawing.h"
 
 #include <QPixmap>
-#include <QQuickPaintedItem>
 
 /// A view of one band's history. It has two layers, which are painted before paint() is called. `background`
 /// covers the whole item and has the labels; it is rebuilt when the item's size or its band changes. `image`
@@ -15,7 +15,7 @@
 /// the item comes to a screen of another scale.
 ///
 /// All of it runs on the UI thread. The scene graph sees only what paint() copies.
-class LayeredPlot : public QQuickPaintedItem {
+class LayeredPlot : public PaintedItem {
     Q_OBJECT
     Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
     Q_PROPERTY(int lineWidth READ getLineWidth WRITE setLineWidth)
@@ -82,7 +82,7 @@ protected:
     QSGNode *updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *data) override;
     void itemChange(ItemChange change, const ItemChangeData &value) override;
     void componentComplete() override;
-    void geometryChanged(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
     MasterFreqModeEnum masterMode = NO_BAND;
     QColor backgroundColor;

@@ -87,7 +87,7 @@ TEST_F(ConfigDrawerTest, OffersEverySettingOfTheGenerationAndSendsEachEdit) {
 AI mode|AI mode configure|AI_PRIOR aiPrior|AIDefault|AIDefault="DEFAULT"|Mode "Field"="FIELD"|Mode "City"="CITY")";
     open(ProtoEnum::K6);
     EXPECT_EQ(driver->words("DrawerFrame"), detection + "Interface|Brightness|Indication brightness|50|");
-    walk(both + "\nBrightness|Indication brightness|CONFIG indLedLvl|240|20=20|140=100");
+    walk(both + "\nBrightness|Indication brightness|CONFIG indLedLvl|240|20=20|120=100");
     disconnect();
 
     open(ProtoEnum::K7);
@@ -95,7 +95,7 @@ AI mode|AI mode configure|AI_PRIOR aiPrior|AIDefault|AIDefault="DEFAULT"|Mode "F
 Voice alarm|Speak detection results|CONFIG_K7 voiceEn|on|=false|=true|=false
 Alarm level|Speech alert with signal level specified and higher|CONFIG_K7 voiceDbLvl|Medium (-94)|Early (-99)=-99|Medium (-94)=-94|Late (-88)=-88
 Sound volume|Alarm sound volume|CONFIG indSndLvl|480|63=63|0=0
-Headphones volume|3.5 mm headphones volume|CONFIG_K7 indHeadLvl|120|140=100
+Headphones volume|3.5 mm headphones volume|CONFIG_K7 indHeadLvl|120|120=100
 Headphones output|3.5 mm headphones output mode|CONFIG_K7 indHeadMode|Sound|Disconnected="OFF"|Sound="SOUND"|EW management="EW_CONTROL"
 Sound|Sound alarm|CONFIG indSnd|on|=false
 Vibro|Vibro alarm|CONFIG indVibro|off|=true

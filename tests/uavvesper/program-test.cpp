@@ -315,5 +315,6 @@ TEST_F(MainWindowTest, EndsInGoodOrderOnASignalInEveryState) {
         device->setManner(PtyDevice::Manner::OBLIGING);
         device->unplug(); // as it is when it is switched on
         device->plugIn();
+        window->show(); // Qt 6 has closed it
     }
 }

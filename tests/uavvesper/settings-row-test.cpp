@@ -15,7 +15,9 @@ protected:
     std::string words() const {
         QString bands;
         for (const QQuickItem *band : driver->findAll("UavThreeSwitch"))
-            bands += band->property("text").toString() + ':' + band->property("position").toString() + ' ';
+            bands += QString("%1:%2 ")
+                         .arg(band->property("text").toString())
+                         .arg(band->property("position").toInt());
         return bands.toStdString() + driver->words("SettingsLayout");
     }
 };
