@@ -76,7 +76,8 @@ void followDesktop(int argc, char **argv) {
     // the screens. So a first one is made to ask it.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::PassThrough);
     std::vector<char *> arguments(argv, argv + argc + 1);
-    // Qt 6 always scales, and then every desktop seems to have text of the usual size. So the first one does not.
+    // Qt 6 always scales, and then every desktop seems to have text of the usual size. So the first one does
+    // not scale.
     constexpr const char *variable = "QT_ENABLE_HIGHDPI_SCALING";
     const QByteArray asked = qgetenv(variable);
     qputenv(variable, "0");
