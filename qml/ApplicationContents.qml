@@ -4,7 +4,7 @@ import "fragments"
 import "menu"
 import "pages"
 
-// A scope of its own keeps Escape while the control that had the keyboard can't take it.
+// A focus scope, so that Escape still comes here while the control that had the focus is disabled.
 FocusScope {
     id: contents
 
@@ -13,7 +13,7 @@ FocusScope {
 
     signal shareClicked // No caller today.
 
-    // Opens or closes a drawer; only one is open.
+    // Opens or closes a drawer. At most one is open.
     function toggle(drawer, other) {
         other.open = false
         drawer.open = !drawer.open

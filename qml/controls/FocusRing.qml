@@ -1,13 +1,13 @@
 import QtQuick 2.7
 import QtQuick.Window 2.7
 
-// Lies over a control that the keyboard can reach: shows where the focus is while the keyboard is used, and tells when
-// Space, Enter or a screen reader presses. The control forwards its keys here.
+// Lies over a control that the keyboard can reach. It shows the focus while the keyboard is used. It emits `pressed`
+// when Space, Enter or a screen reader presses the control. The control forwards its keys here.
 Item {
     id: ring
 
     property bool isFocused: parent.activeFocus
-    // For a screen reader, which is not told otherwise whether a control works.
+    // For a screen reader, which does not learn in another way that a control is disabled.
     readonly property string availability: enabled ? "" : qsTr("Not available")
 
     signal pressed
@@ -26,7 +26,7 @@ Item {
             press()
     }
 
-    // Light in dark, to be seen on every colour.
+    // A light frame inside a dark one is visible on every colour.
     Rectangle {
         anchors.fill: parent
         visible: ring.isFocused && !!ring.Window.window && ring.Window.window.isKeyboardUsed === true

@@ -1,7 +1,7 @@
 import QtQuick 2.7
 import QtQuick.Window 2.7
 
-// What a drawer is made of: as high as its content while the parent has room for that, else scrolling in all of it.
+// The base of a drawer. It is as high as its content; if the parent is smaller, it fills the parent and scrolls.
 Rectangle {
     id: frame
 
@@ -20,7 +20,7 @@ Rectangle {
         return !!item
     }
 
-    // Scrolls to what the keyboard reaches.
+    // Scrolls to the control that gets the focus.
     onItemInFocusChanged: {
         if (!hasFocus())
             return

@@ -5,12 +5,13 @@ import "../controls"
 Item {
     id: buttonLayout
 
-    // The openers of the drawers.
+    // The buttons that open the drawers.
     property alias configControl: configButton
     property alias helpControl: helpButton
     readonly property int buttonHeigth: themeData.iconSizeMedium
     readonly property real spacing: themeData.fontSizeSmall * 0.5
-    // Gives the address of an icon, from its names on the desktop and on the mobile platform and its button.
+    // A function that returns the address of an icon. It takes the icon's names on the desktop and on the mobile
+    // platform, and the button.
     property var icon
 
     signal help

@@ -8,8 +8,8 @@ import "../controls"
 Rectangle {
     id: mainPage
 
-    // A connected device that has sent no scan for so long, three times its slowest pace, may be unplugged, and no
-    // data must not look like no drone.
+    // Time without a scan, in ms, after which the bands are shown faintly: the device may be unplugged, and missing
+    // data must not look like a clear sky. It is three times the pause of the slowest detection mode.
     property int silenceMs: 15000
     property bool silent: false
 
@@ -43,10 +43,10 @@ Rectangle {
         property var histViews: []
         property var barPlots: []
         property var freqPlots: []
-        // The row that the keyboard was on: each CONFIG makes the rows anew.
+        // The row that has the focus. Each CONFIG message replaces the rows, so the new one needs it.
         property int rowInFocus: -1
 
-        // Whole rows of one height, however the page's height divides.
+        // A multiple of the number of rows, so that all rows have the same height in whole pixels.
         function getH() {
             var h = parent.height
             var rows = historyModel.rowCount()
@@ -92,12 +92,12 @@ Rectangle {
                          + qsTr("dB") + ", " + newest.type)
 
             function select(next) {
-                // Visible before the move: that is what makes it paint the data it was handed while hidden.
+                // Visible before the move, so that it paints the data that came while it was hidden.
                 views[next].visible = true
                 selected = next
             }
 
-            // One view on, or back.
+            // To the next view (1) or the one before (-1).
             function swipe(step) {
                 var next = selected + step
                 if (!anim.running && next >= 0 && next < views.length)
@@ -134,7 +134,7 @@ Rectangle {
             Connections {
                 target: historyModel
                 function onGotHistory() {
-                    // A row that a reset has ended lives a little longer.
+                    // After a reset of the model its former rows exist a little longer.
                     if (index >= 0 && index < historyModel.rowCount())
                         rect.newest = historyModel.getNewest(index)
                 }
@@ -145,7 +145,7 @@ Rectangle {
                     id: anim
 
                     velocity: 2000
-                    // complete() alone does not reach an animation of this kind inside a behavior.
+                    // complete() alone has no effect on a SmoothedAnimation in a Behavior.
                     duration: 0
                     onRunningChanged: {
                         if (!running)
@@ -200,7 +200,7 @@ Rectangle {
                 borderColor: themeData.gridColor
                 textSize: themeData.fontSizeTiny
                 lineWidth: themeData.fontSizeTiny * 0.2
-                // On purpose: bound to itself, as the view's own property. The data come by setHistory alone.
+                // On purpose: the property is bound to itself. The data come only by setHistory.
                 history: history
                 Accessible.role: Accessible.Chart
                 Accessible.name: qsTr("Persistence") + " " + rect.newest.band
