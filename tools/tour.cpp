@@ -1,4 +1,4 @@
-// Walks through the screens with the built-in simulator and writes a picture of each state worth seeing.
+// Goes through the screens with the simulator, then with a virtual detector. Writes a picture of each state.
 
 #include "field-scene.h"
 #include "screens.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// For the user, when a step of the tour can't be made.
+/// A message for the user, if a step of the tour is not possible.
 std::runtime_error failure(const QString &text) {
     return std::runtime_error(text.toStdString());
 }
@@ -67,7 +67,8 @@ private:
         }
     }
 
-    /// Each band off, on its standard range and on its extended one. The last active band can't be off.
+    /// Switches each band off, to its standard range and to its wide range. The last active band can't be
+    /// off.
     void switchBands() {
         const QStringList firstBands{"1.2", "2.4", "4.9"};
         const QStringList lastBand{"5.8"};
@@ -82,7 +83,7 @@ private:
         shoot("bands-extended");
     }
 
-    /// Clicks the switches of these bands until they stand so.
+    /// Clicks the switches of these bands until they have this position.
     void step(const QStringList &bands, UavThreeSwitch::Position position) {
         for (const QString &band : bands)
             while (element("UavThreeSwitch", band + '*').property("position").toInt() != position)
@@ -109,7 +110,7 @@ private:
         press("cfg");
     }
 
-    /// The ring around what has the keyboard: a band, and a slider of the settings.
+    /// The ring around the control that has the focus: a band, and a slider of the settings.
     void visitByKeyboard() {
         tabTo("QQuickRectangle");
         shoot("keyboard-band");
@@ -132,14 +133,14 @@ private:
             throw failure("The settings do not scroll.");
     }
 
-    /// The dialog that a control opens, left by a click outside.
+    /// The dialog that a control opens. A click outside closes it.
     void visitDialog(const QString &word) {
         press(word);
         shoot("dialog-" + word.toLower().replace(' ', '-'));
         driver->clickAt({1, 1});
     }
 
-    /// A detector in the field; these are the pictures of its manual.
+    /// A detector in the field. These pictures are in its manual.
     void visitDevice(ProtoEnum generation, const QString &name) {
         constexpr int scanPeriodMs = 500;
         connectTo(generation);
@@ -189,7 +190,7 @@ private:
         return *found;
     }
 
-    /// A word of the documents as the screens show it, in the language of this tour.
+    /// The translation of a word of the documents into the language of this tour.
     static QString shown(const QString &word) {
         for (QDirIterator it(":/qml", {"*.qml"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
             it.next();
