@@ -330,7 +330,7 @@
     </message>
     <message>
         <source>Bars</source>
-        <translation>Столбики</translation>
+        <translation>Столбцы</translation>
     </message>
     <message>
         <source>Course</source>
