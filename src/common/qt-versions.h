@@ -7,7 +7,7 @@
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
-/// Hands on each change of the item's place or size by the name of Qt 6.
+/// Passes on each change of the item's place or size, under Qt 6's name.
 class PaintedItem : public QQuickPaintedItem {
 public:
     using QQuickPaintedItem::QQuickPaintedItem;
@@ -23,7 +23,7 @@ private:
     }
 };
 
-/// Has Qt scale windows by the desktop's factor. Before the application object.
+/// Makes Qt scale windows by the desktop's factor. Call it before the application object is made.
 inline void enableHighDpiScaling() {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
 }

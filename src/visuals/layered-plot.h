@@ -71,8 +71,8 @@ protected:
     Words words(int x, int baseLine, const QString &text, const QColor &color) const {
         return {QPoint(x, baseLine), text, color, textSize};
     }
-    /// A level, squeezed where a font with wide digits would have it run under the picture, which begins this
-    /// number of pixels from the left.
+    /// The label of a level. It is squeezed if it would reach under the picture, as with a font of wide
+    /// digits. The picture begins at `pictureX`, in pixels from the left.
     Words levelLabel(int x, int baseLine, int levelDb, const QColor &color, int pictureX) const {
         return {QPoint(x, baseLine), QString::number(levelDb), color, textSize, pictureX - x};
     }
