@@ -309,8 +309,8 @@
 <context>
     <name>MainPage</name>
     <message>
-        <source>No scan for 15 seconds</source>
-        <translation>Нет сканирований 15 секунд</translation>
+        <source>No scan for %1 seconds</source>
+        <translation>Нет сканирований %1 секунд</translation>
     </message>
     <message>
         <source>No signal</source>

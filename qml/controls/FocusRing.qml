@@ -1,5 +1,4 @@
 import QtQuick 2.7
-import QtQuick.Window 2.7
 
 // Lies over a control that the keyboard can reach: shows where the focus is while the keyboard is used, and tells when
 // Space, Enter or a screen reader presses. The control forwards its keys here.
@@ -29,7 +28,7 @@ Item {
     // Light in dark, to be seen on every colour.
     Rectangle {
         anchors.fill: parent
-        visible: ring.isFocused && !!ring.Window.window && ring.Window.window.isKeyboardUsed === true
+        visible: ring.isFocused && lastGesture.isKeyboard
         color: "transparent"
         border.color: themeData.darkTextColor
         border.width: 4

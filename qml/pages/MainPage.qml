@@ -43,8 +43,6 @@ Rectangle {
         property var histViews: []
         property var barPlots: []
         property var freqPlots: []
-        // The row that the keyboard was on: each CONFIG makes the rows anew.
-        property int rowInFocus: -1
 
         // Whole rows of one height, however the page's height divides.
         function getH() {
@@ -78,6 +76,12 @@ Rectangle {
             historyModel.gotHistory.connect(showHistories)
         }
 
+        FocusMemory {
+            id: focusMemory
+
+            list: plots
+        }
+
         delegate: Rectangle {
             id: rect
 
@@ -86,7 +90,7 @@ Rectangle {
             property int selected: 0
             // The band's name and the strongest signal of its newest scan.
             property var newest: historyModel.getNewest(index)
-            readonly property string newestInWords: (mainPage.silent ? qsTr("No scan for 15 seconds") + ". " : "")
+            readonly property string newestInWords: (mainPage.silent ? qsTr("No scan for %1 seconds").arg(mainPage.silenceMs / 1000) + ". " : "")
                     + (newest.type === undefined ? qsTr("No signal")
                        : qsTr("Strongest: ") + newest.freq + " " + qsTr("MHz") + ", " + newest.rssi + " "
                          + qsTr("dB") + ", " + newest.type)
@@ -112,10 +116,6 @@ Rectangle {
             visible: usbService.isUsbActive
             enabled: visible
             activeFocusOnTab: true
-            onActiveFocusChanged: {
-                if (activeFocus)
-                    plots.rowInFocus = index
-            }
             Keys.onLeftPressed: swipe(-1)
             Keys.onRightPressed: swipe(1)
             Accessible.role: Accessible.Grouping
@@ -124,10 +124,7 @@ Rectangle {
             Accessible.focusable: true
             Accessible.onPreviousPageAction: swipe(-1)
             Accessible.onNextPageAction: swipe(1)
-            Component.onCompleted: {
-                if (plots.activeFocus && plots.rowInFocus === index)
-                    forceActiveFocus()
-            }
+            Component.onCompleted: focusMemory.attach(index, rect)
 
             onXChanged: anim.complete()
 
