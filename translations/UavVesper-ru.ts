@@ -15,6 +15,26 @@
         <source>Manual</source>
         <translation>Руководство</translation>
     </message>
+    <message>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Не подключено</translation>
+    </message>
+    <message>
+        <source>Test mode</source>
+        <translation>Тестовый режим</translation>
+    </message>
+    <message>
+        <source>Mask on</source>
+        <translation>Маска включена</translation>
+    </message>
+    <message>
+        <source>Mask off</source>
+        <translation>Маска выключена</translation>
+    </message>
 </context>
 <context>
     <name>ButtonLayout</name>

@@ -5,7 +5,6 @@ import QtQuick 2.7
 Item {
     id: ring
 
-    property bool isFocused: parent.activeFocus
     // For a screen reader, which is not told otherwise whether a control works.
     readonly property string availability: enabled ? "" : qsTr("Not available")
 
@@ -28,7 +27,7 @@ Item {
     // Light in dark, to be seen on every colour.
     Rectangle {
         anchors.fill: parent
-        visible: ring.isFocused && lastGesture.isKeyboard
+        visible: ring.parent.activeFocus && lastGesture.isKeyboard
         color: "transparent"
         border.color: themeData.darkTextColor
         border.width: 4

@@ -8,6 +8,9 @@ Item {
     // The openers of the drawers.
     property alias configControl: configButton
     property alias helpControl: helpButton
+    // Whether the drawers are open.
+    property bool isConfigOpen: false
+    property bool isHelpOpen: false
     readonly property int buttonHeigth: themeData.iconSizeMedium
     readonly property real spacing: themeData.fontSizeSmall * 0.5
     // Gives the address of an icon, from its names on the desktop and on the mobile platform and its button.
@@ -15,6 +18,8 @@ Item {
 
     signal help
     signal config
+    // The device has answered a mask command, or its mask has changed.
+    signal maskSet(bool isOn)
 
     width: parent.width
     height: buttonHeigth + spacing
@@ -22,6 +27,8 @@ Item {
     Component.onCompleted: {
         usbService.gotBatteryState.connect(function (batt) { chargeButton.charge = batt })
         usbService.gotMask.connect(function (mask) {
+            if (maskButton.waiting || maskButton.masked !== mask)
+                maskSet(mask)
             maskButton.masked = mask
             maskButton.waiting = false
         })
@@ -85,6 +92,8 @@ Item {
             enabled: usbService.isUsbActive
             iconSource: buttonLayout.icon("cfg", "setting", configButton)
             spokenName: qsTr("Settings")
+            Accessible.checkable: true
+            Accessible.checked: buttonLayout.isConfigOpen
             onClicked: buttonLayout.config()
         }
 
@@ -98,6 +107,8 @@ Item {
             height: buttonLayout.buttonHeigth
             iconSource: buttonLayout.icon("info", "about", helpButton)
             spokenName: qsTr("Information")
+            Accessible.checkable: true
+            Accessible.checked: buttonLayout.isHelpOpen
             onClicked: {
                 pressToTest = usbService.isUsbActive ? 0 : pressToTest + 1
                 if (pressToTest === 12) {
