@@ -15,6 +15,26 @@
         <source>Manual</source>
         <translation>Руководство</translation>
     </message>
+    <message>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Не подключено</translation>
+    </message>
+    <message>
+        <source>Test mode</source>
+        <translation>Тестовый режим</translation>
+    </message>
+    <message>
+        <source>Mask on</source>
+        <translation>Маска включена</translation>
+    </message>
+    <message>
+        <source>Mask off</source>
+        <translation>Маска выключена</translation>
+    </message>
 </context>
 <context>
     <name>ButtonLayout</name>
@@ -309,8 +329,8 @@
 <context>
     <name>MainPage</name>
     <message>
-        <source>No scan for 15 seconds</source>
-        <translation>Нет сканирований 15 секунд</translation>
+        <source>No scan for %1 seconds</source>
+        <translation>Нет сканирований %1 секунд</translation>
     </message>
     <message>
         <source>No signal</source>

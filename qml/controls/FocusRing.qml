@@ -1,12 +1,10 @@
 import QtQuick 2.7
-import QtQuick.Window 2.7
 
 // Lies over a control that the keyboard can reach. It shows the focus while the keyboard is used. It emits `pressed`
 // when Space, Enter or a screen reader presses the control. The control forwards its keys here.
 Item {
     id: ring
 
-    property bool isFocused: parent.activeFocus
     // For a screen reader, which does not learn in another way that a control is disabled.
     readonly property string availability: enabled ? "" : qsTr("Not available")
 
@@ -29,7 +27,7 @@ Item {
     // A light frame inside a dark one is visible on every colour.
     Rectangle {
         anchors.fill: parent
-        visible: ring.isFocused && !!ring.Window.window && ring.Window.window.isKeyboardUsed === true
+        visible: ring.parent.activeFocus && lastGesture.isKeyboard
         color: "transparent"
         border.color: themeData.darkTextColor
         border.width: 4

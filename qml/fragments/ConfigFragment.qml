@@ -6,6 +6,7 @@ Item {
 
     property alias open: customDrawer.visible
     property alias opener: customDrawer.opener
+    property alias coversFrom: customDrawer.coversFrom
     readonly property bool hasK7Settings: confHndlr.hasK7Settings
 
     function setHeight(comp) {

@@ -13,6 +13,8 @@ Rectangle {
 
     // The button that opens the drawer. It takes the keyboard back when the drawer closes.
     property Item opener
+    // Where what it covers begins in the parent.
+    readonly property real coversFrom: visible ? y : Infinity
     readonly property Item itemInFocus: Window.activeFocusItem
 
     function hasFocus() {
@@ -36,9 +38,13 @@ Rectangle {
     color: themeData.fragmentColor
     opacity: 0.8
     visible: false
+    Accessible.role: Accessible.Dialog
+    Accessible.name: opener ? opener.spokenName : ""
     onVisibleChanged: {
         flick.contentY = -flick.topMargin
-        if (!visible && hasFocus())
+        if (visible && lastGesture.isKeyboard)
+            flick.contentItem.nextItemInFocusChain().forceActiveFocus()
+        else if (!visible && hasFocus())
             opener.forceActiveFocus()
     }
 

@@ -8,6 +8,7 @@ Item {
 
     property alias open: customDrawer.visible
     property alias opener: customDrawer.opener
+    property alias coversFrom: customDrawer.coversFrom
     // On purpose: the mode that the settings call "Standard" is "Base" here.
     readonly property var modeWords: ({
         ECO: qsTr("Efficient"), BASE: qsTr("Base"), AUTO: qsTr("Automatic"), CONT: qsTr("Continuous")

@@ -34,7 +34,7 @@ Item {
         for (var i = 0; i < model.count; ++i)
             if (model.get(i).value === current)
                 list.currentIndex = i
-        if (Window.window.isKeyboardUsed === true)
+        if (lastGesture.isKeyboard)
             list.currentItem.forceActiveFocus()
     }
 

@@ -8,6 +8,9 @@ Item {
     // The buttons that open the drawers.
     property alias configControl: configButton
     property alias helpControl: helpButton
+    // Whether the drawers are open.
+    property bool isConfigOpen: false
+    property bool isHelpOpen: false
     readonly property int buttonHeigth: themeData.iconSizeMedium
     readonly property real spacing: themeData.fontSizeSmall * 0.5
     // A function that returns the address of an icon. It takes the icon's names on the desktop and on the mobile
@@ -16,6 +19,8 @@ Item {
 
     signal help
     signal config
+    // The device has answered a mask command, or its mask has changed.
+    signal maskSet(bool isOn)
 
     width: parent.width
     height: buttonHeigth + spacing
@@ -23,6 +28,8 @@ Item {
     Component.onCompleted: {
         usbService.gotBatteryState.connect(function (batt) { chargeButton.charge = batt })
         usbService.gotMask.connect(function (mask) {
+            if (maskButton.waiting || maskButton.masked !== mask)
+                maskSet(mask)
             maskButton.masked = mask
             maskButton.waiting = false
         })
@@ -86,6 +93,8 @@ Item {
             enabled: usbService.isUsbActive
             iconSource: buttonLayout.icon("cfg", "setting", configButton)
             spokenName: qsTr("Settings")
+            Accessible.checkable: true
+            Accessible.checked: buttonLayout.isConfigOpen
             onClicked: buttonLayout.config()
         }
 
@@ -99,6 +108,8 @@ Item {
             height: buttonLayout.buttonHeigth
             iconSource: buttonLayout.icon("info", "about", helpButton)
             spokenName: qsTr("Information")
+            Accessible.checkable: true
+            Accessible.checked: buttonLayout.isHelpOpen
             onClicked: {
                 pressToTest = usbService.isUsbActive ? 0 : pressToTest + 1
                 if (pressToTest === 12) {

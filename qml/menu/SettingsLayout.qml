@@ -35,9 +35,6 @@ Item {
             ListView {
                 id: ranges
 
-                // The band that has the focus. Each edit replaces the switches, so the new one needs it.
-                property int bandInFocus: -1
-
                 // Takes the bands of a CONFIG message. The sizes here depend on their number.
                 function setConf(msg) {
                     masterModes.setConfig(msg)
@@ -62,6 +59,12 @@ Item {
                     masterModes.rangesChanged.connect(commit)
                 }
 
+                FocusMemory {
+                    id: focusMemory
+
+                    list: ranges
+                }
+
                 delegate: Rectangle {
                     width: themeData.buttonSizeSmall
                     height: themeData.iconSizeSmall
@@ -82,18 +85,11 @@ Item {
                         spokenName: stringMode
                         spokenSummary: positions[sw.position]
                         onActivated: press()
-                        onActiveFocusChanged: {
-                            if (activeFocus)
-                                ranges.bandInFocus = index
-                        }
                         Accessible.role: Accessible.CheckBox
                         Accessible.checkable: true
                         Accessible.checked: sw.position !== UavThreeSwitch.OFF
                         Accessible.onToggleAction: ring.press()
-                        Component.onCompleted: {
-                            if (ranges.activeFocus && ranges.bandInFocus === index)
-                                forceActiveFocus()
-                        }
+                        Component.onCompleted: focusMemory.attach(index, band)
 
                         UavThreeSwitch {
                             id: sw

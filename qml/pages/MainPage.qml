@@ -12,6 +12,11 @@ Rectangle {
     // data must not look like a clear sky. It is three times the pause of the slowest detection mode.
     property int silenceMs: 15000
     property bool silent: false
+    readonly property string silenceInWords: qsTr("No scan for %1 seconds").arg(silenceMs / 1000)
+    // The classes of signals as the legend names them.
+    property var classWords: ({})
+    // From here down something lies over the page, so the keyboard and a screen reader pass the bands over.
+    property real coveredFrom: Infinity
 
     objectName: "mainPage"
     color: "transparent"
@@ -43,8 +48,6 @@ Rectangle {
         property var histViews: []
         property var barPlots: []
         property var freqPlots: []
-        // The row that has the focus. Each CONFIG message replaces the rows, so the new one needs it.
-        property int rowInFocus: -1
 
         // A multiple of the number of rows, so that all rows have the same height in whole pixels.
         function getH() {
@@ -78,6 +81,12 @@ Rectangle {
             historyModel.gotHistory.connect(showHistories)
         }
 
+        FocusMemory {
+            id: focusMemory
+
+            list: plots
+        }
+
         delegate: Rectangle {
             id: rect
 
@@ -86,10 +95,11 @@ Rectangle {
             property int selected: 0
             // The band's name and the strongest signal of its newest scan.
             property var newest: historyModel.getNewest(index)
-            readonly property string newestInWords: (mainPage.silent ? qsTr("No scan for 15 seconds") + ". " : "")
+            readonly property string newestInWords: (mainPage.silent ? mainPage.silenceInWords + ". " : "")
                     + (newest.type === undefined ? qsTr("No signal")
                        : qsTr("Strongest: ") + newest.freq + " " + qsTr("MHz") + ", " + newest.rssi + " "
-                         + qsTr("dB") + ", " + newest.type)
+                         + qsTr("dB") + ", "
+                         + (mainPage.classWords[newest.type] || newest.type))
 
             function select(next) {
                 // Visible before the move, so that it paints the data that came while it was hidden.
@@ -111,23 +121,6 @@ Rectangle {
             clip: true
             visible: usbService.isUsbActive
             enabled: visible
-            activeFocusOnTab: true
-            onActiveFocusChanged: {
-                if (activeFocus)
-                    plots.rowInFocus = index
-            }
-            Keys.onLeftPressed: swipe(-1)
-            Keys.onRightPressed: swipe(1)
-            Accessible.role: Accessible.Grouping
-            Accessible.name: views[selected].Accessible.name
-            Accessible.description: newestInWords
-            Accessible.focusable: true
-            Accessible.onPreviousPageAction: swipe(-1)
-            Accessible.onNextPageAction: swipe(1)
-            Component.onCompleted: {
-                if (plots.activeFocus && plots.rowInFocus === index)
-                    forceActiveFocus()
-            }
 
             onXChanged: anim.complete()
 
@@ -163,9 +156,6 @@ Rectangle {
                 innerBorderColor: themeData.barPlotBorder
                 lineWidth: themeData.fontSizeTiny * 0.1
                 textSize: themeData.fontSizeTiny
-                Accessible.role: Accessible.Chart
-                Accessible.name: qsTr("Bars") + " " + rect.newest.band
-                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.barPlots[index] = barPlot
             }
 
@@ -182,9 +172,6 @@ Rectangle {
                 textSize: themeData.fontSizeTiny
                 lineWidth: themeData.fontSizeTiny * 0.2
                 lang: qsTr("language")
-                Accessible.role: Accessible.Chart
-                Accessible.name: qsTr("Course") + " " + rect.newest.band
-                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.freqPlots[index] = freqPlot
             }
 
@@ -202,9 +189,6 @@ Rectangle {
                 lineWidth: themeData.fontSizeTiny * 0.2
                 // On purpose: the property is bound to itself. The data come only by setHistory.
                 history: history
-                Accessible.role: Accessible.Chart
-                Accessible.name: qsTr("Persistence") + " " + rect.newest.band
-                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.histViews[index] = histView
             }
 
@@ -223,10 +207,36 @@ Rectangle {
                 }
             }
 
-            FocusRing {
-                isFocused: rect.activeFocus
-                anchors.leftMargin: rect.selected * plots.width
-                anchors.rightMargin: rect.width - plots.width - anchors.leftMargin
+            // What the keyboard and a screen reader have of the band: the view on show.
+            Item {
+                id: reader
+
+                readonly property var names: [qsTr("Bars"), qsTr("Course"), qsTr("Persistence")]
+                readonly property rect plotArea: rect.views[rect.selected].plotArea
+
+                x: rect.selected * plots.width
+                width: plots.width
+                height: rect.height
+                visible: rect.y + height <= mainPage.coveredFrom
+                enabled: visible
+                activeFocusOnTab: enabled
+                Keys.onLeftPressed: rect.swipe(-1)
+                Keys.onRightPressed: rect.swipe(1)
+                Accessible.role: Accessible.Chart
+                Accessible.name: names[rect.selected] + " " + rect.newest.band
+                Accessible.description: rect.newestInWords
+                Accessible.focusable: enabled
+                Accessible.onPreviousPageAction: rect.swipe(-1)
+                Accessible.onNextPageAction: rect.swipe(1)
+                Component.onCompleted: focusMemory.attach(index, reader)
+
+                // Around the data, not over the labels.
+                FocusRing {
+                    anchors.leftMargin: reader.plotArea.x
+                    anchors.topMargin: reader.plotArea.y
+                    anchors.rightMargin: reader.width - reader.plotArea.x - reader.plotArea.width
+                    anchors.bottomMargin: reader.height - reader.plotArea.y - reader.plotArea.height
+                }
             }
         }
     }

@@ -20,6 +20,7 @@ class LayeredPlot : public PaintedItem {
     Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
     Q_PROPERTY(int lineWidth READ getLineWidth WRITE setLineWidth)
     Q_PROPERTY(int textSize READ getTextSize WRITE setTextSize NOTIFY sizeChanged)
+    Q_PROPERTY(QRectF plotArea READ getPlotArea NOTIFY plotAreaChanged)
     Q_PROPERTY(History history READ getHistory WRITE setHistory NOTIFY historyChanged)
 
 public:
@@ -42,12 +43,16 @@ public:
     History getHistory() const;
     Q_INVOKABLE virtual void setHistory(History history) = 0;
 
+    /// Where the data is in the item, without the labels. In pixels.
+    virtual QRectF getPlotArea() const { return imageArea; }
+
     void paint(QPainter *painter) override;
 
 signals:
     void historyChanged();
     /// The labels no longer fit the item. Rebuilds both layers.
     void sizeChanged();
+    void plotAreaChanged();
 
 protected:
     static constexpr MasterFreqModeEnum NO_BAND = static_cast<MasterFreqModeEnum>(-1);

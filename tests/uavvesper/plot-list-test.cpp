@@ -128,11 +128,11 @@ TEST_F(PlotListTest, ASwipeOfMoreThan100PixelsMovesItsBandByOneView) {
 TEST_F(PlotListTest, APictureWithoutScansFadesUntilTheNextOneAndEachViewTellsItsStrongestSignal) {
     const auto told = [this] {
         std::string lines;
-        for (QQuickItem *view : views()) {
-            const QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(view);
-            lines += reader->text(QAccessible::Name).toStdString() + ": " +
-                     reader->text(QAccessible::Description).toStdString() + '\n';
-        }
+        for (QQuickItem *item : driver->findAll({}))
+            if (const auto *reader = QAccessible::queryAccessibleInterface(item);
+                reader && reader->role() == QAccessible::Chart)
+                lines += reader->text(QAccessible::Name).toStdString() + ": " +
+                         reader->text(QAccessible::Description).toStdString() + '\n';
         return lines;
     };
     const auto opacityOf = [](QQuickItem *item) {
