@@ -8,6 +8,7 @@
 #include <QDirIterator>
 #include <QGuiApplication>
 #include <QTest>
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -120,8 +121,17 @@ private:
         press("cfg");
     }
 
+    /// The focus may be on a part of the element.
+    bool hasFocus(const QString &element) const {
+        const auto items = driver->findAll(element);
+        const QQuickItem *focused = window->activeFocusItem();
+        return std::any_of(items.begin(), items.end(), [focused](const QQuickItem *item) {
+            return focused && (item == focused || item->isAncestorOf(focused));
+        });
+    }
+
     void tabTo(const QString &element) {
-        for (int steps = 0; !driver->findAll(element).contains(window->activeFocusItem()); ++steps) {
+        for (int steps = 0; !hasFocus(element); ++steps) {
             if (steps == 100)
                 throw failure("The keyboard does not reach a " + element);
             QTest::keyClick(window, Qt::Key_Tab);
