@@ -70,6 +70,22 @@
         <source>Fabric settings</source>
         <translation>Заводские настройки</translation>
     </message>
+    <message>
+        <source>on</source>
+        <translation>включена</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>выключена</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>открыты</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>закрыты</translation>
+    </message>
 </context>
 <context>
     <name>ConfigFragment</name>

@@ -8,6 +8,9 @@ Item {
     // For a screen reader, which does not learn in another way that a control is disabled.
     readonly property string availability: enabled ? "" : qsTr("Not available")
 
+    // Thin on a control that is low, to leave its label free.
+    readonly property int thickness: Math.max(2, Math.min(4, height * 0.1))
+
     signal pressed
 
     function press() {
@@ -30,14 +33,14 @@ Item {
         visible: ring.parent.activeFocus && lastGesture.isKeyboard
         color: "transparent"
         border.color: themeData.darkTextColor
-        border.width: 4
+        border.width: ring.thickness
 
         Rectangle {
             anchors.fill: parent
             anchors.margins: 1
             color: "transparent"
             border.color: themeData.lightTextColor
-            border.width: 2
+            border.width: ring.thickness / 2
         }
     }
 }

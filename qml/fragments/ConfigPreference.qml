@@ -12,8 +12,9 @@ PreferenceRow {
         anchors.leftMargin: row.indent
         spokenName: row.title
         spokenSummary: row.summary
-        // Around the words, not over them.
-        ring.anchors.margins: -themeData.fontSizeMedium * 0.25
+        // Around the words, not over them; at the right the drawer ends.
+        ring.anchors.margins: -5
+        ring.anchors.rightMargin: 0
         onActivated: row.clicked()
         Accessible.role: Accessible.ButtonMenu
 

@@ -22,6 +22,11 @@ Item {
     // The device has answered a mask command, or its mask has changed.
     signal maskSet(bool isOn)
 
+    // Readers do not speak the checked state of a button.
+    function openOrClosed(isOpen) {
+        return isOpen ? qsTr("open") : qsTr("closed")
+    }
+
     width: parent.width
     height: buttonHeigth + spacing
 
@@ -67,6 +72,7 @@ Item {
             color: masked ? themeData.maskColor : chargeButton.color
             enabled: usbService.isUsbActive && !waiting
             text: waiting ? qsTr("Wait") : qsTr("Mask")
+            spokenSummary: masked ? qsTr("on") : qsTr("off")
             Accessible.checkable: true
             Accessible.checked: masked
             onClicked: {
@@ -93,6 +99,7 @@ Item {
             enabled: usbService.isUsbActive
             iconSource: buttonLayout.icon("cfg", "setting", configButton)
             spokenName: qsTr("Settings")
+            spokenSummary: buttonLayout.openOrClosed(buttonLayout.isConfigOpen)
             Accessible.checkable: true
             Accessible.checked: buttonLayout.isConfigOpen
             onClicked: buttonLayout.config()
@@ -108,6 +115,7 @@ Item {
             height: buttonLayout.buttonHeigth
             iconSource: buttonLayout.icon("info", "about", helpButton)
             spokenName: qsTr("Information")
+            spokenSummary: buttonLayout.openOrClosed(buttonLayout.isHelpOpen)
             Accessible.checkable: true
             Accessible.checked: buttonLayout.isHelpOpen
             onClicked: {

@@ -296,23 +296,24 @@ TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
                                     "Chart Bars 5.8 [No signal]|StaticText Wi-Fi|"));
     click("cfg");
     act("Scan mode", press);
-    EXPECT_EQ(found(),
-              "Notification Connected|Dialog Settings|Heading Detection|"
-              "ButtonMenu Scan mode [Radioscan frequence]|ButtonMenu AI mode [AI mode configure]|"
-              "Heading Alarm|CheckBox Voice alarm on [Speak detection results]|"
-              "ButtonMenu Alarm level [Speech alert with signal level specified and higher]|"
-              "Slider Sound volume 99 of 100 [Alarm sound volume]|"
-              "Slider Headphones volume 25 of 100 [3.5 mm headphones volume]|"
-              "ButtonMenu Headphones output [3.5 mm headphones output mode]|"
-              "CheckBox Sound on [Sound alarm]|CheckBox Vibro off [Vibro alarm]|Heading Interface|"
-              "Slider Brightness 0 of 100 [Indication brightness]|"
-              "Slider Display timeout 30 of 360 [Shut off the display for inactivity in seconds]|"
-              "StaticText Wi-Fi|StaticText DIG|StaticText FPV|Button Battery 87%|Button Mask off|"
-              "Button Fabric settings|Button Settings on|Button Information off|Button Disconnect|"
-              "CheckBox 1.2 on [standard range]|CheckBox 2.4+ on [wide range]|CheckBox 4.9 off [off]|"
-              "CheckBox 5.8 off [off]|CheckBox Sound on|CheckBox Vibro off|CheckBox Wi-Fi off|"
-              "CheckBox Dig off|Button Sens: High|Button AI: Default|Dialog Scan mode|"
-              "Button Efficient off|Button Standard on|Button Automatic off|Button Continuous off|");
+    EXPECT_EQ(
+        found(),
+        "Notification Connected|Dialog Settings|Heading Detection|"
+        "ButtonMenu Scan mode [Radioscan frequence]|ButtonMenu AI mode [AI mode configure]|"
+        "Heading Alarm|CheckBox Voice alarm on [Speak detection results]|"
+        "ButtonMenu Alarm level [Speech alert with signal level specified and higher]|"
+        "Slider Sound volume 99 of 100 [Alarm sound volume]|"
+        "Slider Headphones volume 25 of 100 [3.5 mm headphones volume]|"
+        "ButtonMenu Headphones output [3.5 mm headphones output mode]|"
+        "CheckBox Sound on [Sound alarm]|CheckBox Vibro off [Vibro alarm]|Heading Interface|"
+        "Slider Brightness 0 of 100 [Indication brightness]|"
+        "Slider Display timeout 30 of 360 [Shut off the display for inactivity in seconds]|"
+        "StaticText Wi-Fi|StaticText DIG|StaticText FPV|Button Battery 87%|Button Mask off [off]|"
+        "Button Fabric settings|Button Settings on [open]|Button Information off [closed]|Button Disconnect|"
+        "CheckBox 1.2 on [standard range]|CheckBox 2.4+ on [wide range]|CheckBox 4.9 off [off]|"
+        "CheckBox 5.8 off [off]|CheckBox Sound on|CheckBox Vibro off|CheckBox Wi-Fi off|"
+        "CheckBox Dig off|Button Sens: High|Button AI: Default|Dialog Scan mode|"
+        "Button Efficient off|Button Standard on|Button Automatic off|Button Continuous off|");
     const auto isAuto = HasSubstr(R"("mode" : "AUTO")"), isLouder = HasSubstr(R"("indSndLvl" : 100)");
     EXPECT_THAT(sentBy([&] { act("Automatic", press); }), ElementsAre(isAuto, isAuto));
     EXPECT_TRUE(ScreenDriver::waitFor([this] { return !driver->find("ListButtonDialog"); }));
@@ -335,7 +336,7 @@ TEST_F(KeyboardTest, AScreenReaderFindsEveryControlAndView) {
         EXPECT_THAT(found(), StartsWith(*mask == 't' ? "Notification Mask on|" : "Notification Mask off|"));
     }
     click("info");
-    EXPECT_THAT(found(), AllOf(HasSubstr("|Dialog Information|"), HasSubstr("|Button Information on|"),
+    EXPECT_THAT(found(), AllOf(HasSubstr("|Dialog Information|"), HasSubstr("|Button Information on [open]|"),
                                HasSubstr("|StaticText Frequency bands: |StaticText 1000-1680|")));
     click("usb");
     EXPECT_THAT(found(), StartsWith("Notification Not connected|"));
