@@ -14,11 +14,13 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPointer>
 #include <QQmlContext>
 #include <QQuickWindow>
 #include <QScreen>
 #include <QTranslator>
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -108,6 +110,16 @@ ScreenEngine::ScreenEngine(ServiceObjects &objects)
     // The documents' own handlers run when the engine ends, after the event loop.
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &engine,
                      [&service = objects.usbService] { service.shutDown(); });
+    // If the display goes away, Qt calls exit(), which skips all of that. The device must not go on scanning.
+    static QPointer<UsbService> serviceAtExit;
+    serviceAtExit = &objects.usbService;
+    static const int registered = std::atexit([] {
+        if (serviceAtExit) {
+            serviceAtExit->blockSignals(true); // the screens can't be trusted any more
+            serviceAtExit->shutDown();
+        }
+    });
+    Q_UNUSED(registered)
 }
 
 ScreenEngine::~ScreenEngine() {
