@@ -22,7 +22,7 @@ Item {
     // Emitted when the device has answered a mask request, or when its mask has changed.
     signal maskSet(bool isOn)
 
-    // Readers do not speak the checked state of a button.
+    // In words, because readers do not speak the checked state of a button.
     function openOrClosed(isOpen) {
         return isOpen ? qsTr("open") : qsTr("closed")
     }
