@@ -129,8 +129,8 @@ bool UsbTty::readBlock() {
         bytes.resize(static_cast<std::size_t>(count));
         processNewData(std::move(bytes));
     }
-    // Nothing ever comes from a line that has hung up, as that of an unplugged device has. So the thread
-    // waits for news alone. If there is news now, another port may have taken the line's place.
+    // The line of an unplugged device has hung up, and nothing comes from it any more. So the thread waits
+    // only for news. If there is news now, another port may have taken the line's place.
     hasHungUp = count <= 0 && (waited[0].revents & POLLHUP) != 0 && !isNews;
     return count > 0 || hasSent || hasHungUp;
 }

@@ -1,6 +1,6 @@
 import QtQuick 2.7
 
-// Tells who uses a screen reader of a change that came by itself. Readers speak a notification when it appears.
+// Announces a change that came by itself to users of a screen reader. Readers speak a notification when it appears.
 Item {
     id: announcer
 

@@ -1,11 +1,11 @@
 import QtQuick 2.7
 
-// For a list that makes its rows again while the keyboard may be on one of them: the new row takes it.
+// For a list that replaces its rows. If the row that had the focus is replaced, the new one gets the focus.
 QtObject {
     property Item list
     property int row: -1
 
-    // Called by each row once it is made, with the control in it that takes the keyboard.
+    // Each new row calls this, with the control in the row that can get the focus.
     function attach(index, control) {
         if (list.activeFocus && row === index)
             control.forceActiveFocus()

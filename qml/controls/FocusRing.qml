@@ -8,7 +8,7 @@ Item {
     // For a screen reader, which does not learn in another way that a control is disabled.
     readonly property string availability: enabled ? "" : qsTr("Not available")
 
-    // Thin on a control that is low, to leave its label free.
+    // In pixels. It is thin on a low control, so that it leaves the label free.
     readonly property int thickness: Math.max(2, Math.min(4, height * 0.1))
 
     signal pressed

@@ -12,7 +12,7 @@ PreferenceRow {
         anchors.leftMargin: row.indent
         spokenName: row.title
         spokenSummary: row.summary
-        // Around the words, not over them; at the right the drawer ends.
+        // The ring is around the words, not over them. To the right there is no room, because the drawer ends there.
         ring.anchors.margins: -5
         ring.anchors.rightMargin: 0
         onActivated: row.clicked()

@@ -13,7 +13,7 @@ Rectangle {
 
     // The button that opens the drawer. It takes the keyboard back when the drawer closes.
     property Item opener
-    // Where what it covers begins in the parent.
+    // The place from which the drawer covers the parent, in pixels from the parent's top.
     readonly property real coversFrom: visible ? y : Infinity
     readonly property Item itemInFocus: Window.activeFocusItem
 

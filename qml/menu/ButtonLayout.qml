@@ -8,7 +8,7 @@ Item {
     // The buttons that open the drawers.
     property alias configControl: configButton
     property alias helpControl: helpButton
-    // Whether the drawers are open.
+    // True while the drawer is open.
     property bool isConfigOpen: false
     property bool isHelpOpen: false
     readonly property int buttonHeigth: themeData.iconSizeMedium
@@ -19,10 +19,10 @@ Item {
 
     signal help
     signal config
-    // The device has answered a mask command, or its mask has changed.
+    // Emitted when the device has answered a mask request, or when its mask has changed.
     signal maskSet(bool isOn)
 
-    // Readers do not speak the checked state of a button.
+    // In words, because readers do not speak the checked state of a button.
     function openOrClosed(isOpen) {
         return isOpen ? qsTr("open") : qsTr("closed")
     }

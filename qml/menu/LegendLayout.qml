@@ -7,7 +7,7 @@ Item {
 
     readonly property int rectHeigth: themeData.iconSizeMedium
     readonly property real spacing: themeData.fontSizeSmall * 0.5
-    // The classes of signals as a user knows them.
+    // The names of the signal classes for the user, by the classes' names on the line.
     readonly property var words: ({ WIFI: "Wi-Fi", DIG: qsTr("DIG"), FPV: "FPV" })
 
     height: rectHeigth + spacing

@@ -13,9 +13,9 @@ Rectangle {
     property int silenceMs: 15000
     property bool silent: false
     readonly property string silenceInWords: qsTr("No scan for %1 seconds").arg(silenceMs / 1000)
-    // The classes of signals as the legend names them.
+    // The names of the signal classes in the legend, by the classes' names on the line.
     property var classWords: ({})
-    // From here down something lies over the page, so the keyboard and a screen reader pass the bands over.
+    // From here down, in pixels from the top, a drawer covers the page. The keyboard and a screen reader skip covered bands.
     property real coveredFrom: Infinity
 
     objectName: "mainPage"
@@ -207,7 +207,7 @@ Rectangle {
                 }
             }
 
-            // What the keyboard and a screen reader have of the band: the view on show.
+            // The band for the keyboard and a screen reader: the visible view.
             Item {
                 id: reader
 
@@ -230,7 +230,7 @@ Rectangle {
                 Accessible.onNextPageAction: rect.swipe(1)
                 Component.onCompleted: focusMemory.attach(index, reader)
 
-                // Around the data, not over the labels.
+                // The ring is around the data, so that it covers no label.
                 FocusRing {
                     anchors.leftMargin: reader.plotArea.x
                     anchors.topMargin: reader.plotArea.y

@@ -43,7 +43,7 @@ public:
     History getHistory() const;
     Q_INVOKABLE virtual void setHistory(History history) = 0;
 
-    /// Where the data is in the item, without the labels. In pixels.
+    /// The area of the data in the item, without the labels, in logical pixels.
     virtual QRectF getPlotArea() const { return imageArea; }
 
     void paint(QPainter *painter) override;

@@ -128,7 +128,7 @@ TEST_F(KeyboardTest, PressesAsAClickDoes) {
         modes += name() + ' ';
     }
     deviceSays(config);
-    EXPECT_EQ(modes + name(), "4.9 4.9+ 4.9 4.9 4.9") << "switches made anew keep the keyboard";
+    EXPECT_EQ(modes + name(), "4.9 4.9+ 4.9 4.9 4.9") << "a replaced switch keeps the focus";
 
     walkTo("Scan mode");
     press(Qt::Key_Space);
@@ -208,7 +208,7 @@ TEST_F(KeyboardTest, SwipesTheBandInFocus) {
     EXPECT_EQ(shown, "BBBB|BFBB|BHBB|BHBB|BFBB|");
     EXPECT_EQ(name(), "Course 2.4");
     deviceSays(config);
-    EXPECT_EQ(views() + name(), "BBBBBars 2.4") << "rows made anew keep the keyboard";
+    EXPECT_EQ(views() + name(), "BBBBBars 2.4") << "a replaced row keeps the focus";
 }
 
 TEST_F(KeyboardTest, ARingShowsTheFocusWhileTheKeyboardIsUsedAlone) {
