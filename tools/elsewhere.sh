@@ -28,6 +28,7 @@ declare -A GENERAL=(
     [qml6-module-qtquick-controls]='module QtQuick/Controls the QML module QtQuick.Controls'
     [xvfb]='command Xvfb Xvfb'
     [xauth]='command xauth xauth'
+    [dbus]='command dbus-daemon D-Bus'
     [clang-format]='command clang-format clang-format'
     [clang-tidy]='command clang-tidy clang-tidy'
     [clang]='command clang++ Clang with libFuzzer'
