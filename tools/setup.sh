@@ -64,6 +64,12 @@ case "$QT" in
         ;;
     *) fail "QT must be 5 or 6, not $QT." ;;
 esac
+# COMPILER=clang in the environment chooses clang instead of GCC, with Qt 5.15.
+case "${COMPILER:-gcc}-$QT" in
+    gcc-*) ;;
+    clang-5) RELEASE=clang BUILD_PACKAGES+=(clang) ;;
+    *) fail "COMPILER must be gcc, or clang with Qt 5.15." ;;
+esac
 
 # install_missing PACKAGE...: installs packages. It asks for sudo only if something is missing.
 install_missing() {
