@@ -42,7 +42,7 @@ DIALOG = """
 dialog {Scan mode}|button {Efficient} focusable|button {Standard} checked focusable|button {Automatic} focusable
 button {Continuous} focusable"""
 ROLES = [("PUSH_BUTTON", "button"), ("CHECK_BOX", "box")]
-ROLES += [(role.upper(), role) for role in ("label", "chart", "heading", "slider", "dialog", "notification")]
+ROLES += [(role.upper(), role) for role in ("label", "chart", "heading", "slider", "dialog", "frame", "notification")]
 started = []
 
 
@@ -105,7 +105,7 @@ class Reader:
     def nodes(self, node=None):
         if not node:
             self.app.clear_cache()
-            node = self.app.get_child_at_index(0)
+            node = self.app
         for child in children(node):
             if child.get_state_set().contains(Atspi.StateType.SHOWING):
                 yield child
@@ -122,7 +122,7 @@ class Reader:
         return " ".join(line + [word for word, state in named if states.contains(state)])
 
     def screen(self):
-        return [line for line in map(self.line, self.nodes()) if not line.startswith("notification ")]
+        return [line for line in map(self.line, self.nodes()) if not line.startswith(("frame ", "notification "))]
 
     def expect_screen(self, text):
         wanted = re.split(r"[|\n]", self.say(text.strip()))
