@@ -12,7 +12,6 @@
 #include "visuals/uav-switch.h"
 #include "visuals/uav-three-switch.h"
 
-#include <QAccessible>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QPointer>
@@ -67,11 +66,8 @@ void followDesktop(int argc, char **argv) {
     const auto screens = QGuiApplication::screens();
     const bool isRounded = std::all_of(screens.begin(), screens.end(), isAboutWhole);
     chooseRenderer();
-    // The end of an application object takes away what shows items to screen readers. Qt 6 installs that
-    // once, when its libraries are loaded.
-    qRemovePostRoutine(QAccessible::cleanup);
     probe.reset();
-    qAddPostRoutine(QAccessible::cleanup);
+    showItemsToScreenReaders();
     asked.isNull() ? qunsetenv(variable) : qputenv(variable, asked);
     if (isRounded)
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::Round);

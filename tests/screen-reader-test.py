@@ -118,8 +118,11 @@ class Reader:
             line.append(f"{node.get_current_value():.0f} of {node.get_maximum_value():.0f}")
         if description:
             line.append("[...]" if re.fullmatch(self.signal, description) else f"[{description}]")
-        named = (("checked", Atspi.StateType.CHECKED), ("focusable", Atspi.StateType.FOCUSABLE))
-        return " ".join(line + [word for word, state in named if states.contains(state)])
+        if states.contains(Atspi.StateType.CHECKED):
+            line.append("checked")
+        if states.contains(Atspi.StateType.FOCUSABLE) and role != Atspi.Role.LABEL: # Qt 6 says so of each label
+            line.append("focusable")
+        return " ".join(line)
 
     def screen(self):
         return [line for line in map(self.line, self.nodes()) if not line.startswith(("frame ", "notification "))]

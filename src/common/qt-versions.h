@@ -28,10 +28,20 @@ inline void enableHighDpiScaling() {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
 }
 
+/// Makes good that the end of an earlier application object took away what shows items to screen readers.
+inline void showItemsToScreenReaders() {} // the engine does
+
 #else
+
+/// Qt Quick runs this when it is loaded. It has no header for it.
+void QQuick_initializeModule();
 
 using PaintedItem = QQuickPaintedItem;
 
 inline void enableHighDpiScaling() {} // always on
+
+inline void showItemsToScreenReaders() {
+    QQuick_initializeModule();
+}
 
 #endif
