@@ -120,7 +120,7 @@ class Reader:
             line.append("[...]" if re.fullmatch(self.signal, description) else f"[{description}]")
         if states.contains(Atspi.StateType.CHECKED):
             line.append("checked")
-        if states.contains(Atspi.StateType.FOCUSABLE) and role != Atspi.Role.LABEL: # Qt 6 says so of each label
+        if states.contains(Atspi.StateType.FOCUSABLE) and role != Atspi.Role.LABEL: # newer Qts say so of each label
             line.append("focusable")
         return " ".join(line)
 
