@@ -50,7 +50,7 @@ TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
     const auto fire = [&] { list.fire([](const Listener &each) { each(); }); };
     std::thread firing(fire);
     while (!running)
-        std::this_thread::yield();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     std::thread removing([&] {
         list.remove(listener);
         EXPECT_TRUE(ended);
@@ -70,7 +70,7 @@ TEST(ListenerListThreads, RunningListenersMayRemoveEachOtherInARing) {
         for (int self = 0; self < count; ++self) {
             ring[self] = std::make_shared<Listener>([&, self] {
                 for (++running; running < count;)
-                    std::this_thread::yield();
+                    std::this_thread::sleep_for(std::chrono::milliseconds(1));
                 list.remove(ring[(self + 1) % count]);
             });
             list.add(ring[self]);
