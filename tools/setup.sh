@@ -70,6 +70,19 @@ case "${COMPILER:-gcc}-$QT" in
     clang-5) RELEASE=clang BUILD_PACKAGES+=(clang) ;;
     *) fail "COMPILER must be gcc, or clang with Qt 5.15." ;;
 esac
+# CROSS=arm64 or CROSS=armhf, which tools/on sets, builds what needs no Qt for that processor. Its tests run under emulation.
+case "${CROSS-}" in
+    '') ;;
+    arm64 | armhf)
+        RELEASE=$CROSS
+        BUILD_PACKAGES=(
+            crossbuild-essential-$CROSS cmake ninja-build pkg-config:$CROSS qemu-user rapidjson-dev libstdc++6:$CROSS
+            libgtest-dev:$CROSS libgmock-dev:$CROSS
+        )
+        SCREEN_PACKAGES=() TEST_PACKAGES=(locales procps)
+        ;;
+    *) fail "CROSS must be arm64 or armhf." ;;
+esac
 
 # install_missing PACKAGE...: installs packages. It asks for sudo only if something is missing.
 install_missing() {

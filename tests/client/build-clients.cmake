@@ -12,7 +12,7 @@ function(build name sources)
         set(flags -DCMAKE_CXX_FLAGS=-fsanitize=${SANITIZE})
     endif()
     run(${CMAKE_COMMAND} -S ${sources} -B ${DIR}/${name} -G ${GENERATOR} -DCMAKE_CXX_COMPILER=${COMPILER} ${flags}
-        -DCMAKE_PREFIX_PATH=${DIR}/installed)
+        -DPKG_CONFIG_EXECUTABLE=${PKG_CONFIG} -DCMAKE_PREFIX_PATH=${DIR}/installed)
     run(${CMAKE_COMMAND} --build ${DIR}/${name})
 endfunction()
 

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # examples-test.sh VIRTUAL-DEVICE DIRECTORY: runs the examples of the directory with a virtual detector.
+# EMULATOR in the environment is the command that runs programs for another processor.
 set -euo pipefail
-device=$1 examples=$2
+device=$1 examples=$2 emulator=${EMULATOR-}
 work=$(mktemp -d)
 started=()
 trap 'kill "${started[@]}" 2>/dev/null; rm -rf "$work"' EXIT
@@ -39,17 +40,17 @@ connected() {
     fail "$2 does not connect."
 }
 
-"$device" --link "$work/serial/usb-virtual" --scene peaks --pace 50 >"$work/device.txt" &
+$emulator "$device" --link "$work/serial/usb-virtual" --scene peaks --pace 50 >"$work/device.txt" &
 started+=($!)
 wait_for 1 "$work/device.txt"
 
-connected "$work/watch.txt" "$examples/watch-signals" "$work/serial"
+connected "$work/watch.txt" $emulator "$examples/watch-signals" "$work/serial"
 wait_for 6 "$work/watch.txt"
 kill -INT $example
 wait $example || fail "watch-signals ends with an error."
 ! grep -vE '^[0-9]{4} MHz, -[0-9.]+ dB, (WIFI|DIG|FPV)$' "$work/watch.txt" || fail "Lines of another kind."
 
-connected "$work/log.txt" "$examples/log-scans" "$work/serial"
+connected "$work/log.txt" $emulator "$examples/log-scans" "$work/serial"
 wait_for 3 "$work/log.txt"
 kill -HUP $example
 wait $example || fail "log-scans ends with an error."
@@ -57,11 +58,11 @@ wait $example || fail "log-scans ends with an error."
     fail "Lines of another kind."
 
 # A detector that still scans would not be found again.
-connected "$work/two.txt" bash -c '"$1" "$2" | head -n 2' bash "$examples/log-scans" "$work/serial"
+connected "$work/two.txt" bash -c '"$@" | head -n 2' bash $emulator "$examples/log-scans" "$work/serial"
 wait $example || fail "log-scans does not end when nobody reads it."
-connected "$work/set.txt" "$examples/set-brightness" 40 "$work/serial"
+connected "$work/set.txt" $emulator "$examples/set-brightness" 40 "$work/serial"
 wait $example || fail "set-brightness ends with an error."
 [ "$(cat "$work/set.txt")" = "Brightness: 40 %" ] || fail "It was not set."
-! "$examples/set-brightness" 101 "$work/serial" 2>"$work/errors.txt" || fail "101 % are taken."
-! "$examples/watch-signals" "$work/none" 2>"$work/errors.txt" || fail "A detector is found where none is."
+! $emulator "$examples/set-brightness" 101 "$work/serial" 2>"$work/errors.txt" || fail "101 % are taken."
+! $emulator "$examples/watch-signals" "$work/none" 2>"$work/errors.txt" || fail "A detector is found where none is."
 grep -qx "No detector found." "$work/errors.txt" || fail "Nothing tells that there is no detector."

@@ -7,7 +7,7 @@ if(at EQUAL -1)
     message(FATAL_ERROR "docs/using-the-library.md shows another watch-signals.cpp than examples/.")
 endif()
 
-execute_process(COMMAND ${DIR}/client/client OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${EMULATOR} ${DIR}/client/client OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
 if(NOT output STREQUAL "fields042")
     message(FATAL_ERROR "The client with names of its own says: ${output}")
 endif()
