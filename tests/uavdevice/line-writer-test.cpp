@@ -108,15 +108,15 @@ TEST_F(LineThreads, HasNeitherParityNorHandshakeWhateverWasLeftOn) {
 
 /// More than one attempt, since a busy machine may hold one up.
 TEST_F(LineThreads, WaitingForRoomAndForTheRestHaveOneTimeOut) {
-    ASSERT_TRUE(tty.openPort());
     const auto pieces = 2 * std::count(config.begin(), config.end(), '\n') + 1;
     const auto inTime = [&] {
+        EXPECT_TRUE(tty.openPort());
         line.hold();
         EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
         const auto start = std::chrono::steady_clock::now();
-        line.takeWhile([&, left = pieces + 1]() mutable { // the former request and a piece of the next
-            return std::chrono::steady_clock::now() - start > 150ms && left-- > 0;
-        });
+        const auto left = std::make_shared<std::atomic<long>>(pieces + 1); // and a piece of the next request
+        line.takeWhile(
+            [left, start] { return std::chrono::steady_clock::now() - start > 150ms && (*left)-- > 0; });
         tty.sendWithin(config, 200ms);
         const bool isLate = std::chrono::steady_clock::now() - start >= 330ms;
         line.release();
