@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <ctime>
 
-/// A figure is the best of several turns, in processor time: what else goes on in a machine only ever adds to
-/// it.
+/// A figure is the best of several turns, in processor time. Other programs on the machine can only make a
+/// turn slower.
 
 inline double secondsOf(clockid_t clock) {
     timespec now{};
@@ -25,7 +25,7 @@ double fastest(int turns, Run run) {
     return best;
 }
 
-/// The ratio of two runs, taken in turns so that both meet the same machine.
+/// The ratio of two runs. They alternate, so that both run under the same conditions.
 template <typename Run, typename Yardstick>
 double ratioOf(int turns, Run run, Yardstick yardstick) {
     double ours = 1e300, theirs = 1e300;
@@ -36,7 +36,7 @@ double ratioOf(int turns, Run run, Yardstick yardstick) {
     return ours / theirs;
 }
 
-/// The line that tools/bench reads.
+/// Prints the line that tools/bench reads.
 inline void report(const char *row, double value, const char *unit) {
     std::printf("%s\t%.3f\t%s\n", row, value, unit);
 }

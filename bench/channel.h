@@ -7,7 +7,7 @@
 #include <rapidjson/document.h>
 #include <string>
 
-/// A link without a line: bytes are fed to it by hand.
+/// A link without a line. The bench feeds it the bytes.
 class Link : public SerialInterfaceAdapter {
 public:
     std::string getName() override { return "bench"; }
@@ -23,7 +23,7 @@ inline void feed(Link &link, const std::string &text) {
         link.processNewData(text.substr(at, CHUNK));
 }
 
-/// One sweep over all ranges of a K7, as a device writes it.
+/// The text of a scan over all ranges of a K7, as a device writes it.
 inline std::string scanText() {
     std::string text = "{\n\"freqs\" : [";
     int count = 0;
@@ -38,7 +38,7 @@ inline std::string scanText() {
     return text + "\n],\n\"mask\" : false,\n\"type\" : \"SCAN_RESULT\"\n}\n";
 }
 
-/// A text through the channel to a listener, against one document of it by RapidJSON.
+/// Measures a text on its way through the channel to a listener, against a RapidJSON document of the text.
 inline double channelRatio(const std::string &text, int times) {
     Link link;
     int messages = 0;
@@ -58,6 +58,6 @@ inline double channelRatio(const std::string &text, int times) {
             }
         });
     if (messages != turns * times)
-        std::abort(); // it would have measured something else
+        std::abort(); // the messages were not delivered, so the figure would be wrong
     return ratio;
 }

@@ -1,4 +1,5 @@
-// From a scan on the line to its picture in the window, four bands on show, with the software renderer.
+// Measures the time from a scan on the line to its picture in the window, which shows four bands, with the
+// software renderer.
 
 #include "bench.h"
 #include "msg-to-json-parser.h"
@@ -57,10 +58,9 @@ public:
             tooLate.start(1000);
             untilFrame.exec();
             if (taken(MsgTypeEnum::SCAN_RESULT) == known)
-                continue; // lost: the line brought its end in one piece with the answer to a question of the
-                          // program
+                continue; // lost: its end came in one chunk with the reply to a request of the program
             latencies.push_back(secondsOf(CLOCK_MONOTONIC) - begin);
-            QTest::qWait(20); // what comes after the frame counts, too
+            QTest::qWait(20); // work after the frame counts, too
             spent += processSeconds() - spentBefore;
         }
         std::sort(latencies.begin(), latencies.end());

@@ -1,8 +1,8 @@
 #include "channel.h"
 #include "log.h"
 
-// Each chunk that ends an object begins the next one, so that the channel drops no byte of the stream. What
-// it logs of these objects goes nowhere.
+// Each chunk that ends an object begins the next one, so that the channel drops no byte of the stream. The
+// log of these objects is dropped.
 
 namespace {
 
@@ -22,7 +22,7 @@ Halves fill(const std::string &object) {
     const double first = fastest(1, feedHalf);
     const double second = fastest(1, feedHalf);
     if (link.getRecvBuffer().size() < KEPT)
-        std::abort(); // it would have measured something else
+        std::abort(); // the bytes were not kept, so the figure would be wrong
     return {first, second};
 }
 

@@ -14,9 +14,10 @@
 #include <vector>
 
 const QSize VIEW_SIZE(800, 184); // a band's share of the window
-constexpr int TEXT_SIZE = 10;    // points, as the window starts
+constexpr int TEXT_SIZE = 10;    // points, as in the window at the start
 
-/// Ten scans of a band over its widest range, with a weak signal in every sixth column and one that lasts.
+/// Ten scans of a band over its widest range. In each, one column in six has a weak signal at random, and
+/// always the same one a strong signal.
 inline History historyOf(MasterFreqModeEnum band) {
     const auto freqs = FreqMode(MasterFreqMode(band).getMaxRangeFreqMode()).getFreqList()->getFreqs();
     std::mt19937 random(1);
@@ -32,12 +33,12 @@ inline History historyOf(MasterFreqModeEnum band) {
                 FreqScanResultBuilder().freqMHz(freq).rssi(rssi).type(type).build()));
         }
         history.acceptScan(results);
-        std::this_thread::sleep_for(std::chrono::milliseconds(12)); // a curve needs time
+        std::this_thread::sleep_for(std::chrono::milliseconds(12)); // the curve's points need different times
     }
     return history;
 }
 
-/// A view as the window has it, with its picture.
+/// A view with the properties that the window sets, and its picture.
 template <typename View>
 class Band : public View {
 public:
@@ -88,8 +89,8 @@ private:
     Drawing shapes;
 };
 
-/// One scan on a view of each of the four bands, from `setHistory` to `paint`, against the same rectangles,
-/// lines and texts, all with smooth edges, by a bare painter.
+/// Measures one scan on a view of each of the four bands, from `setHistory` to `paint`. The yardstick is a
+/// bare painter that draws the same rectangles, lines and texts, all with smooth edges.
 template <typename View>
 void reportPainting(const char *row, int widthOfLines, int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

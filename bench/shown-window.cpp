@@ -1,7 +1,7 @@
-// shown-window [DIR [DESCRIPTOR]]: a window for whoever measures or looks at it from outside. With a folder
-// it is the program's, which connects by itself to a detector that has its link there; without one, or with
-// an empty name, an empty one that changes its colour as often as a detector scans. A byte to the descriptor
-// tells of the first frame.
+// shown-window [DIR [DESCRIPTOR]]: shows a window that another process measures or takes a picture of. With
+// a folder it is the program's window. The program then connects by itself to a detector that has its link in
+// the folder. Without a folder, or with an empty name, it is an empty window that changes its colour as often
+// as a detector scans. After the first frame a byte is written to the descriptor.
 
 #include "process-signals.h"
 #include "renderer.h"
@@ -29,7 +29,7 @@ constexpr const char *EMPTY_WINDOW = "import QtQuick 2.7\n"
                                      "    }\n"
                                      "}\n";
 
-/// UI thread.
+/// Calls `then` once, on the UI thread.
 void atFirstFrame(QQmlApplicationEngine &engine, const std::function<void()> &then) {
     auto *once = new QObject(&engine);
     const auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
@@ -39,12 +39,12 @@ void atFirstFrame(QQmlApplicationEngine &engine, const std::function<void()> &th
     });
 }
 
-void tell(int argc, char **argv) {
+void reportFrame(int argc, char **argv) {
     if (argc > 2 && ::write(std::atoi(argv[2]), "s", 1) != 1)
         QCoreApplication::exit(1);
 }
 
-/// As the program starts, but for the connection.
+/// Starts like the program, and connects by itself.
 int showProgram(int argc, char **argv) {
     followDesktop(argc, argv);
     ServiceObjects objects(argv[1]);
@@ -63,7 +63,7 @@ int showProgram(int argc, char **argv) {
             objects.usbService.startUsb();
     });
     atFirstFrame(screens.qmlEngine(), [&] {
-        tell(argc, argv);
+        reportFrame(argc, argv);
         untilConnected.start(500);
     });
     return QGuiApplication::exec();
@@ -74,7 +74,7 @@ int showNothing(int argc, char **argv) {
     chooseRenderer();
     QQmlApplicationEngine engine;
     engine.loadData(EMPTY_WINDOW);
-    atFirstFrame(engine, [&] { tell(argc, argv); });
+    atFirstFrame(engine, [&] { reportFrame(argc, argv); });
     return QGuiApplication::exec();
 }
 

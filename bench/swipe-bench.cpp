@@ -1,6 +1,6 @@
-// How long a frame takes while a band is swiped on and on and while the settings scroll, on a display,
-// against the frames of an empty window of the same size in which a square moves. swipe-bench [WIDTH HEIGHT],
-// in logical pixels.
+// swipe-bench [WIDTH HEIGHT], in logical pixels: measures the frames on a display while a band is swiped
+// again and again, and while the settings scroll. The yardstick is an empty window of the same size in which
+// a square moves.
 
 #include "bench.h"
 #include "log.h"
@@ -28,20 +28,20 @@ constexpr const char *EMPTY_WINDOW = "import QtQuick 2.7\n"
                                      "    }\n"
                                      "}\n";
 
-/// What each frame takes that a window shows while something moves in it.
+/// The mean cost of a frame of a window while something moves in it.
 struct FrameCost {
     double seconds;
-    double processor; ///< seconds of all threads, the virtual device included
+    double processor; ///< seconds of all threads, the virtual detector included
 };
 
 double secondsSince(double begin) {
     return secondsOf(CLOCK_MONOTONIC) - begin;
 }
 
-/// `move` returns for how many seconds something moved.
+/// `move` moves something and returns for how many seconds it moved.
 template <typename Move>
 FrameCost costOfFrames(const QQuickWindow &window, Move move) {
-    std::atomic<int> frames{0}; // whichever thread shows them
+    std::atomic<int> frames{0}; // counted on the thread that shows them
     const double spentBefore = secondsOf(CLOCK_PROCESS_CPUTIME_ID);
     const auto counting = QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { ++frames; });
     const double seconds = move();
@@ -89,8 +89,8 @@ public:
     }
 
 private:
-    /// Seconds from the end of the gesture until another view of the last band is shown. The way is half of
-    /// the gesture's, to the left.
+    /// Returns the seconds from the end of the gesture until the last band shows another view. `way` is half
+    /// of the gesture's length in pixels; a positive one goes to the left.
     double swipeOnce(int way) {
         const QQuickItem *view = driver->findAll("LayeredPlot").last();
         const QPoint middle = ScreenDriver::middleOf(*view);
@@ -136,7 +136,7 @@ int main(int argc, char **argv) {
     followDesktop(argc, argv);
     registerTypes();
     const QGuiApplication app(argc, argv);
-    Log::setSink([](const std::string &) {}); // its lines would stand among the figures
+    Log::setSink([](const std::string &) {}); // its lines would be printed between the figures
     const QSize size = argc > 2 ? QSize(std::atoi(argv[1]), std::atoi(argv[2])) : QSize(3840, 2160);
     MovedScreens screens(size);
     const FrameCost swipe = screens.swipe(), scroll = screens.scroll(), empty = moveInEmptyWindow(size);

@@ -1,5 +1,5 @@
-// What the program's window costs on a display while a detector scans twice a second, against an empty window
-// that changes as often, each in a process of its own.
+// Measures the cost of the program's window on a display while a detector scans twice a second. The yardstick
+// is an empty window that changes as often. Each has a process of its own.
 
 #include "bench.h"
 #include "pty-device.h"
@@ -25,8 +25,8 @@ struct Cost {
 /// A window of another process, from its first frame on.
 class ShownWindow {
 public:
-    /// Of the program, on the devices in this folder, or an empty one. Throws std::runtime_error if it does
-    /// not show.
+    /// Shows the program's window, with the devices of this folder, or an empty one if the name is empty.
+    /// Throws std::runtime_error if the window does not show.
     explicit ShownWindow(const std::string &folder) {
         int ends[2];
         if (::pipe(ends) != 0)
@@ -43,8 +43,8 @@ public:
             ::_exit(1);
         }
         ::close(ends[1]);
-        char told = 0;
-        const bool isShown = ::read(ends[0], &told, 1) == 1;
+        char signal = 0;
+        const bool isShown = ::read(ends[0], &signal, 1) == 1;
         firstFrameSeconds = secondsOf(CLOCK_MONOTONIC) - begin;
         ::close(ends[0]);
         if (!isShown || ::clock_getcpuclockid(process, &clock) != 0)
@@ -57,7 +57,7 @@ public:
     ShownWindow(const ShownWindow &) = delete;
     ShownWindow &operator=(const ShownWindow &) = delete;
 
-    /// Of all threads, since the start.
+    /// The cost of all threads since the start.
     Cost cost() const {
         Cost cost{secondsOf(clock), 0, 0};
         for (const auto &task : fs::directory_iterator("/proc/" + std::to_string(process) + "/task")) {

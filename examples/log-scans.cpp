@@ -1,5 +1,5 @@
-// Logs every scan as a line of JSON with the time of its arrival, in ms since 1970, until told to end by a
-// signal, or until nobody takes the lines.
+// Logs every scan as a line of JSON with the time of its arrival, in ms since 1970. Ends at a signal, or when
+// nobody reads the lines any more.
 
 #include <algorithm>
 #include <csignal>
@@ -20,7 +20,7 @@ void logScan(const std::shared_ptr<Msg> &msg) {
 }
 
 int main(int argc, char **argv) {
-    sigset_t ending; // blocked before there are threads, which inherit that
+    sigset_t ending; // blocked before there are threads, because threads inherit it
     sigemptyset(&ending);
     for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
         sigaddset(&ending, number);

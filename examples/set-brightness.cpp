@@ -1,4 +1,5 @@
-// Sets the brightness of the detector's lights, in percent, and tells what the detector has then.
+// Sets the brightness of the detector's lights, in percent, and prints the brightness that the detector then
+// has.
 
 #include <iostream>
 #include <sstream>
@@ -22,8 +23,8 @@ int main(int argc, char **argv) {
         complain("No detector found.");
         return 1;
     }
-    // A message carries only the keys that are set: nothing else changes. It does not scan, so each reply is
-    // that of its request.
+    // A message has only the keys that are set, so nothing else changes. The device does not scan, so no
+    // other message can be taken for the reply.
     const auto answer = detector.busyTransaction(ConfigMsgBuilder().indLedLvl(percent).share(), 1s);
     if (const auto fail = messageCast<FailMsg>(answer))
         complain("Refused: " + fail->getFailMsg());

@@ -14,7 +14,7 @@ void show(const std::shared_ptr<Msg> &msg) {
 }
 
 int main(int argc, char **argv) {
-    sigset_t ending; // blocked before there are threads, which inherit that
+    sigset_t ending; // blocked before there are threads, because threads inherit it
     sigemptyset(&ending);
     sigaddset(&ending, SIGINT);
     sigprocmask(SIG_BLOCK, &ending, nullptr);

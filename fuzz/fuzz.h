@@ -6,10 +6,10 @@
 #include <cstdlib>
 #include <string>
 
-/// libFuzzer calls this with bytes of its invention; whatever ends the process is a finding.
+/// libFuzzer calls this with bytes that it makes up. Anything that ends the process is a fault.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-/// Ends the process where something that must hold for any bytes does not.
+/// Ends the process if a condition that must hold for any bytes does not hold.
 inline void require(bool holds, const char *what, const std::string &text) {
     if (holds)
         return;

@@ -1,4 +1,4 @@
-// What is written parses to the same again.
+// A value that was written must be read as the same value again.
 
 #include "fuzz.h"
 
@@ -10,7 +10,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     const auto value = json11::Json::parse(text, error);
     if (!error.empty())
         return 0;
-    // What is written first may differ in what JSON has no word for: a number beyond a double, a zero's sign.
+    // The first writing may change a value that JSON can't express: a number beyond a double, a zero's sign.
     const auto plain = json11::Json::parse(value.dump(), error);
     require(error.empty(), "written and not readable", value.dump());
     const std::string written = plain.dump();

@@ -1,5 +1,5 @@
-// A stream in chunks of any size, at any time. Each chunk begins with a byte for its size and one for the
-// time that has passed, in fifths of a second.
+// Reads a stream in chunks of any size, at any time. In the input, a byte with the chunk's size and a byte
+// with the time since the last chunk, in fifths of a second, go before each chunk.
 
 #include "message-reader.h"
 

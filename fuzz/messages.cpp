@@ -1,4 +1,4 @@
-// What was read and written reads and writes the same again.
+// A message that was read and written must be read and written in the same way again.
 
 #include "fuzz.h"
 #include "log.h"
@@ -11,8 +11,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     if (!message)
         return 0;
     const std::string written = MsgToJsonParser::toJson(message);
-    // A text goes out as it is: one that came with escapes need not be readable any more.
-    // Neither is a number beyond a float, which is none in JSON.
+    // Texts are written without escapes, so a text that had escapes may not be readable any more. Neither is
+    // a number beyond a float, because JSON has no infinity.
     if (text.find('\\') != std::string::npos || written.find("inf") != std::string::npos)
         return 0;
     const auto again = Msg::parseJson(written);

@@ -1,4 +1,4 @@
-// Runs a target over each file of the directories that are named, where there is no libFuzzer.
+// Runs a target over each file of the named directories. It takes the place of libFuzzer.
 
 #include "fuzz.h"
 

@@ -1,10 +1,11 @@
 import QtQuick 2.7
 
+import "controls"
 import "fragments"
 import "menu"
 import "pages"
 
-// A scope of its own keeps Escape while the control that had the keyboard can't take it.
+// A focus scope, so that Escape still comes here while the control that had the focus is disabled.
 FocusScope {
     id: contents
 
@@ -13,7 +14,7 @@ FocusScope {
 
     signal shareClicked // No caller today.
 
-    // Opens or closes a drawer; only one is open.
+    // Opens or closes a drawer. At most one is open.
     function toggle(drawer, other) {
         other.open = false
         drawer.open = !drawer.open
@@ -40,6 +41,18 @@ FocusScope {
             usbService.disconnect()
     }
 
+    Announcer {
+        id: announcer
+    }
+
+    Connections {
+        target: usbService
+        function onUsbStateChanged() {
+            announcer.say(!usbService.isUsbActive ? qsTr("Not connected")
+                          : qsTr("Connected") + (usbService.inTesting ? ". " + qsTr("Test mode") : ""))
+        }
+    }
+
     ListDialogs {
         id: dialogs
     }
@@ -60,6 +73,12 @@ FocusScope {
 
             width: parent.width
             height: parent.height - themeData.menuHeight
+            classWords: legend.words
+            coveredFrom: Math.min(helpFragment.coversFrom, configFragment.coversFrom)
+            onSilentChanged: {
+                if (silent)
+                    announcer.say(silenceInWords)
+            }
 
             Rectangle {
                 id: drawerRect
@@ -132,6 +151,9 @@ FocusScope {
 
                 anchors.bottom: settings.top
                 icon: menuPanel.icon
+                isConfigOpen: configFragment.open
+                isHelpOpen: helpFragment.open
+                onMaskSet: function (isOn) { announcer.say(isOn ? qsTr("Mask on") : qsTr("Mask off")) }
                 onHelp: contents.toggle(helpFragment, configFragment)
                 onConfig: contents.toggle(configFragment, helpFragment)
             }

@@ -4,9 +4,6 @@ import QtQuick.Controls 2.0
 ApplicationWindow {
     id: window
 
-    // Whether the user's last gesture was one of the keyboard.
-    property bool isKeyboardUsed: false
-
     objectName: "applicationWindow"
     width: 800
     height: 1000

@@ -8,7 +8,7 @@ inline namespace kelvane {
 
 /// The body of a link's reading thread. `readBlock` waits for bytes for a while and delivers them. It returns
 /// whether some came. On purpose: the loop goes on after errors, until the link is closed. An unplugged
-/// device is not reported; it sends nothing, that is all.
+/// device is not reported. It just sends nothing.
 template <typename ReadBlock>
 void readUntil(const std::atomic<bool> &closed, ReadBlock readBlock) {
     constexpr std::chrono::milliseconds PAUSE{50};

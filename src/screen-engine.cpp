@@ -14,36 +14,17 @@
 
 #include <QGuiApplication>
 #include <QIcon>
-#include <QKeyEvent>
+#include <QPointer>
 #include <QQmlContext>
 #include <QQuickWindow>
 #include <QScreen>
 #include <QTranslator>
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
 #include <vector>
 
 namespace {
-
-/// Sets the window's property `isKeyboardUsed`: whether the user's last gesture came from the keyboard. It
-/// also sees events that a control takes.
-class LastGesture : public QObject {
-public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject *window, QEvent *event) override {
-        constexpr int keys[] = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Left,  Qt::Key_Right,  Qt::Key_Up,
-                                Qt::Key_Down, Qt::Key_Space,   Qt::Key_Enter, Qt::Key_Return, Qt::Key_Escape};
-        if (event->type() == QEvent::KeyPress) {
-            const int key = static_cast<QKeyEvent *>(event)->key();
-            if (std::find(std::begin(keys), std::end(keys), key) != std::end(keys))
-                window->setProperty("isKeyboardUsed", true);
-        } else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin) {
-            window->setProperty("isKeyboardUsed", false);
-        }
-        return false;
-    }
-};
 
 /// Qt waits 5 ms after a change before it draws, to draw several changes at once. All changes of a scan come
 /// together, so 3 ms are enough. Qt reads this time once from the environment, when a first window asks to be
@@ -86,6 +67,7 @@ void followDesktop(int argc, char **argv) {
     const bool isRounded = std::all_of(screens.begin(), screens.end(), isAboutWhole);
     chooseRenderer();
     probe.reset();
+    showItemsToScreenReaders();
     asked.isNull() ? qunsetenv(variable) : qputenv(variable, asked);
     if (isRounded)
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Policy::Round);
@@ -123,11 +105,22 @@ ScreenEngine::ScreenEngine(ServiceObjects &objects)
     context.setContextProperty("aiPriorHndlr", &aiPriorHndlr);
     context.setContextProperty("confK7Hndlr", &confK7Hndlr);
     context.setContextProperty("historyModel", &historyModel);
+    context.setContextProperty("lastGesture", &lastGesture);
     context.setContextProperty("version", version);
     QObject::connect(&engine, &QQmlApplicationEngine::quit, qApp, &QCoreApplication::quit);
     // The documents' own handlers run when the engine ends, after the event loop.
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &engine,
                      [&service = objects.usbService] { service.shutDown(); });
+    // If the display goes away, Qt calls exit(), which skips all of that. The device must not go on scanning.
+    static QPointer<UsbService> serviceAtExit;
+    serviceAtExit = &objects.usbService;
+    static const int registered = std::atexit([] {
+        if (serviceAtExit) {
+            serviceAtExit->blockSignals(true); // the screens can't be trusted any more
+            serviceAtExit->shutDown();
+        }
+    });
+    Q_UNUSED(registered)
 }
 
 ScreenEngine::~ScreenEngine() {
@@ -150,7 +143,7 @@ void ScreenEngine::load(const QUrl &document) {
     drawSoon();
     engine.load(document);
     for (QObject *window : engine.rootObjects())
-        window->installEventFilter(new LastGesture(window));
+        window->installEventFilter(&lastGesture);
 }
 
 void ScreenEngine::fitToScreen() {

@@ -5,6 +5,7 @@
 #include "handlers/ai-prior-handler.h"
 #include "handlers/config-k7-handler.h"
 #include "handlers/config-msg-handler.h"
+#include "last-gesture.h"
 #include "manual-opener.h"
 #include "service-objects.h"
 
@@ -56,6 +57,7 @@ private:
     Guarded<AiPriorHandler> aiPriorHndlr;
     Guarded<ConfigK7Handler> confK7Hndlr;
     Guarded<HistoryListModel> historyModel;
+    LastGesture lastGesture;
     QString version;
     ManualOpener manualOpener;
 };

@@ -26,8 +26,8 @@ public:
     /// arrive meanwhile.
     virtual void addListener(std::shared_ptr<MsgListener> listener) = 0;
     virtual void removeListener(std::shared_ptr<MsgListener> listener) = 0;
-    /// Sends a request. Returns a message that comes within the time-out, also if it answers something else.
-    /// Null if none comes.
+    /// Sends a request. Returns a message that comes within the time-out, also if it is no reply to this
+    /// request. Returns null if none comes.
     virtual std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg,
                                                    std::chrono::milliseconds timeout) = 0;
 

@@ -11,10 +11,11 @@
 // Finding. connectInterface() opens one serial device after the other and asks for its state. It returns true
 // with the first one that answers, and keeps that line open. It returns false after the last one. Nothing
 // repeats by itself: call it again for a detector that is plugged in later. Do not call it while one is
-// connected. The two callbacks of the constructor get a line for each device that was not taken, with the
-// reason. The user needs the right to open the line, by the group dialout or by a rule of the system. Use one
-// connector for a line: a second one, or another program, takes bytes away from the first. For two detectors,
-// give each connector a folder with one link.
+// connected. One callback of the constructor gets a line for each device that was not taken, with the
+// reason. The other gets an error of the file system that ended the search. The user needs the right to open
+// the line, by the group dialout or by a rule of the system. Use one connector for a line: a second one, or
+// another program, takes bytes away from the first. For two detectors, give each connector a folder with one
+// link.
 //
 // Talking. The detector sends nothing by itself until it gets SCAN with scan on. Then it sends a SCAN_RESULT
 // after each sweep. busyTransaction() sends a request and returns the first message that comes, whatever that

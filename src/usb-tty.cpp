@@ -103,18 +103,22 @@ void UsbTty::startReading() {
     // A listener must not wait for a thread that closes.
     const std::unique_lock lock(lifecycle, std::try_to_lock);
     if (lock && !readingThread.isStarted() && !closed)
-        readingThread.start([this] { readUntil(closed, [this] { return readBlock(); }); });
+        readingThread.start([this] {
+            hasHungUp = false;
+            readUntil(closed, [this] { return readBlock(); });
+        });
 }
 
 /// False if it returned at once and nothing was read or sent.
 bool UsbTty::readBlock() {
-    const bool hasRest = writer.hasRest();
+    const bool hasRest = !hasHungUp && writer.hasRest();
     const short line = hasRest ? POLLIN | POLLOUT : POLLIN;
-    pollfd waited[] = {{port, line, 0}, {news, POLLIN, 0}};
+    pollfd waited[] = {{hasHungUp ? -1 : port.load(), line, 0}, {news, POLLIN, 0}};
     const int ready = poll(waited, 2, hasRest ? REST_WAIT : -1);
     eventfd_t told;
     const bool isNews = waited[1].revents != 0 && eventfd_read(news, &told) == 0;
     const bool hasSent = writer.sendRest();
+    hasHungUp = hasHungUp && !isNews;
     if (ready <= 0 || closed || (waited[0].revents & ~POLLOUT) == 0)
         return ready == 0 || isNews || hasSent;
     buffer_t bytes(buffer_size, '\0');
@@ -125,7 +129,10 @@ bool UsbTty::readBlock() {
         bytes.resize(static_cast<std::size_t>(count));
         processNewData(std::move(bytes));
     }
-    return count > 0 || hasSent;
+    // The line of an unplugged device has hung up, and nothing comes from it any more. So the thread waits
+    // only for news. If there is news now, another port may have taken the line's place.
+    hasHungUp = count <= 0 && (waited[0].revents & POLLHUP) != 0 && !isNews;
+    return count > 0 || hasSent || hasHungUp;
 }
 
 void UsbTty::closeAfter(const buffer_t &last) {

@@ -79,6 +79,7 @@ private:
     const int news;
     std::atomic<int> port{-1}; ///< -1 while closed; only changed under `lifecycle`
     std::atomic<bool> closed{true};
+    bool hasHungUp = false; ///< only used by the reading thread
     /// Uses the port from its opening until just before it is closed or replaced. So no write reaches another
     /// file that got the same descriptor.
     LineWriter writer;

@@ -1,5 +1,5 @@
-# Sourced where there is no apt: which of Debian's packages are there under another name. Others, such as fonts, are left
-# to whoever knows the system.
+# Sourced if there is no apt: finds out which of Debian's packages are missing, and knows their general names. Packages that
+# are not in this list, such as fonts, are the user's own business.
 declare -A GENERAL=(
     [build-essential]='command c++ a C++17 compiler'
     [cmake]='command cmake CMake 3.25'
@@ -28,14 +28,15 @@ declare -A GENERAL=(
     [qml6-module-qtquick-controls]='module QtQuick/Controls the QML module QtQuick.Controls'
     [xvfb]='command Xvfb Xvfb'
     [xauth]='command xauth xauth'
+    [dbus]='command dbus-daemon D-Bus'
     [clang-format]='command clang-format clang-format'
     [clang-tidy]='command clang-tidy clang-tidy'
     [clang]='command clang++ Clang with libFuzzer'
     [xdg-utils]='command xdg-open xdg-utils'
 )
 
-# is_there KIND NAME: Qt's QML modules and CMake files lie beside its libraries. Without pkg-config nobody knows where those
-# are, so that it alone is missing then.
+# is_there KIND NAME: Qt's QML modules and CMake files are beside its libraries, and pkg-config knows where those are. Without
+# pkg-config only pkg-config itself is reported as missing.
 is_there() {
     local libraries
     libraries=$(pkg-config --variable=libdir "Qt${QT}Core" 2>/dev/null) || true
@@ -57,5 +58,5 @@ require_elsewhere() {
         read -r kind name what <<<"${GENERAL[$package]}"
         is_there "$kind" "$name" || missing+=", $what"
     done
-    [ -z "$missing" ] || fail "No apt here to install what is missing: ${missing:2}."
+    [ -z "$missing" ] || fail "Missing, and no apt to install it: ${missing:2}."
 }

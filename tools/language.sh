@@ -1,5 +1,5 @@
-# Sourced: user_language prints the language of the user's messages, "ru" or "en". The first that is set of LC_ALL,
-# LC_MESSAGES and LANG names it; LANGUAGE, a list of wishes, goes before it unless that is the C locale.
+# Sourced: user_language prints the language of the user's messages, "ru" or "en". The locale is the first of LC_ALL,
+# LC_MESSAGES and LANG that is set. LANGUAGE, a list of languages, goes before it, except in the C locale.
 user_language() {
     local wish locale=${LC_ALL:-${LC_MESSAGES:-${LANG:-C}}}
     case "$locale" in

@@ -8,9 +8,10 @@
 #include <exception>
 #include <functional>
 
-/// Runs a tool that plays with the screens and prints what it finds, without a display, without a graphics
-/// card and without the program's own log, of which a broken message alone would be a page. The result of
-/// `main`: 0 where the tool is content, 1 where it is not or throws, with one line on standard error.
+/// Runs a tool that uses the screens and prints its findings. It needs no display and no graphics card. The
+/// program's own log is dropped, because a single broken message would fill a page of it. Returns the result
+/// of `main`: 0 if the tool returns true, 1 if it returns false or throws. An exception also makes one line
+/// on standard error.
 inline int runScreenTool(const char *name, int argc, char **argv, const std::function<bool()> &tool) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");

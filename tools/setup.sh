@@ -5,7 +5,7 @@ set -euo pipefail
 
 BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config libusb-1.0-0-dev rapidjson-dev libgtest-dev libgmock-dev)
 SCREEN_PACKAGES=(fonts-dejavu-core xdg-utils)
-TEST_PACKAGES=(locales xvfb xauth)
+TEST_PACKAGES=(locales xvfb xauth at-spi2-core dbus gir1.2-atspi-2.0 python3-gi)
 CHECK_PACKAGES=(mmdebstrap lintian man-db desktop-file-utils appstream udev xvfb xauth xdotool imagemagick)
 PACKAGE_PACKAGES=(dpkg-dev debhelper fakeroot librsvg2-bin)
 
@@ -14,7 +14,7 @@ fail() {
     exit 1
 }
 
-mkdir -p build 2>/dev/null && [ -w build ] || fail "You may not write to $PWD/build; run this as whom it belongs to."
+mkdir -p build 2>/dev/null && [ -w build ] || fail "You may not write to $PWD/build; run this as the user who owns it."
 
 apt_install() {
     "${as_root[@]}" apt-get update &&
@@ -25,7 +25,7 @@ is_installed() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null || true)" = installed ]
 }
 
-# usual_qt: Qt's major version, 5 (that is 5.15), or 6 where only that is there or can be had.
+# usual_qt: prints Qt's major version: 5 (that is 5.15), or 6 if only Qt 6 is installed or available.
 usual_qt() {
     local usual=5
     if ! command -v apt-get >/dev/null; then
@@ -38,7 +38,7 @@ usual_qt() {
     echo $usual
 }
 
-# QT=6 in the environment asks for Qt 6. RELEASE, ADDRESS and THREAD are the presets, whose folders in build/ bear their names.
+# QT=6 in the environment chooses Qt 6. RELEASE, ADDRESS and THREAD are the presets' names, and their folders' in build/.
 export QT=${QT:-$(usual_qt)}
 case "$QT" in
     5)
@@ -62,10 +62,16 @@ case "$QT" in
             qml6-module-qtquick-templates qml6-module-qtqml-workerscript qt6-wayland
         )
         ;;
-    *) fail "QT names Qt 5 or Qt 6, not $QT." ;;
+    *) fail "QT must be 5 or 6, not $QT." ;;
+esac
+# COMPILER=clang in the environment chooses clang instead of GCC, with Qt 5.15.
+case "${COMPILER:-gcc}-$QT" in
+    gcc-*) ;;
+    clang-5) RELEASE=clang BUILD_PACKAGES+=(clang) ;;
+    *) fail "COMPILER must be gcc, or clang with Qt 5.15." ;;
 esac
 
-# install_missing PACKAGE...: asks for sudo only when something is missing.
+# install_missing PACKAGE...: installs packages. It asks for sudo only if something is missing.
 install_missing() {
     local package missing=()
     if ! command -v apt-get >/dev/null; then
@@ -83,12 +89,12 @@ install_missing() {
         as_root=(sudo)
     fi
     echo "Installing: ${missing[*]}"
-    # Asks for the password here, where its prompt is seen.
-    [ ${#as_root[@]} -eq 0 ] || sudo -v || fail "Who may use sudo here has to install them: ${missing[*]}"
-    logged build/install.log apt_install "${missing[@]}" || fail "Installing failed; build/install.log tells why."
+    # Asks for the password here, where the user sees the prompt.
+    [ ${#as_root[@]} -eq 0 ] || sudo -v || fail "sudo failed, so these packages are still missing: ${missing[*]}"
+    logged build/install.log apt_install "${missing[@]}" || fail "Installing failed; see build/install.log."
 }
 
-# logged LOG COMMAND...: runs a command with its output in a log; on a terminal its newest line shows meanwhile.
+# logged LOG COMMAND...: runs a command with its output in a log. A terminal shows the log's newest line meanwhile.
 logged() {
     local log=$1 running status=0
     shift
@@ -103,7 +109,7 @@ logged() {
     return $status
 }
 
-# because LOG: the first error in a log, with the lines that tell its reason.
+# because LOG: prints the first error in a log, with the lines after it.
 because() {
     grep -m 1 -A 8 -E '(^|[: ])error:|CMake Error|undefined reference' "$1" >&2 || true
 }
@@ -112,19 +118,19 @@ because() {
 build() {
     local preset=$1 cache=build/$1/CMakeCache.txt log=build/$1.log
     shift
-    # A tree that was copied or moved would go on building the old place.
+    # After a copy or a move of the tree, the old configuration would still build the old place.
     if [ -f "$cache" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd -P)" "$cache"; then
         rm -rf "build/$preset"
     fi
     if [ ! -f "build/$preset/build.ninja" ] || [ CMakePresets.json -nt "$cache" ]; then
         logged "$log" cmake --preset "$preset" || {
             because "$log"
-            fail "Configuring failed; $log tells all."
+            fail "Configuring failed; see $log."
         }
         touch "$cache"
     fi
     logged "$log" cmake --build "build/$preset" --target "$@" || {
         because "$log"
-        fail "Building failed; $log tells all."
+        fail "Building failed; see $log."
     }
 }

@@ -1,5 +1,5 @@
-// Drives the real documents through hundreds of connections with a virtual device that goes wrong now and
-// then, and tells what was lost and what has grown.
+// Takes the real screens through hundreds of connections with a virtual detector that has faults now and
+// then. Prints what was lost and what has grown.
 
 #include "message-reader.h"
 #include "screen-tool.h"
@@ -11,9 +11,9 @@
 
 namespace {
 
-/// Twenty times that of a detector.
+/// The pause between two scans, a twentieth of a detector's.
 constexpr std::chrono::milliseconds FULL_PACE{25};
-constexpr int WARM_UP = 20; // connections, after which nothing may grow any more
+constexpr int WARM_UP = 20; // connections; nothing may grow after them
 
 struct Resources {
     long threads = 0, descriptors = 0, residentKiB = 0;
@@ -31,8 +31,8 @@ struct Resources {
     }
 };
 
-/// What the line brings, by the rules of the stream, read apart from the program. Lives as long as the link
-/// that reports to it.
+/// Counts the messages that the line delivers. It reads the stream by itself, apart from the program. It
+/// lives as long as the link that reports to it.
 struct Delivered : std::enable_shared_from_this<Delivered> {
     std::atomic<int> scans{0}, answers{0};
     MessageReader reader{"soak", 0};
@@ -58,7 +58,7 @@ public:
         plugIn(ProtoEnum::K7).setScanPeriod(FULL_PACE);
     }
 
-    /// Whether nothing was lost and nothing has grown.
+    /// True if nothing was lost and nothing has grown.
     bool run() {
         for (int round = 0; round < rounds; ++round) {
             if (round == WARM_UP)
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    /// Until enough scans have arrived, with a fault in the middle of every other connection.
+    /// Waits until enough scans have arrived. About half of the connections have a fault in the middle.
     void watch() {
         const int enough = delivered->scans + scansPerRound;
         const auto arrived = [this](int count) {
@@ -111,8 +111,8 @@ private:
 
     bool report(const Resources &last) {
         const int shown = taken(MsgTypeEnum::SCAN_RESULT);
-        std::printf("connections        %d, of them ended by unplugging %d, with a fault %d\n", rounds,
-                    unplugs, faults);
+        std::printf("connections        %d, %d ended by unplugging, %d with a fault\n", rounds, unplugs,
+                    faults);
         std::printf("scans              %zu sent, %d delivered by the line, %d shown\n", device->scansSent(),
                     delivered->scans.load(), shown);
         std::printf("requests           %d taken by the device, %d answers delivered\n", requests,

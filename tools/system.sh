@@ -1,6 +1,7 @@
-# Sourced beside setup.sh: a minimal Debian system in a folder, made from this system's own package source. Needs root.
+# Sourced after setup.sh: makes a minimal Debian system in a folder, from this system's own package source. Needs root.
 
-# make_system FOLDER SUITE PACKAGE...: in place of what is there. With ARCHITECTURE set, that one's packages install there, too.
+# make_system FOLDER SUITE PACKAGE...: replaces the folder by a new system. If ARCHITECTURE is set, packages of that
+# architecture can be installed there, too.
 make_system() {
     local folder=$1 suite=$2 packages source
     rm -rf --one-file-system "$folder"
@@ -8,12 +9,13 @@ make_system() {
     source=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' | head -n 1)
     logged build/system.log mmdebstrap --mode=root --variant=apt ${packages:+--include="$packages"} \
         --architectures="$(dpkg --print-architecture)${ARCHITECTURE:+,$ARCHITECTURE}" "$suite" "$folder" "$source" ||
-        fail "Making a system failed; build/system.log tells why."
+        fail "Making a system failed; see build/system.log."
 }
 
-# In a mount and process namespace of its own: FOLDER becomes the root, with few devices and terminals of its own, so that what
-# runs there meets no device of this machine. A root that is a mount lets another system be made inside. This shell stays the
-# first process there: as such, many commands would ignore signals. All the rest ends with it.
+# Runs in a mount and process namespace of its own. FOLDER becomes the root. It has a few devices and terminals of its own, so
+# that a program there meets no device of this machine. The root is a mount, so that another system can be made inside. This
+# shell stays the first process of the namespace, because many commands ignore signals as the first process. All other
+# processes end with it.
 ENTER_SYSTEM='
     set -e
     mount --bind "$1" "$1"
@@ -36,8 +38,8 @@ ENTER_SYSTEM='
     chroot "$@"
     exit $?'
 
-# in_system FOLDER COMMAND...: with nothing of the environment. What it starts and mounts is gone when it ends, also when this
-# script is killed.
+# in_system FOLDER COMMAND...: runs a command in the system, without the environment of this shell. Its processes and mounts are
+# gone when it ends, also if this script is killed.
 in_system() {
     setpriv --pdeathsig KILL unshare --mount --pid --fork --kill-child sh -c "$ENTER_SYSTEM" sh "$1" \
         env -i HOME=/root PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 TERM="${TERM:-dumb}" "${@:2}"

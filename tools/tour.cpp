@@ -1,9 +1,10 @@
-// Walks through the screens with the built-in simulator and writes a picture of each state worth seeing.
+// Goes through the screens with the simulator, then with a virtual detector. Writes a picture of each state.
 
 #include "field-scene.h"
 #include "screens.h"
 #include "visuals/uav-three-switch.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QDirIterator>
 #include <QGuiApplication>
@@ -12,7 +13,7 @@
 
 namespace {
 
-/// For the user, when a step of the tour can't be made.
+/// A message for the user, if a step of the tour is not possible.
 std::runtime_error failure(const QString &text) {
     return std::runtime_error(text.toStdString());
 }
@@ -67,7 +68,8 @@ private:
         }
     }
 
-    /// Each band off, on its standard range and on its extended one. The last active band can't be off.
+    /// Switches each band off, to its standard range and to its wide range. The last active band can't be
+    /// off.
     void switchBands() {
         const QStringList firstBands{"1.2", "2.4", "4.9"};
         const QStringList lastBand{"5.8"};
@@ -82,7 +84,7 @@ private:
         shoot("bands-extended");
     }
 
-    /// Clicks the switches of these bands until they stand so.
+    /// Clicks the switches of these bands until they have this position.
     void step(const QStringList &bands, UavThreeSwitch::Position position) {
         for (const QString &band : bands)
             while (element("UavThreeSwitch", band + '*').property("position").toInt() != position)
@@ -109,20 +111,25 @@ private:
         press("cfg");
     }
 
-    /// The ring around what has the keyboard: a band, and a slider of the settings.
+    /// The ring around the control that has the focus: a band, and a slider of the settings.
     void visitByKeyboard() {
-        tabTo("QQuickRectangle");
+        tabTo(QAccessible::Chart);
         shoot("keyboard-band");
         press("cfg");
-        tabTo("Slider");
+        tabTo(QAccessible::Slider);
         shoot("keyboard-slider");
         press("cfg");
     }
 
-    void tabTo(const QString &element) {
-        for (int steps = 0; !driver->findAll(element).contains(window->activeFocusItem()); ++steps) {
+    bool hasFocus(QAccessible::Role role) const {
+        const auto *focused = QAccessible::queryAccessibleInterface(window->activeFocusItem());
+        return focused && focused->role() == role;
+    }
+
+    void tabTo(QAccessible::Role role) {
+        for (int steps = 0; !hasFocus(role); ++steps) {
             if (steps == 100)
-                throw failure("The keyboard does not reach a " + element);
+                throw failure("The keyboard does not reach every control.");
             QTest::keyClick(window, Qt::Key_Tab);
         }
     }
@@ -132,14 +139,14 @@ private:
             throw failure("The settings do not scroll.");
     }
 
-    /// The dialog that a control opens, left by a click outside.
+    /// The dialog that a control opens. A click outside closes it.
     void visitDialog(const QString &word) {
         press(word);
         shoot("dialog-" + word.toLower().replace(' ', '-'));
         driver->clickAt({1, 1});
     }
 
-    /// A detector in the field; these are the pictures of its manual.
+    /// A detector in the field. These pictures are in its manual.
     void visitDevice(ProtoEnum generation, const QString &name) {
         constexpr int scanPeriodMs = 500;
         connectTo(generation);
@@ -189,7 +196,7 @@ private:
         return *found;
     }
 
-    /// A word of the documents as the screens show it, in the language of this tour.
+    /// The translation of a word of the documents into the language of this tour.
     static QString shown(const QString &word) {
         for (QDirIterator it(":/qml", {"*.qml"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
             it.next();

@@ -1,4 +1,5 @@
-// The application beside a virtual device, which is all that it finds. Options are those of the device.
+// The program together with a virtual detector, the only device that it finds. The options are those of the
+// virtual detector.
 
 #include "process-signals.h"
 #include "screen-engine.h"
@@ -18,13 +19,13 @@ int main(int argc, char **argv) {
         introduceProgram();
         DeviceOptions options = parseDeviceOptions(argc, argv);
         if (options.help) {
-            std::printf("./run --virtual starts the program beside a detector that plays as told.\n"
-                        "--link, --tap and --record are for tools/virtual-device alone.\n\n%s",
+            std::printf("./run --virtual starts the program together with a virtual detector.\n"
+                        "--link, --tap and --record work with tools/virtual-device only.\n\n%s",
                         deviceOptionsHelp().c_str());
             return 0;
         }
         if (!options.link.empty() || !options.tapped.empty())
-            throw std::runtime_error("--link and --tap are for tools/virtual-device");
+            throw std::runtime_error("--link and --tap work with tools/virtual-device only");
         options.link = (directory.path() / "usb-virtual-detector").string();
         const VirtualDevice device(options);
         const ProcessSignals processSignals;

@@ -1,5 +1,5 @@
-// Presses each button that makes the program wait for the device, with devices that keep it waiting, and
-// tells how long the window stood still.
+// Presses each button that makes the program wait for the device, with devices that keep it waiting. Prints
+// how long the window stood still.
 
 #include "cdc-acm-line.h"
 #include "screen-tool.h"
@@ -18,7 +18,7 @@ long long standstillMs(const std::function<void()> &gesture) {
     return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count();
 }
 
-/// What may keep a user of the device waiting. The line is that of a USB device.
+/// A reason to wait for the device. The line is that of a USB device.
 struct Trouble {
     const char *name;
     void (*begin)(PtyDevice &device, CdcAcmLine &line);

@@ -15,6 +15,26 @@
         <source>Manual</source>
         <translation>Руководство</translation>
     </message>
+    <message>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Не подключено</translation>
+    </message>
+    <message>
+        <source>Test mode</source>
+        <translation>Тестовый режим</translation>
+    </message>
+    <message>
+        <source>Mask on</source>
+        <translation>Маска включена</translation>
+    </message>
+    <message>
+        <source>Mask off</source>
+        <translation>Маска выключена</translation>
+    </message>
 </context>
 <context>
     <name>ButtonLayout</name>
@@ -49,6 +69,22 @@
     <message>
         <source>Fabric settings</source>
         <translation>Заводские настройки</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>включена</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>выключена</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>открыты</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>закрыты</translation>
     </message>
 </context>
 <context>
@@ -309,8 +345,8 @@
 <context>
     <name>MainPage</name>
     <message>
-        <source>No scan for 15 seconds</source>
-        <translation>Нет сканирований 15 секунд</translation>
+        <source>No scan for %1 seconds</source>
+        <translation>Нет сканирований %1 секунд</translation>
     </message>
     <message>
         <source>No signal</source>
@@ -330,7 +366,7 @@
     </message>
     <message>
         <source>Bars</source>
-        <translation>Столбики</translation>
+        <translation>Столбцы</translation>
     </message>
     <message>
         <source>Course</source>

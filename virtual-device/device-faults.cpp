@@ -20,7 +20,7 @@ std::vector<DeviceFault>::const_iterator faultNamed(const std::string &name) {
 const std::vector<DeviceFault> &deviceFaults() {
     static const std::vector<DeviceFault> FAULTS = {
         {"late", "Answers come a second late.", Manner::OBLIGING, LATE},
-        {"silent", "The detector hears everything and says nothing.", Manner::SILENT},
+        {"silent", "The detector reads everything and sends nothing.", Manner::SILENT},
         {"deaf", "The detector takes no bytes, as if it had crashed.", Manner::DEAF},
         {"sweeps", "The detector takes bytes only between two scans.", Manner::SWEEPING},
         {"refusing", "Every change of a setting fails.", Manner::REFUSING},

@@ -70,7 +70,7 @@ const Option OPTIONS[] = {
      [](DeviceOptions &options, const std::string &value) {
          options.pace = milliseconds(static_cast<int>(number(value, 1, 3600000)));
      }},
-    {"scene", "NAME", "The detector hears this scene. Default: drone",
+    {"scene", "NAME", "The detector receives this scene. Default: drone",
      [](DeviceOptions &options, const std::string &value) {
          requireName(sceneOf(value).has_value(), "scene", value);
          options.scene = value;

@@ -163,7 +163,7 @@ void PtyDevice::send(const std::shared_ptr<Msg> &msg) {
 }
 
 void PtyDevice::sendScan(const std::vector<std::shared_ptr<FreqScanResult>> &results, bool maskOn) {
-    send(std::make_shared<ScanResultMsg>(ScanResultMsgBuilder().freqs(results).mask(maskOn).build()));
+    send(ScanResultMsgBuilder().freqs(results).mask(maskOn).share());
 }
 
 std::string PtyDevice::received() const {
@@ -357,6 +357,5 @@ std::shared_ptr<Msg> PtyDevice::nextScan() {
     for (const Json &range : settings["CONFIG"]["ranges"].array_items())
         if (const auto mode = FreqMode::getEnumValue(range.string_value()))
             ranges.push_back(*mode);
-    return std::make_shared<ScanResultMsg>(
-        ScanResultMsgBuilder().freqs(scene(scans++, ranges)).mask(mask).maskedModes({}).build());
+    return ScanResultMsgBuilder().freqs(scene(scans++, ranges)).mask(mask).maskedModes({}).share();
 }

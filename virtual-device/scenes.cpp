@@ -85,7 +85,7 @@ const std::vector<NamedScene> &namedScenes() {
                     {5180, 20, SigTypeEnum::WIFI, -86, -92},
                     {5500, 20, SigTypeEnum::WIFI, -95, -88},
                     {5745, 20, SigTypeEnum::WIFI, -80, -84}})},
-        {"silence", "Nothing but noise is heard.", sceneWith({})},
+        {"silence", "There is only noise.", sceneWith({})},
         {"peaks", "A strong signal wanders through each band.", wanderingPeaks},
     };
     return SCENES;

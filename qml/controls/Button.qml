@@ -17,7 +17,7 @@ ButtonFrame {
         anchors.margins: button.radius * 0.5
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
-        // Words too long for one line take several first.
+        // A long text is first broken into lines, and made smaller only if that is not enough.
         wrapMode: Text.WordWrap
         fontSizeMode: Text.Fit
         font.pointSize: themeData.fontSizeSmall

@@ -1,6 +1,6 @@
 import QtQuick 2.7
 
-// What every button is made of: the frame, the shade while it is pressed and the click. Content goes into the frame.
+// The base of all buttons: a frame around the content, a shade while the button is pressed, and the click.
 Pressable {
     id: button
 

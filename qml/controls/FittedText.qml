@@ -1,6 +1,6 @@
 import QtQuick 2.0
 
-// A text that is set smaller where it is too long for its width, rather than being cut.
+// A text that is made smaller, not cut, if it is too long for its width.
 Text {
     fontSizeMode: Text.HorizontalFit
     minimumPointSize: 1

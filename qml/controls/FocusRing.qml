@@ -1,14 +1,15 @@
 import QtQuick 2.7
-import QtQuick.Window 2.7
 
-// Lies over a control that the keyboard can reach: shows where the focus is while the keyboard is used, and tells when
-// Space, Enter or a screen reader presses. The control forwards its keys here.
+// Lies over a control that the keyboard can reach. It shows the focus while the keyboard is used. It emits `pressed`
+// when Space, Enter or a screen reader presses the control. The control forwards its keys here.
 Item {
     id: ring
 
-    property bool isFocused: parent.activeFocus
-    // For a screen reader, which is not told otherwise whether a control works.
+    // For a screen reader, which does not learn in another way that a control is disabled.
     readonly property string availability: enabled ? "" : qsTr("Not available")
+
+    // In pixels. It is thin on a low control, so that it leaves the label free.
+    readonly property int thickness: Math.max(2, Math.min(4, height * 0.1))
 
     signal pressed
 
@@ -26,20 +27,20 @@ Item {
             press()
     }
 
-    // Light in dark, to be seen on every colour.
+    // A light frame inside a dark one is visible on every colour.
     Rectangle {
         anchors.fill: parent
-        visible: ring.isFocused && !!ring.Window.window && ring.Window.window.isKeyboardUsed === true
+        visible: ring.parent.activeFocus && lastGesture.isKeyboard
         color: "transparent"
         border.color: themeData.darkTextColor
-        border.width: 4
+        border.width: ring.thickness
 
         Rectangle {
             anchors.fill: parent
             anchors.margins: 1
             color: "transparent"
             border.color: themeData.lightTextColor
-            border.width: 2
+            border.width: ring.thickness / 2
         }
     }
 }

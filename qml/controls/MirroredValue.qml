@@ -1,19 +1,20 @@
 import QtQuick 2.0
 
-// Ties a control to a property of a settings front-end, in both directions. A touch overwrites the control's binding,
-// so it is made anew each time the front-end notifies, which it does on every message and commit, changed or not.
+// Connects a control and a property of a settings front-end, in both directions. A touch overwrites the control's
+// binding. So the binding is set again at each notification of the front-end, which comes with every message and
+// commit, also without a change.
 QtObject {
     property Item control
-    // The control's property that shows the value.
+    // The name of the control's property that shows the value.
     property string shownAs
     property var handler
-    // The handler's property.
+    // The name of the front-end's property.
     property string setting
-    // Shown in place of the value while not connected, if it is given.
+    // If given, it is shown instead of the value while not connected.
     property var absent
 
     function show() {
-        // A message must not pull a slider out of the user's hand; the commit on release shows the value again.
+        // A message must not move a slider while the user drags it. The commit on release shows the value again.
         if (control.pressed === true || control.isStepping === true)
             return
         control[shownAs] = Qt.binding(function () {

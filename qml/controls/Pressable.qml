@@ -1,10 +1,10 @@
 import QtQuick 2.7
 
-// What the keyboard and a screen reader can press. What is not enabled they pass over.
+// A control that the keyboard and a screen reader can press. They skip it while it is disabled.
 Item {
     id: item
 
-    // For a screen reader: what it is, and what it is for or how it stands.
+    // For a screen reader: the control's name, and its purpose or state.
     property string spokenName
     property string spokenSummary
     property alias ring: ring

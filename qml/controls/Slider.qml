@@ -14,16 +14,16 @@ Item {
     property string spokenName
     property string spokenSummary
 
-    // The only point at which a value is to be sent: on release of the mouse or of the key, not while the runner moves.
+    // Emitted on release of the mouse or of the key, not while the runner moves. Values are sent only then.
     signal changed
-    // A drag that scrolls what is around the slider: the value is to be that from before the press again.
+    // The drag scrolls what is around the slider. The receiver restores the value from before the press.
     signal canceled
 
     function setSteps(steps) {
         value = Math.min(Math.max(steps * stepSize, minimumValue), maximumValue)
     }
 
-    // To the next multiple of the step in a direction, 1 or -1.
+    // Moves to the next multiple of the step. The direction is 1 or -1.
     function step(direction) {
         var steps = value / stepSize
         setSteps(direction > 0 ? Math.floor(steps) + 1 : Math.ceil(steps) - 1)
@@ -61,7 +61,7 @@ Item {
         endStepping()
     }
 
-    // What the keyboard and a screen reader have of the slider. A reader writes the value here, and tells nobody.
+    // The slider for the keyboard and a screen reader. A reader writes the value here, without any signal.
     Item {
         id: reader
 
@@ -100,7 +100,7 @@ Item {
         spacing: runner.width
 
         Rectangle {
-            // A row leaves an item of no width out, its spacing with it.
+            // At width 0 the row would leave out the item and its spacing.
             width: runner.x - 0.5 * runner.width || -1
             height: parent.height
             radius: height * 0.5
@@ -136,7 +136,7 @@ Item {
                                       / ((slider.maximumValue - slider.minimumValue) / slider.stepSize)
         property real realValue: slider.value
         property point from
-        // A drag has one direction: that in which it has first left its place.
+        // A drag keeps the direction of its first movement.
         property bool isSliding: false
         property bool isScrolling: false
 
@@ -150,7 +150,7 @@ Item {
         }
 
         function getValue(x) {
-            // On purpose: the value counts from 0, not from the minimum. The sliders of the screens all begin at 0.
+            // On purpose: the value counts from 0, not from the minimum. All sliders of the screens begin at 0.
             slider.value = Math.round(x / xStep) * slider.stepSize
             realValue = slider.minimumValue
                     + (slider.maximumValue - slider.minimumValue) * x / (width - runner.width)
@@ -169,7 +169,7 @@ Item {
         }
         onPositionChanged: function (mouse) { findDirection(mouse.x, mouse.y) }
         onMouseXChanged: getValue(Math.min(Math.max(mouseX - runner.width * 0.5, 0), width - runner.width))
-        // A drag has overwritten the binding; let go, the runner follows the value again.
+        // A drag overwrites the binding. After the release the runner follows the value again.
         onPressedChanged: {
             if (!pressed)
                 realValue = Qt.binding(function () { return slider.value })

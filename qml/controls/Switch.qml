@@ -18,7 +18,7 @@ Pressable {
     Accessible.checked: checked
     Accessible.onToggleAction: ring.press()
 
-    // The first placing is instant, later moves are to be seen.
+    // The switch takes its first position at once. Later moves are animated.
     Component.onCompleted: anim.velocity = 200
 
     Rectangle {

@@ -1,11 +1,11 @@
 import QtQuick 2.0
 import "vesper"
 
-// The strongest signals at a glance, while the application is minimised.
+// Shows the strongest signals while the application is minimised.
 CoverElement {
     id: cover
 
-    // The colours of the classes by their names on the wire.
+    // The colours of the signal classes, by the classes' names on the line.
     readonly property var colors: ({
         " ----": "#93cddd", WIFI: "#00b050", DIG: "#ffc000", FPV: "#ff0000", BLOCK: "#cccccc", ALL: "#93cddd"
     })

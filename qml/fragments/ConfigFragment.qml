@@ -6,6 +6,7 @@ Item {
 
     property alias open: customDrawer.visible
     property alias opener: customDrawer.opener
+    property alias coversFrom: customDrawer.coversFrom
     readonly property bool hasK7Settings: confHndlr.hasK7Settings
 
     function setHeight(comp) {
@@ -20,7 +21,7 @@ Item {
             setHeight(configK7)
             setHeight(iface)
         } else {
-            // A hidden row keeps its implicit height, so these are not measured.
+            // A hidden row keeps its implicit height, so setHeight would give too much.
             configK7.height = 0
             iface.height = ifaceHeader.implicitHeight + indLedLvl.implicitHeight + iface.spacing
         }
@@ -123,7 +124,7 @@ Item {
             id: configK7
 
             anchors.top: detect.bottom
-            // On purpose: no size is spelled so, and the section follows without a gap.
+            // On purpose: no size has this name, so the section follows without a gap.
             anchors.topMargin: themeData.fontSizeSmalll
             width: parent.width
             spacing: themeData.fontSizeMedium
@@ -224,7 +225,7 @@ Item {
                 handler: confHndlr
                 setting: "indLedLvl"
                 onChanged: {
-                    // The display is a second light, with a setting of its own.
+                    // With a K7 the display is a second light and has its own setting.
                     if (fragment.hasK7Settings) {
                         confK7Hndlr.dispLvl = value
                         confK7Hndlr.changed()

@@ -12,8 +12,9 @@ PreferenceRow {
         anchors.leftMargin: row.indent
         spokenName: row.title
         spokenSummary: row.summary
-        // Around the words, not over them.
-        ring.anchors.margins: -themeData.fontSizeMedium * 0.25
+        // The ring is around the words, not over them. To the right there is no room, because the drawer ends there.
+        ring.anchors.margins: -5
+        ring.anchors.rightMargin: 0
         onActivated: row.clicked()
         Accessible.role: Accessible.ButtonMenu
 

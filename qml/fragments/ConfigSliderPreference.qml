@@ -13,7 +13,7 @@ PreferenceRow {
     property alias handler: mirrored.handler
     property alias absent: mirrored.absent
 
-    // On release, with the value already committed.
+    // Emitted on release, after the value was committed.
     signal changed
 
     implicitHeight: textHeight + slider.height

@@ -1,7 +1,7 @@
 import QtQuick 2.7
 import QtQuick.Window 2.7
 
-// What a drawer is made of: as high as its content while the parent has room for that, else scrolling in all of it.
+// The base of a drawer. It is as high as its content; if the parent is smaller, it fills the parent and scrolls.
 Rectangle {
     id: frame
 
@@ -13,6 +13,8 @@ Rectangle {
 
     // The button that opens the drawer. It takes the keyboard back when the drawer closes.
     property Item opener
+    // The place from which the drawer covers the parent, in pixels from the parent's top.
+    readonly property real coversFrom: visible ? y : Infinity
     readonly property Item itemInFocus: Window.activeFocusItem
 
     function hasFocus() {
@@ -20,7 +22,7 @@ Rectangle {
         return !!item
     }
 
-    // Scrolls to what the keyboard reaches.
+    // Scrolls to the control that gets the focus.
     onItemInFocusChanged: {
         if (!hasFocus())
             return
@@ -36,9 +38,13 @@ Rectangle {
     color: themeData.fragmentColor
     opacity: 0.8
     visible: false
+    Accessible.role: Accessible.Dialog
+    Accessible.name: opener ? opener.spokenName : ""
     onVisibleChanged: {
         flick.contentY = -flick.topMargin
-        if (!visible && hasFocus())
+        if (visible && lastGesture.isKeyboard)
+            flick.contentItem.nextItemInFocusChain().forceActiveFocus()
+        else if (!visible && hasFocus())
             opener.forceActiveFocus()
     }
 

@@ -2,12 +2,13 @@ import QtQuick 2.0
 
 import "../controls"
 
-// The help drawer: what the device says of itself, the versions, and the manuals.
+// The help drawer: what the device reports about itself, the versions, and the manuals.
 Item {
     id: fragment
 
     property alias open: customDrawer.visible
     property alias opener: customDrawer.opener
+    property alias coversFrom: customDrawer.coversFrom
     // On purpose: the mode that the settings call "Standard" is "Base" here.
     readonly property var modeWords: ({
         ECO: qsTr("Efficient"), BASE: qsTr("Base"), AUTO: qsTr("Automatic"), CONT: qsTr("Continuous")
@@ -38,7 +39,7 @@ Item {
 
     component InfoText: FittedText {
         width: infoLabels.width
-        // What the device calls its versions is shown as it is.
+        // The device's version texts are shown unchanged.
         textFormat: Text.PlainText
         color: themeData.lightTextColor
         font.pointSize: themeData.fontSizeTiny
@@ -111,7 +112,7 @@ Item {
             DataText { text: qsTr("Indication brightness: ") }
             DataText { text: fragment.setting(confHndlr.indLedLvl) }
 
-            // On purpose: every device has a level of the sound, only some have headphones.
+            // On purpose: every device has a sound level, but only some have headphones.
             DataText { text: qsTr("Headphones volume: ") }
             DataText { text: fragment.setting(confHndlr.indSndLvl) }
 

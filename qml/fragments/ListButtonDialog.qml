@@ -3,7 +3,7 @@ import QtQuick.Window 2.7
 
 import "../controls"
 
-// A list over everything else, for one choice or none. It lasts until the first click.
+// A list over everything else, for one choice or none. The first click closes it.
 Item {
     id: dialog
 
@@ -12,13 +12,13 @@ Item {
     property string title
     property int size: 1
     property var current: "."
-    // Where the keyboard was, to return there.
+    // The item that had the focus before. It gets the focus back.
     property Item itemBefore
 
-    // The value of the entry that was chosen.
+    // `index` is the value of the chosen entry.
     signal selected(var index)
 
-    // On purpose: the animation, which has no target, is begun and completed at once, so the list vanishes at once.
+    // On purpose: the animation has no target and is completed as soon as it starts, so the list vanishes at once.
     function end() {
         if (itemBefore)
             itemBefore.forceActiveFocus()
@@ -27,14 +27,14 @@ Item {
         dialog.destroy()
     }
 
-    // Takes the keyboard; one who uses it begins at the current entry.
+    // Takes the focus. If the keyboard is used, the current entry gets it.
     function begin() {
         itemBefore = Window.activeFocusItem
         forceActiveFocus()
         for (var i = 0; i < model.count; ++i)
             if (model.get(i).value === current)
                 list.currentIndex = i
-        if (Window.window.isKeyboardUsed === true)
+        if (lastGesture.isKeyboard)
             list.currentItem.forceActiveFocus()
     }
 
@@ -45,7 +45,7 @@ Item {
     }
 
     anchors.fill: parent
-    // The keyboard does not leave the dialog.
+    // The focus does not leave the dialog.
     Keys.onTabPressed: move(1)
     Keys.onBacktabPressed: move(-1)
     Keys.onDownPressed: move(1)

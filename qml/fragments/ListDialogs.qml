@@ -5,7 +5,7 @@ import QtQuick.Window 2.7
 Item {
     property var component
 
-    // The entries have a name and a value each. `selected` is called with the value of the one that the user chooses.
+    // Each entry has a name and a value. `selected` is called with the value of the entry that the user chooses.
     function open(title, entries, current, selected) {
         var dialog = component.createObject(Window.window)
         if (!dialog)

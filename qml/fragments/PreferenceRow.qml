@@ -1,12 +1,12 @@
 import QtQuick 2.7
 
-// What every preference shows: its title and, below it, what it is for.
+// The base of all preferences: the title, and below it the purpose.
 Item {
     id: row
 
     property alias title: titleText.text
     property alias summary: summaryText.text
-    // Kept free at the right of the texts.
+    // Width that stays free to the right of the texts.
     property real reserved: 0
     readonly property real indent: themeData.fontSizeLarge * 3
     readonly property real textHeight: titleText.implicitHeight + summaryText.implicitHeight

@@ -5,16 +5,27 @@ import "../controls"
 Item {
     id: buttonLayout
 
-    // The openers of the drawers.
+    // The buttons that open the drawers.
     property alias configControl: configButton
     property alias helpControl: helpButton
+    // True while the drawer is open.
+    property bool isConfigOpen: false
+    property bool isHelpOpen: false
     readonly property int buttonHeigth: themeData.iconSizeMedium
     readonly property real spacing: themeData.fontSizeSmall * 0.5
-    // Gives the address of an icon, from its names on the desktop and on the mobile platform and its button.
+    // A function that returns the address of an icon. It takes the icon's names on the desktop and on the mobile
+    // platform, and the button.
     property var icon
 
     signal help
     signal config
+    // Emitted when the device has answered a mask request, or when its mask has changed.
+    signal maskSet(bool isOn)
+
+    // In words, because readers do not speak the checked state of a button.
+    function openOrClosed(isOpen) {
+        return isOpen ? qsTr("open") : qsTr("closed")
+    }
 
     width: parent.width
     height: buttonHeigth + spacing
@@ -22,6 +33,8 @@ Item {
     Component.onCompleted: {
         usbService.gotBatteryState.connect(function (batt) { chargeButton.charge = batt })
         usbService.gotMask.connect(function (mask) {
+            if (maskButton.waiting || maskButton.masked !== mask)
+                maskSet(mask)
             maskButton.masked = mask
             maskButton.waiting = false
         })
@@ -59,6 +72,7 @@ Item {
             color: masked ? themeData.maskColor : chargeButton.color
             enabled: usbService.isUsbActive && !waiting
             text: waiting ? qsTr("Wait") : qsTr("Mask")
+            spokenSummary: masked ? qsTr("on") : qsTr("off")
             Accessible.checkable: true
             Accessible.checked: masked
             onClicked: {
@@ -85,6 +99,9 @@ Item {
             enabled: usbService.isUsbActive
             iconSource: buttonLayout.icon("cfg", "setting", configButton)
             spokenName: qsTr("Settings")
+            spokenSummary: buttonLayout.openOrClosed(buttonLayout.isConfigOpen)
+            Accessible.checkable: true
+            Accessible.checked: buttonLayout.isConfigOpen
             onClicked: buttonLayout.config()
         }
 
@@ -98,6 +115,9 @@ Item {
             height: buttonLayout.buttonHeigth
             iconSource: buttonLayout.icon("info", "about", helpButton)
             spokenName: qsTr("Information")
+            spokenSummary: buttonLayout.openOrClosed(buttonLayout.isHelpOpen)
+            Accessible.checkable: true
+            Accessible.checked: buttonLayout.isHelpOpen
             onClicked: {
                 pressToTest = usbService.isUsbActive ? 0 : pressToTest + 1
                 if (pressToTest === 12) {

@@ -7,6 +7,8 @@ Item {
 
     readonly property int rectHeigth: themeData.iconSizeMedium
     readonly property real spacing: themeData.fontSizeSmall * 0.5
+    // The names of the signal classes for the user, by the classes' names on the line.
+    readonly property var words: ({ WIFI: "Wi-Fi", DIG: qsTr("DIG"), FPV: "FPV" })
 
     height: rectHeigth + spacing
 
@@ -22,13 +24,14 @@ Item {
         spacing: offset
         orientation: ListView.Horizontal
         boundsBehavior: Flickable.StopAtBounds
-        model: ["Wi-Fi", qsTr("DIG"), "FPV"]
+        model: ["WIFI", "DIG", "FPV"]
 
         delegate: Rectangle {
+            readonly property string word: legendLayout.words[modelData]
             readonly property var fills: [themeData.wifiColor, themeData.digColor, themeData.fpvColor]
 
             Accessible.role: Accessible.StaticText
-            Accessible.name: modelData
+            Accessible.name: word
             width: (legendLayout.width - 4 * row.offset) / 3
             height: legendLayout.rectHeigth
             border.color: themeData.strokeColor
@@ -42,7 +45,7 @@ Item {
                 font.pointSize: themeData.iconSizeSmall
                 font.bold: true
                 color: themeData.lightTextColor
-                text: modelData
+                text: word
             }
         }
     }

@@ -2,7 +2,7 @@ import QtQuick 2.0
 
 import "../controls"
 
-// A switch of one of the settings that every device has.
+// A switch for a setting that every device has.
 UavSwitchStyled {
     id: item
 

@@ -7,7 +7,7 @@ Item {
     id: settingsLayout
 
     property bool vesper: false
-    // Gives the address of an icon, as in the button row.
+    // A function that returns the address of an icon, as in the button row.
     property var icon
 
     signal shareClicked
@@ -29,16 +29,13 @@ Item {
         Column {
             id: rangesCol
 
-            // While there are no bands it has no height either, and the row leaves it out.
+            // While there are no bands, the column has no height either, and the row leaves it out.
             width: ranges.count > 0 ? themeData.buttonSizeSmall : row.width
 
             ListView {
                 id: ranges
 
-                // The band that the keyboard was on: each edit makes the switches anew.
-                property int bandInFocus: -1
-
-                // Takes the bands of a CONFIG; the sizes here follow their number.
+                // Takes the bands of a CONFIG message. The sizes here depend on their number.
                 function setConf(msg) {
                     masterModes.setConfig(msg)
                 }
@@ -62,6 +59,12 @@ Item {
                     masterModes.rangesChanged.connect(commit)
                 }
 
+                FocusMemory {
+                    id: focusMemory
+
+                    list: ranges
+                }
+
                 delegate: Rectangle {
                     width: themeData.buttonSizeSmall
                     height: themeData.iconSizeSmall
@@ -82,18 +85,11 @@ Item {
                         spokenName: stringMode
                         spokenSummary: positions[sw.position]
                         onActivated: press()
-                        onActiveFocusChanged: {
-                            if (activeFocus)
-                                ranges.bandInFocus = index
-                        }
                         Accessible.role: Accessible.CheckBox
                         Accessible.checkable: true
                         Accessible.checked: sw.position !== UavThreeSwitch.OFF
                         Accessible.onToggleAction: ring.press()
-                        Component.onCompleted: {
-                            if (ranges.activeFocus && ranges.bandInFocus === index)
-                                forceActiveFocus()
-                        }
+                        Component.onCompleted: focusMemory.attach(index, band)
 
                         UavThreeSwitch {
                             id: sw
@@ -113,7 +109,7 @@ Item {
                         }
                     }
 
-                    // Each commit paints the switch anew.
+                    // Each commit repaints the switch.
                     Connections {
                         target: confHndlr
                         function onChanged() {

@@ -3,7 +3,7 @@ import uavSwitch 1.0
 
 import "../controls"
 
-// A painted switch that a click turns over.
+// A painted switch. A click turns it on or off.
 Pressable {
     id: item
 
@@ -11,7 +11,7 @@ Pressable {
     property alias text: sw.text
     property alias switchEnabled: sw.switchEnabled
 
-    // Passed on once `checked` has its new state.
+    // Emitted after `checked` has its new state.
     signal clicked
 
     function press() {

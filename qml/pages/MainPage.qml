@@ -8,10 +8,15 @@ import "../controls"
 Rectangle {
     id: mainPage
 
-    // A connected device that has sent no scan for so long, three times its slowest pace, may be unplugged, and no
-    // data must not look like no drone.
+    // Time without a scan, in ms, after which the bands are shown faintly: the device may be unplugged, and missing
+    // data must not look like a clear sky. It is three times the pause of the slowest detection mode.
     property int silenceMs: 15000
     property bool silent: false
+    readonly property string silenceInWords: qsTr("No scan for %1 seconds").arg(silenceMs / 1000)
+    // The names of the signal classes in the legend, by the classes' names on the line.
+    property var classWords: ({})
+    // From here down, in pixels from the top, a drawer covers the page. The keyboard and a screen reader skip covered bands.
+    property real coveredFrom: Infinity
 
     objectName: "mainPage"
     color: "transparent"
@@ -43,10 +48,8 @@ Rectangle {
         property var histViews: []
         property var barPlots: []
         property var freqPlots: []
-        // The row that the keyboard was on: each CONFIG makes the rows anew.
-        property int rowInFocus: -1
 
-        // Whole rows of one height, however the page's height divides.
+        // A multiple of the number of rows, so that all rows have the same height in whole pixels.
         function getH() {
             var h = parent.height
             var rows = historyModel.rowCount()
@@ -78,6 +81,12 @@ Rectangle {
             historyModel.gotHistory.connect(showHistories)
         }
 
+        FocusMemory {
+            id: focusMemory
+
+            list: plots
+        }
+
         delegate: Rectangle {
             id: rect
 
@@ -86,18 +95,19 @@ Rectangle {
             property int selected: 0
             // The band's name and the strongest signal of its newest scan.
             property var newest: historyModel.getNewest(index)
-            readonly property string newestInWords: (mainPage.silent ? qsTr("No scan for 15 seconds") + ". " : "")
+            readonly property string newestInWords: (mainPage.silent ? mainPage.silenceInWords + ". " : "")
                     + (newest.type === undefined ? qsTr("No signal")
                        : qsTr("Strongest: ") + newest.freq + " " + qsTr("MHz") + ", " + newest.rssi + " "
-                         + qsTr("dB") + ", " + newest.type)
+                         + qsTr("dB") + ", "
+                         + (mainPage.classWords[newest.type] || newest.type))
 
             function select(next) {
-                // Visible before the move: that is what makes it paint the data it was handed while hidden.
+                // Visible before the move, so that it paints the data that came while it was hidden.
                 views[next].visible = true
                 selected = next
             }
 
-            // One view on, or back.
+            // To the next view (1) or the one before (-1).
             function swipe(step) {
                 var next = selected + step
                 if (!anim.running && next >= 0 && next < views.length)
@@ -111,30 +121,13 @@ Rectangle {
             clip: true
             visible: usbService.isUsbActive
             enabled: visible
-            activeFocusOnTab: true
-            onActiveFocusChanged: {
-                if (activeFocus)
-                    plots.rowInFocus = index
-            }
-            Keys.onLeftPressed: swipe(-1)
-            Keys.onRightPressed: swipe(1)
-            Accessible.role: Accessible.Grouping
-            Accessible.name: views[selected].Accessible.name
-            Accessible.description: newestInWords
-            Accessible.focusable: true
-            Accessible.onPreviousPageAction: swipe(-1)
-            Accessible.onNextPageAction: swipe(1)
-            Component.onCompleted: {
-                if (plots.activeFocus && plots.rowInFocus === index)
-                    forceActiveFocus()
-            }
 
             onXChanged: anim.complete()
 
             Connections {
                 target: historyModel
                 function onGotHistory() {
-                    // A row that a reset has ended lives a little longer.
+                    // After a reset of the model its former rows exist a little longer.
                     if (index >= 0 && index < historyModel.rowCount())
                         rect.newest = historyModel.getNewest(index)
                 }
@@ -145,7 +138,7 @@ Rectangle {
                     id: anim
 
                     velocity: 2000
-                    // complete() alone does not reach an animation of this kind inside a behavior.
+                    // complete() alone has no effect on a SmoothedAnimation in a Behavior.
                     duration: 0
                     onRunningChanged: {
                         if (!running)
@@ -163,9 +156,6 @@ Rectangle {
                 innerBorderColor: themeData.barPlotBorder
                 lineWidth: themeData.fontSizeTiny * 0.1
                 textSize: themeData.fontSizeTiny
-                Accessible.role: Accessible.Chart
-                Accessible.name: qsTr("Bars") + " " + rect.newest.band
-                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.barPlots[index] = barPlot
             }
 
@@ -182,9 +172,6 @@ Rectangle {
                 textSize: themeData.fontSizeTiny
                 lineWidth: themeData.fontSizeTiny * 0.2
                 lang: qsTr("language")
-                Accessible.role: Accessible.Chart
-                Accessible.name: qsTr("Course") + " " + rect.newest.band
-                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.freqPlots[index] = freqPlot
             }
 
@@ -200,11 +187,8 @@ Rectangle {
                 borderColor: themeData.gridColor
                 textSize: themeData.fontSizeTiny
                 lineWidth: themeData.fontSizeTiny * 0.2
-                // On purpose: bound to itself, as the view's own property. The data come by setHistory alone.
+                // On purpose: the property is bound to itself. The data come only by setHistory.
                 history: history
-                Accessible.role: Accessible.Chart
-                Accessible.name: qsTr("Persistence") + " " + rect.newest.band
-                Accessible.description: rect.newestInWords
                 Component.onCompleted: plots.histViews[index] = histView
             }
 
@@ -223,10 +207,36 @@ Rectangle {
                 }
             }
 
-            FocusRing {
-                isFocused: rect.activeFocus
-                anchors.leftMargin: rect.selected * plots.width
-                anchors.rightMargin: rect.width - plots.width - anchors.leftMargin
+            // The band for the keyboard and a screen reader: the visible view.
+            Item {
+                id: reader
+
+                readonly property var names: [qsTr("Bars"), qsTr("Course"), qsTr("Persistence")]
+                readonly property rect plotArea: rect.views[rect.selected].plotArea
+
+                x: rect.selected * plots.width
+                width: plots.width
+                height: rect.height
+                visible: rect.y + height <= mainPage.coveredFrom
+                enabled: visible
+                activeFocusOnTab: enabled
+                Keys.onLeftPressed: rect.swipe(-1)
+                Keys.onRightPressed: rect.swipe(1)
+                Accessible.role: Accessible.Chart
+                Accessible.name: names[rect.selected] + " " + rect.newest.band
+                Accessible.description: rect.newestInWords
+                Accessible.focusable: enabled
+                Accessible.onPreviousPageAction: rect.swipe(-1)
+                Accessible.onNextPageAction: rect.swipe(1)
+                Component.onCompleted: focusMemory.attach(index, reader)
+
+                // The ring is around the data, so that it covers no label.
+                FocusRing {
+                    anchors.leftMargin: reader.plotArea.x
+                    anchors.topMargin: reader.plotArea.y
+                    anchors.rightMargin: reader.width - reader.plotArea.x - reader.plotArea.width
+                    anchors.bottomMargin: reader.height - reader.plotArea.y - reader.plotArea.height
+                }
             }
         }
     }

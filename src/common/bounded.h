@@ -4,8 +4,8 @@
 
 inline namespace kelvane {
 
-/// Limits a level in dB or a frequency in MHz to a million up and down. A device may send any number; within
-/// the limits a cast to int is defined and pixels can be calculated. No real value comes near them.
+/// Limits a level in dB or a frequency in MHz to -1e6 and 1e6. A device may send any number. Within these
+/// limits a cast to int is defined and pixels can be calculated. No real value comes near them.
 inline float bounded(float value) {
     constexpr float LIMIT = 1e6f;
     return value > -LIMIT ? std::min(value, LIMIT) : -LIMIT; // NaN gives the lower bound

@@ -27,13 +27,13 @@ public:
     Q_INVOKABLE void setConfig(MsgHolder holder);
     /// Adds a scan. A result goes to every band whose widest sweep range contains it, limits included.
     /// Messages of another type and scans without results are ignored.
-    /// On purpose: a band without results gets an empty scan. Its views would otherwise go on showing an old
+    /// On purpose: a band without results gets an empty scan. Otherwise its views would still show an old
     /// one.
     Q_INVOKABLE void acceptScanResult(MsgHolder holder);
     /// Returns a copy. Throws std::out_of_range for a row that does not exist.
     Q_INVOKABLE History getHistory(int row) const;
     /// The newest scan of a row in words. "band" is the band's name in GHz. "freq" in MHz, "rssi" in dB and
-    /// "type" describe its strongest signal of a known class; they are missing where there is none. Throws
+    /// "type" describe its strongest signal of a known class; without such a signal they are missing. Throws
     /// like getHistory().
     Q_INVOKABLE QVariantMap getNewest(int row) const;
 

@@ -12,8 +12,8 @@
 inline namespace kelvane {
 
 /// The last scans of one band. The matrix has one row for each scan, oldest first, and one column for each
-/// frequency. The results of the newest scan are kept as they came. A history is a value for the UI thread,
-/// and each view gets a copy. The copies share only the results of the newest scan, which nobody changes.
+/// frequency. The results of the newest scan are kept as they came. One thread at a time may use a history.
+/// Each view has a copy. The copies share only the results of the newest scan, which nobody changes.
 class History {
 public:
     using Scan = std::vector<std::shared_ptr<FreqScanResult>>;

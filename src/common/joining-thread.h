@@ -6,7 +6,7 @@
 inline namespace kelvane {
 
 /// A thread that its owner waits for, at the latest in the owner's destructor. The owner makes sure that the
-/// body ends. Calls must not overlap, and the body must not call.
+/// body ends. Calls must not overlap, and must not come from the body.
 class JoiningThread {
 public:
     JoiningThread() = default;

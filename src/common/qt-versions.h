@@ -7,7 +7,7 @@
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
-/// Hands on each change of the item's place or size by the name of Qt 6.
+/// Passes on each change of the item's place or size, under Qt 6's name.
 class PaintedItem : public QQuickPaintedItem {
 public:
     using QQuickPaintedItem::QQuickPaintedItem;
@@ -23,15 +23,25 @@ private:
     }
 };
 
-/// Has Qt scale windows by the desktop's factor. Before the application object.
+/// Makes Qt scale windows by the desktop's factor. Call it before the application object is made.
 inline void enableHighDpiScaling() {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
 }
 
+/// Makes good that the end of an earlier application object took away what shows items to screen readers.
+inline void showItemsToScreenReaders() {} // the engine does
+
 #else
+
+/// Qt Quick runs this when it is loaded. It has no header for it.
+void QQuick_initializeModule();
 
 using PaintedItem = QQuickPaintedItem;
 
 inline void enableHighDpiScaling() {} // always on
+
+inline void showItemsToScreenReaders() {
+    QQuick_initializeModule();
+}
 
 #endif

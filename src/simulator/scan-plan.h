@@ -11,7 +11,7 @@
 
 inline namespace kelvane {
 
-/// What the simulator does under its settings.
+/// What the simulator sends with its current settings.
 struct ScanPlan {
     std::chrono::milliseconds period{1000};
     std::vector<std::vector<float>> freqs; ///< centre frequencies in MHz of each active range

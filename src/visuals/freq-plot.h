@@ -23,6 +23,10 @@ public:
 
     void setHistory(History history) override;
 
+    QRectF getPlotArea() const override {
+        return LayeredPlot::getPlotArea().adjusted(0, 0, 0, -labelsHeight());
+    }
+
 protected:
     QRect layOut(const QSize &item) override;
     Drawing legend() const override;

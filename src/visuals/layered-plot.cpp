@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QtMath>
+#include <utility>
 
 namespace {
 
@@ -93,7 +94,9 @@ void LayeredPlot::paintBackground() {
     const QSize size(static_cast<int>(boundingRect().width()), static_cast<int>(boundingRect().height()));
     const QFontMetrics metrics(fontOfSize(textSize));
     labelFont = {metrics.averageCharWidth(), metrics.ascent()};
-    imageArea = layOut(size);
+    const QRect formerArea = std::exchange(imageArea, layOut(size));
+    if (imageArea != formerArea)
+        emit plotAreaChanged();
     paintLayer(background, QRect({0, 0}, size), imageArea.isEmpty() ? Drawing() : legend());
 }
 

@@ -20,6 +20,7 @@ class LayeredPlot : public PaintedItem {
     Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
     Q_PROPERTY(int lineWidth READ getLineWidth WRITE setLineWidth)
     Q_PROPERTY(int textSize READ getTextSize WRITE setTextSize NOTIFY sizeChanged)
+    Q_PROPERTY(QRectF plotArea READ getPlotArea NOTIFY plotAreaChanged)
     Q_PROPERTY(History history READ getHistory WRITE setHistory NOTIFY historyChanged)
 
 public:
@@ -42,12 +43,16 @@ public:
     History getHistory() const;
     Q_INVOKABLE virtual void setHistory(History history) = 0;
 
+    /// The area of the data in the item, without the labels, in logical pixels.
+    virtual QRectF getPlotArea() const { return imageArea; }
+
     void paint(QPainter *painter) override;
 
 signals:
     void historyChanged();
     /// The labels no longer fit the item. Rebuilds both layers.
     void sizeChanged();
+    void plotAreaChanged();
 
 protected:
     static constexpr MasterFreqModeEnum NO_BAND = static_cast<MasterFreqModeEnum>(-1);
@@ -71,8 +76,8 @@ protected:
     Words words(int x, int baseLine, const QString &text, const QColor &color) const {
         return {QPoint(x, baseLine), text, color, textSize};
     }
-    /// A level, squeezed where a font with wide digits would have it run under the picture, which begins this
-    /// number of pixels from the left.
+    /// The label of a level. It is squeezed if it would reach under the picture, as with a font of wide
+    /// digits. The picture begins at `pictureX`, in pixels from the left.
     Words levelLabel(int x, int baseLine, int levelDb, const QColor &color, int pictureX) const {
         return {QPoint(x, baseLine), QString::number(levelDb), color, textSize, pictureX - x};
     }

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# examples-test.sh VIRTUAL-DEVICE DIRECTORY: runs the examples, which are in the directory, beside a virtual device.
+# examples-test.sh VIRTUAL-DEVICE DIRECTORY: runs the examples of the directory with a virtual detector.
 set -euo pipefail
 device=$1 examples=$2
 work=$(mktemp -d)

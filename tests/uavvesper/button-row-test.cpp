@@ -98,6 +98,7 @@ TEST_F(ButtonRowTest, TwelveClicksOnHelpStartTheSimulatorWhileNothingIsConnected
         clickHelp(clicks);
         EXPECT_TRUE(objects.usbService.inTesting());
         EXPECT_EQ(look("TEST MODE"), "'TEST MODE' #ff0000 25");
+        EXPECT_EQ(driver->find("Announcer")->property("words"), "Connected. Test mode");
         disconnect();
         EXPECT_FALSE(driver->control("TEST MODE"));
     }

@@ -128,11 +128,11 @@ TEST_F(PlotListTest, ASwipeOfMoreThan100PixelsMovesItsBandByOneView) {
 TEST_F(PlotListTest, APictureWithoutScansFadesUntilTheNextOneAndEachViewTellsItsStrongestSignal) {
     const auto told = [this] {
         std::string lines;
-        for (QQuickItem *view : views()) {
-            const QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(view);
-            lines += reader->text(QAccessible::Name).toStdString() + ": " +
-                     reader->text(QAccessible::Description).toStdString() + '\n';
-        }
+        for (QQuickItem *item : driver->findAll({}))
+            if (const auto *reader = QAccessible::queryAccessibleInterface(item);
+                reader && reader->role() == QAccessible::Chart)
+                lines += reader->text(QAccessible::Name).toStdString() + ": " +
+                         reader->text(QAccessible::Description).toStdString() + '\n';
         return lines;
     };
     const auto opacityOf = [](QQuickItem *item) {
@@ -155,6 +155,7 @@ TEST_F(PlotListTest, APictureWithoutScansFadesUntilTheNextOneAndEachViewTellsIts
                              "Bars 4.9: No signal\nBars 5.8: No signal\n";
     EXPECT_EQ(told(), live);
     waitUntilSilent();
+    EXPECT_EQ(driver->find("Announcer")->property("words"), "No scan for 0.001 seconds");
     EXPECT_EQ(opacityOf(driver->control("usb")), 1);
     EXPECT_THAT(told(),
                 HasSubstr("\nCourse 2.4: No scan for 15 seconds. Strongest: 2401 MHz, -80 dB, FPV\n"));

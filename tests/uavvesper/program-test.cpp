@@ -86,8 +86,10 @@ TEST(Program, ShowsItsWindowInTheLanguageOfTheDirectoryAndEndsWhenToldTo) {
         EXPECT_TRUE(writes("output0000.png"));
         if (russian) {
             keyboard.press(KEY_TAB); // to the help, of which twelve looks start the simulator
-            for (int look = 0; look < 12; ++look)
+            for (int look = 0; look < 12; ++look) {
                 keyboard.press(KEY_ENTER);
+                keyboard.press(KEY_ESC); // back from the drawer to its button
+            }
             EXPECT_TRUE(writes("starting scan\n")) << "what is logged into a pipe, at once";
         }
         QFile status(QString("/proc/%1/status").arg(program.processId()));

@@ -29,8 +29,11 @@ TEST(Translation, HasEveryWordOfTheScreensAndTheManualsExplainThem) {
             // No word to see, and a word of the mobile platform alone.
             if (word == "language" || word == "Share")
                 continue;
-            EXPECT_TRUE(english.contains(word.trimmed())) << qPrintable(word);
-            EXPECT_TRUE(inRussian.contains(translated.trimmed())) << qPrintable(translated);
+            const auto isIn = [](const QString &manual, QString phrase) {
+                return manual.contains(phrase.replace("%1", "15").trimmed());
+            };
+            EXPECT_TRUE(isIn(english, word)) << qPrintable(word);
+            EXPECT_TRUE(isIn(inRussian, translated)) << qPrintable(translated);
         }
     }
     EXPECT_GT(words, 50);

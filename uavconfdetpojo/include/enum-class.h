@@ -13,9 +13,9 @@ inline namespace kelvane {
 template <typename Enum>
 struct EnumClassOf;
 
-/// The common part of all enumerations of the protocol. A class is its table: the enumerator is the index of
-/// its record in `Table`, and the record's `strValue` is the wire name. The tables are filled before `main`
-/// and never change, so every thread may read them.
+/// The common part of all enumerations of the protocol. Each class has a `Table` with a record for each
+/// enumerator. The enumerator is the record's index, and the record's `strValue` is the wire name. The tables
+/// are filled before `main` and never change, so every thread may read them.
 template <typename Enum, const auto &Table>
 class EnumClass {
 public:

@@ -7,7 +7,7 @@
 
 #include "macros-on.h"
 
-/// What the headset jack does.
+/// The use of the headset jack.
 #define ENUMERATORS(ENUMERATOR) \
     ENUMERATOR(OFF)             \
     ENUMERATOR(SOUND)           \

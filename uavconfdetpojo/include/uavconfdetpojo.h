@@ -28,9 +28,9 @@
 //
 // Errors. Reading never throws, and there are no error codes. A text that is no known message gives null. If
 // a value is of the wrong kind, its key stays absent, and the other keys are still read. Only a list of the
-// wrong kind is present and empty. An object in a stream that is no message is a line in the log;
-// Log::setSink sends the log elsewhere. Writing cannot fail. Strings are written without escapes, so they
-// must not contain quotes, backslashes or line ends.
+// wrong kind is present and empty. For an object in a stream that is no message, the log gets a line. The log
+// goes to standard output, or to the function that is given to Log::setSink. Writing cannot fail. Strings are
+// written without escapes, so they must not contain quotes, backslashes or line ends.
 //
 // Memory and threads. Messages have no virtual operations, not even a destructor. So make each message with
 // std::make_shared of its own class and keep it in a shared_ptr. Fill a message on one thread. Do not change

@@ -30,7 +30,7 @@ public:
             object,
             [this](const std::string &key, const auto &value, bool present) {
                 if (present)
-                    field(key, value);
+                    this->field(key, value);
             });
     }
 

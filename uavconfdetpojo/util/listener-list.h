@@ -25,9 +25,9 @@ public:
 
     /// When this has returned, the listener runs on no other thread and will not run again. The objects that
     /// it uses may then be destroyed. There is one exception: two listeners on two threads may remove each
-    /// other. Each would wait for the other's end for ever. So inside a listener this call does not wait for
-    /// a thread that waits for the caller's thread, directly or through others. If a listener was added twice
-    /// in a row, one of the two stays.
+    /// other. Each would wait for the other's end and never return. So inside a listener this call does not
+    /// wait for a thread that waits for the caller's thread, directly or through others. If a listener was
+    /// added twice in a row, one of the two stays.
     void remove(std::shared_ptr<Listener> listener) {
         std::unique_lock lock(mutex);
         for (std::size_t i = 0; i < listeners.size(); ++i) {

@@ -1,6 +1,6 @@
 import QtQuick 2.0
 
-// Stands in for the cover element that the platform itself brings.
+// Stand-in for the cover element of the mobile platform.
 Item {
     width: 234
     height: 374

@@ -1,7 +1,7 @@
 pragma Singleton
 import QtQuick 2.0
 
-// Stands in for the platform's theme.
+// Stand-in for the theme of the mobile platform.
 QtObject {
     readonly property color primaryColor: "white"
     readonly property int paddingSmall: 6

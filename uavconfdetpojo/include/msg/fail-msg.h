@@ -6,9 +6,9 @@
 
 #include "macros-on.h"
 
-/// The device refuses a message.
+/// The device refuses a request.
 ///
-/// - `respOn`: type of the refused message
+/// - `respOn`: type of the refused request
 /// - `failMsg`: text for the user
 #define FIELDS(FIELD)                  \
     FIELD(MsgTypeEnum, respOn, RespOn) \

@@ -4,9 +4,9 @@
 
 #include "macros-on.h"
 
-/// The device accepts a message.
+/// The device accepts a request.
 ///
-/// - `respOn`: type of the message that this answers
+/// - `respOn`: type of that request
 #define FIELDS(FIELD) FIELD(MsgTypeEnum, respOn, RespOn)
 
 MESSAGE(OkMsg, m_okMsg, OK)
