@@ -5,12 +5,12 @@
 #include "msg-to-json-parser.h"
 #include "msg/all-messages.h"
 #include "pty-device.h"
+#include "stepped-wait.h"
 
 #include <array>
 #include <fcntl.h>
 #include <future>
 #include <gmock/gmock.h>
-#include <set>
 #include <unistd.h>
 
 using namespace std::chrono_literals;
@@ -73,31 +73,6 @@ TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
     line.release(); // without another request
     EXPECT_TRUE(device.waitForRequests(3));
     EXPECT_EQ(device.received(), onTheWire({config, ask, config}));
-}
-
-TEST_F(LineThreads, SeveralSendersGetTheirRequestsAcrossWholeAndInOrder) {
-    ASSERT_TRUE(tty.openPort());
-    line.setPace(100us);
-    std::mutex mutex;
-    std::multiset<std::string> begun;
-    const auto send = [&](int sender) {
-        for (int i = 0; i < 60; ++i) {
-            const auto request = MsgToJsonParser::toJson(
-                ConfigMsgBuilder().indLedLvl(100 * sender + i).ranges({FreqModeEnum::STD_2400}).share());
-            if (tty.sendWithin(request, std::chrono::milliseconds(i % 9)) == Sent::NOTHING)
-                continue;
-            const std::lock_guard lock(mutex);
-            begun.insert(request);
-        }
-    };
-    std::vector<std::thread> senders;
-    for (int sender = 0; sender < 3; ++sender)
-        senders.emplace_back(send, sender);
-    for (std::thread &sender : senders)
-        sender.join();
-    EXPECT_TRUE(device.waitForRequests(begun.size()));
-    const auto arrived = device.requests();
-    EXPECT_EQ(std::multiset(arrived.begin(), arrived.end()), begun);
 }
 
 TEST_F(LineThreads, HasNeitherParityNorHandshakeWhateverWasLeftOn) {
@@ -212,8 +187,10 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     };
     /// Ends a line while a request waits for room. The request is never sent.
     const auto endsWait = [this](auto end) {
+        std::promise<void> isWaiting;
+        const SteppedWait step([&] { isWaiting.set_value(); });
         std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED); });
-        std::this_thread::sleep_for(10ms); // so that the request surely waits
+        isWaiting.get_future().wait();
         end();
         waiting.join();
     };
