@@ -7,6 +7,7 @@
 #include "wire-text.h"
 
 #include <QSignalSpy>
+#include <QTest>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
@@ -174,4 +175,21 @@ TEST(UsbServiceConnectionThreads, TellsWhatHelpsAmongTheErrorsAlone) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(),
               "Error 25 from tcgetattr: Inappropriate ioctl for device\n");
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "/dev/null: no serial line\n");
+}
+
+/// On a busy machine an attempt may miss the 100 ms that it has for an answer.
+TEST(UsbServiceConnectionThreads, TheServiceAloneEndsAnAttemptAndAConnection) {
+    const SerialDirectory directory;
+    PtyDevice device(directory);
+    for (const bool connected : {false, true}) {
+        auto service = std::make_unique<UsbService>(nullptr, directory.path());
+        service->startUsb();
+        for (int attempt = 0; connected && attempt < 60 && !service->isUsbActive(); ++attempt)
+            if (!QTest::qWaitFor([&] { return service->isUsbActive(); }, 1000))
+                service->startUsb();
+        EXPECT_TRUE(!connected || service->isUsbActive());
+        service.reset();
+        EXPECT_TRUE(device.waitForOpen(false));
+        EXPECT_FALSE(device.isScanning());
+    }
 }
