@@ -5,12 +5,12 @@
 #include "msg-to-json-parser.h"
 #include "msg/all-messages.h"
 #include "pty-device.h"
+#include "stepped-wait.h"
 
 #include <array>
 #include <fcntl.h>
 #include <future>
 #include <gmock/gmock.h>
-#include <set>
 #include <unistd.h>
 
 using namespace std::chrono_literals;
@@ -75,31 +75,6 @@ TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
     EXPECT_EQ(device.received(), onTheWire({config, ask, config}));
 }
 
-TEST_F(LineThreads, SeveralSendersGetTheirRequestsAcrossWholeAndInOrder) {
-    ASSERT_TRUE(tty.openPort());
-    line.setPace(100us);
-    std::mutex mutex;
-    std::multiset<std::string> begun;
-    const auto send = [&](int sender) {
-        for (int i = 0; i < 60; ++i) {
-            const auto request = MsgToJsonParser::toJson(
-                ConfigMsgBuilder().indLedLvl(100 * sender + i).ranges({FreqModeEnum::STD_2400}).share());
-            if (tty.sendWithin(request, std::chrono::milliseconds(i % 9)) == Sent::NOTHING)
-                continue;
-            const std::lock_guard lock(mutex);
-            begun.insert(request);
-        }
-    };
-    std::vector<std::thread> senders;
-    for (int sender = 0; sender < 3; ++sender)
-        senders.emplace_back(send, sender);
-    for (std::thread &sender : senders)
-        sender.join();
-    EXPECT_TRUE(device.waitForRequests(begun.size()));
-    const auto arrived = device.requests();
-    EXPECT_EQ(std::multiset(arrived.begin(), arrived.end()), begun);
-}
-
 TEST_F(LineThreads, HasNeitherParityNorHandshakeWhateverWasLeftOn) {
     line.control = PARENB | PARODD | CSTOPB | CS6 | CRTSCTS;
     ASSERT_TRUE(tty.openPort());
@@ -108,15 +83,15 @@ TEST_F(LineThreads, HasNeitherParityNorHandshakeWhateverWasLeftOn) {
 
 /// More than one attempt, since a busy machine may hold one up.
 TEST_F(LineThreads, WaitingForRoomAndForTheRestHaveOneTimeOut) {
-    ASSERT_TRUE(tty.openPort());
     const auto pieces = 2 * std::count(config.begin(), config.end(), '\n') + 1;
     const auto inTime = [&] {
+        EXPECT_TRUE(tty.openPort());
         line.hold();
         EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
         const auto start = std::chrono::steady_clock::now();
-        line.takeWhile([&, left = pieces + 1]() mutable { // the former request and a piece of the next
-            return std::chrono::steady_clock::now() - start > 150ms && left-- > 0;
-        });
+        const auto left = std::make_shared<std::atomic<long>>(pieces + 1); // and a piece of the next request
+        line.takeWhile(
+            [left, start] { return std::chrono::steady_clock::now() - start > 150ms && (*left)-- > 0; });
         tty.sendWithin(config, 200ms);
         const bool isLate = std::chrono::steady_clock::now() - start >= 330ms;
         line.release();
@@ -212,8 +187,10 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     };
     /// Ends a line while a request waits for room. The request is never sent.
     const auto endsWait = [this](auto end) {
+        std::promise<void> isWaiting;
+        const SteppedWait step([&] { isWaiting.set_value(); });
         std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED); });
-        std::this_thread::sleep_for(10ms); // so that the request surely waits
+        isWaiting.get_future().wait();
         end();
         waiting.join();
     };

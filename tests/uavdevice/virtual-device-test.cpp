@@ -16,17 +16,6 @@
 using namespace std::chrono_literals;
 using namespace testing;
 
-/// The error text of an operation that must fail.
-template <typename Operation>
-static std::string errorOf(Operation operation) {
-    try {
-        operation();
-    } catch (const std::runtime_error &error) {
-        return error.what();
-    }
-    return "";
-}
-
 static DeviceOptions parse(std::vector<std::string> words) {
     words.insert(words.begin(), "virtual-device");
     std::vector<char *> arguments;
@@ -61,7 +50,7 @@ TEST(VirtualDevice, SaysWhatIsWrongWithItsOptions) {
          "--faults is for the virtual detector; --tap uses a real one"},
     };
     for (const auto &[words, error] : cases)
-        EXPECT_EQ(errorOf([&, &given = words] { parse(given); }), error);
+        EXPECT_THAT([&given = words] { parse(given); }, ThrowsMessage<std::runtime_error>(error));
     const DeviceOptions options =
         parse({"--generation", "K6", "--faults", "cut,late", "--period", "0.5", "--seed", "7"});
     EXPECT_EQ(options.generation, ProtoEnum::K6);
@@ -79,8 +68,9 @@ TEST(VirtualDeviceThreads, MakesTheFoldersOfItsLinkForAsLongAsItIsThere) {
         PtyDevice device(link);
         EXPECT_TRUE(UsbTty(link).openPort());
         EXPECT_EQ((status(link).permissions() & perms::others_write) != perms::none, geteuid() == 0);
-        EXPECT_EQ(errorOf([&] { PtyDevice{link}; }),
-                  link.string() + ": File exists; remove it if no other virtual device runs there");
+        EXPECT_THAT([&] { PtyDevice{link}; },
+                    ThrowsMessage<std::runtime_error>(
+                        link.string() + ": File exists; remove it if no other virtual device runs there"));
         EXPECT_TRUE(exists(link));
         device.unplug();
         EXPECT_FALSE(exists(serial));
@@ -107,11 +97,14 @@ TEST_F(RecordingThreads, SaysWhatIsWrongWithIt) {
         {R"({"ms":-1,"from":"device","text":""})", R"(, line 1: "ms" is no time)"},
         {"{\"ms\":2,\"from\":\"device\",\"text\":\"\"}\n{\"ms\":1,\"from\":\"device\",\"text\":\"\"}",
          ", line 2: \"ms\" goes back in time"}};
-    EXPECT_EQ(errorOf([&] { readRecording(file); }), file + ": no such recording, or it can't be read");
+    const auto read = [&] { readRecording(file); };
+    EXPECT_THAT(read, ThrowsMessage<std::runtime_error>(file + ": no such recording, or it can't be read"));
     for (const auto &[text, error] : cases) {
         std::ofstream(file) << text;
-        EXPECT_EQ(errorOf([&] { readRecording(file); }), file + error);
+        EXPECT_THAT(read, ThrowsMessage<std::runtime_error>(file + error));
     }
+    for (const auto &shipped : std::filesystem::directory_iterator(RECORDINGS_DIR))
+        EXPECT_GT(readRecording(shipped.path()).size(), 50U) << shipped;
 }
 
 /// The recording of a tap plays like the device that was recorded.

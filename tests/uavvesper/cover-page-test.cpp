@@ -6,6 +6,7 @@
 
 #include <QQmlContext>
 #include <QQuickView>
+#include <QSignalSpy>
 #include <gtest/gtest.h>
 
 /// The content of the page, row by row: the words, their colours, and the colour of the box around them.
@@ -44,4 +45,16 @@ TEST(CoverPage, ShowsTheStrongestSignalsInTheirColours) {
                   blank);
     emit service.gotMaxFreqs(MsgHolder());
     EXPECT_EQ(shown(view), blank + blank + blank);
+
+    emit service.gotMaxFreqs(MsgHolder(scanOf({{1e30f, -1e30f}})));
+    EXPECT_EQ(shown(view), "1000000#ffffff #ffc000 -1000000dB#000000 DIG#000000 " + blank + blank);
+    auto *timer = model.findChild<QTimer *>();
+    EXPECT_EQ(timer->interval(), 10000) << "after the last scan, and again every ten seconds";
+    timer->setInterval(0);
+    EXPECT_TRUE(QSignalSpy(&model, &FreqPlotModel::modelReset).wait());
+    EXPECT_EQ(shown(view), blank + blank + blank);
+    EXPECT_TRUE(timer->isActive() && timer->interval() == 10000);
+    for (const int role : {int(Qt::DisplayRole), int(Qt::DecorationRole)})
+        EXPECT_FALSE(model.data(model.index(0), role).isValid());
+    EXPECT_FALSE(model.data(QModelIndex(), 256).isValid());
 }

@@ -7,31 +7,6 @@
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
-TEST(Drawing, IsPaintedAsItSays) {
-    QImage canvas(60, 60, QImage::Format_RGB32);
-    canvas.fill(Qt::white);
-    QPainter painter(&canvas);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintDrawing({Words{QPoint(20, 50), "-105", Qt::black, 12, 10},
-                  Words{QPoint(0, 58), "I", Qt::magenta, 28}, FilledRect{QRect(1, 2, 10, 5), Qt::red},
-                  DrawnLine{QLine(0, 20, 60, 20), Qt::blue, 2, 3}},
-                 painter);
-    const auto count = [&](const QRect &part, const QColor &color) {
-        int found = 0;
-        for (int i = 0; i < part.width() * part.height(); ++i)
-            found += canvas.pixelColor(part.x() + i % part.width(), part.y() + i / part.width()) == color;
-        return found;
-    };
-    EXPECT_EQ(count({1, 2, 10, 5}, Qt::red) + count(canvas.rect(), Qt::red), 100);
-    EXPECT_EQ(count({0, 19, 60, 2}, Qt::blue), 78) << "dashes of 6 pixels with ends of one";
-    EXPECT_EQ(count({0, 19, 60, 2}, Qt::white), 42) << "and gaps of 4, the first cut in half";
-    EXPECT_EQ(canvas.pixelColor(3, 20), QColor(Qt::white)) << "beginning with a gap";
-    EXPECT_GT(count({0, 35, 20, 5}, Qt::magenta), 5) << "words in their size and colour";
-    EXPECT_EQ(fontOfSize(12).pointSize() + fontOfSize(0).pointSize(), 13);
-    EXPECT_LT(count({20, 35, 10, 16}, Qt::white), 150) << "words in their room";
-    EXPECT_EQ(count({31, 30, 29, 30}, Qt::white), 29 * 30) << "and not beyond it";
-}
-
 /// What holds for every view, whatever it shows.
 template <typename Plot>
 class LayeredPlotTest : public testing::Test {

@@ -6,8 +6,8 @@
 #include <pthread.h>
 
 /// Calls a function once, on the next thread that begins to wait with a time-out, between its look at what it
-/// waits for and the wait. The thread holds the lock that goes with it. One at a time; in a
-/// program that is linked with the option --wrap=pthread_cond_clockwait.
+/// waits for and the wait. The thread holds the lock that goes with it. One at a time, in a program that
+/// links the target.
 class SteppedWait {
 public:
     explicit SteppedWait(std::function<void()> atTheWait)
