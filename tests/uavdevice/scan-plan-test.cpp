@@ -24,7 +24,8 @@ TEST(ScanPlan, FollowsTheSettings) {
         auto config = ConfigMsgBuilder().mode(c.mode).atten(c.atten).wifiDet(c.wifiDet).uavDet(c.uavDet);
         ScanPlan plan;
         const auto values = [&] {
-            return std::vector<std::int64_t>{plan.period.count(), plan.rssiMax, plan.wifi, plan.dig, plan.fpv};
+            return std::vector<std::int64_t>{plan.period.count(), plan.rssiMax, plan.wifi, plan.dig,
+                                             plan.fpv};
         };
         plan.setByConfig(config.build());
         EXPECT_THAT(values(), ElementsAre(c.period, c.rssiMax, 0, 0, 0)) << "no range, no signal";
