@@ -49,8 +49,9 @@ void Pty::linkAt(const fs::path &path) {
     if (!error)
         fs::create_symlink(fs::relative(slaveName, link.parent_path(), error), link, error);
     const char *help = error == std::errc::permission_denied ? "; that needs root"
-                       : error == std::errc::file_exists ? "; remove it if no other virtual device runs there"
-                                                         : "";
+                       : error == std::errc::file_exists
+                           ? "; remove it if no other virtual detector runs there"
+                           : "";
     if (error)
         throw std::runtime_error(path.string() + ": " + error.message() + help);
     made.insert(made.begin(), link);

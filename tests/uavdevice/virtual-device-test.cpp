@@ -70,7 +70,7 @@ TEST(VirtualDeviceThreads, MakesTheFoldersOfItsLinkForAsLongAsItIsThere) {
         EXPECT_EQ((status(link).permissions() & perms::others_write) != perms::none, geteuid() == 0);
         EXPECT_THAT([&] { PtyDevice{link}; },
                     ThrowsMessage<std::runtime_error>(
-                        link.string() + ": File exists; remove it if no other virtual device runs there"));
+                        link.string() + ": File exists; remove it if no other virtual detector runs there"));
         EXPECT_TRUE(exists(link));
         device.unplug();
         EXPECT_FALSE(exists(serial));

@@ -50,7 +50,7 @@ TEST(Program, ShowsItsWindowInTheLanguageOfTheDirectoryAndEndsWhenToldTo) {
         };
         EXPECT_TRUE(writes("output0000.png"));
         if (russian) {
-            keyboard.press(KEY_TAB); // to the help, of which twelve looks start the simulator
+            keyboard.press(KEY_TAB); // to the help: twelve looks at it start the simulator
             for (int look = 0; look < 12; ++look) {
                 keyboard.press(KEY_ENTER);
                 keyboard.press(KEY_ESC); // back from the drawer to its button
@@ -90,7 +90,7 @@ TEST(Program, EndsAtOnceWhenAskedAgainASecondLater) {
     EXPECT_EXIT(asked(std::chrono::milliseconds(1001)), KilledBySignal(SIGTERM), "");
 }
 
-/// The program itself on a small display that nobody sees, of which another run of this test takes a picture.
+/// The program itself on a small display that nobody sees. Another run of this test takes a picture of it.
 TEST(Program, FitsItsWindowIntoTheScreensFreeArea) {
     if (QGuiApplication::platformName() == "offscreen") {
         EXPECT_EQ(QProcess::execute("xvfb-run", {"-a", "-s", "-screen 0 900x600x24",
