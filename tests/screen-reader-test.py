@@ -1,7 +1,7 @@
 """Drives the real window, beside a virtual device, over the accessibility bus, as a screen reader does.
 
-screen-reader-test.py PROGRAM TRANSLATION DIRECTORY: the program is uav-vesper-virtual; the Russian
-words are in the translation, and in the directory as the program loads them.
+screen-reader-test.py PROGRAM [TRANSLATION DIRECTORY]: the program is uav-vesper-virtual. With a translation, its words are
+expected; the directory has it as the program loads it.
 """
 import os
 import re
@@ -176,18 +176,17 @@ class Reader:
         assert not [self.line(node) for node in self.nodes() if not node.get_name()]
 
 
-def main(program, translation, russian_directory, directory):
-    messages = xml.etree.ElementTree.parse(translation).iter("message")
-    russian = {message.findtext("source"): message.findtext("translation") for message in messages}
-    for words, place in (({}, directory), (russian, russian_directory)):
-        with open(directory + "/errors", "w+", encoding="utf-8") as errors:
-            running = start(program, "--pace", "100", "--scene", "peaks", cwd=place, stdout=subprocess.DEVNULL,
-                            stderr=errors)
-            Reader(running, words).drive()
-            running.terminate()
-            assert running.wait(60) == 0
-            errors.seek(0)
-            assert ".qml" not in (text := errors.read()), text
+def main(directory, program, translation=None, program_directory=None):
+    messages = xml.etree.ElementTree.parse(translation).iter("message") if translation else ()
+    words = {message.findtext("source"): message.findtext("translation") for message in messages}
+    with open(directory + "/errors", "w+", encoding="utf-8") as errors:
+        running = start(program, "--pace", "100", "--scene", "peaks", cwd=program_directory or directory,
+                        stdout=subprocess.DEVNULL, stderr=errors)
+        Reader(running, words).drive()
+        running.terminate()
+        assert running.wait(60) == 0
+        errors.seek(0)
+        assert ".qml" not in (text := errors.read()), text
 
 
 with tempfile.TemporaryDirectory() as own:
@@ -196,7 +195,7 @@ with tempfile.TemporaryDirectory() as own:
         import gi # seeks the bus
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi, GLib
-        main(*sys.argv[1:], own)
+        main(own, *sys.argv[1:])
     finally:
         for process in reversed(started):
             process.kill()
