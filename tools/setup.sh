@@ -107,7 +107,8 @@ install_missing() {
     logged build/install.log apt_install "${missing[@]}" || fail "Installing failed; see build/install.log."
 }
 
-# logged LOG COMMAND...: runs a command with its output in a log. A terminal shows the log's newest line meanwhile.
+# logged LOG COMMAND...: runs a command with its output in a log. A terminal shows the log's newest line meanwhile. Without a
+# terminal, the log's end is printed if the command fails: nobody may find the log later.
 logged() {
     local log=$1 running status=0
     shift
@@ -118,7 +119,11 @@ logged() {
         sleep 0.3
     done
     wait $running || status=$?
-    [ ! -t 1 ] || printf '\r\033[K'
+    if [ -t 1 ]; then
+        printf '\r\033[K'
+    elif [ $status != 0 ]; then
+        tail -n 20 "$log" >&2
+    fi
     return $status
 }
 

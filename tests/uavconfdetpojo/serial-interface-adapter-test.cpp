@@ -162,7 +162,6 @@ TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
         for (int answered = 0; !done;) {
             link.processNewData(FAIL + "\n{\"type\":");
             link.processNewData(answered < requests ? ++answered, "\"STATE\"}\n" : "\"OK\"}\n");
-            link.getIoLogger();
         }
     });
     for (int i = 0; i < 200; ++i) {
@@ -170,8 +169,10 @@ TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
         link.setIoLogger(std::make_shared<IoLogger>([&](auto) {}));
         link.getRecvBuffer();
     }
+    std::thread asking([&] { link.getIoLogger(); });
     std::string seen;
     link.setIoLogger(std::make_shared<IoLogger>([&](auto) { seen = link.getRecvBuffer(); }));
+    asking.join();
     link.fireError(&BROKEN);
     done = true;
     reader.join();

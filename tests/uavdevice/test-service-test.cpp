@@ -109,16 +109,24 @@ TEST_F(TestServiceThreads, TurnsTheMaskAndScansOn) {
 }
 
 TEST(ScannerThreads, SettingsChangeWhileItScansAndASecondStopInARowThrows) {
-    Scanner scanner(std::make_shared<MsgListener>([](auto) {}), [](auto) {});
+    std::atomic<int> scans{0};
+    Scanner scanner(std::make_shared<MsgListener>([&](auto) { ++scans; }), [](auto) {});
     scanner.stop(); // allowed, because it never ran
     scanner.start();
     scanner.start();
+    // ThreadSanitizer sees a missing lock if the next scan comes before this thread takes another one.
+    const auto awaitScan = [&] {
+        for (const int seen = scans; scans < seen + 2;)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    };
     scanner.setByConfig(ConfigMsgBuilder().ranges({FreqModeEnum::STD_2400}).share());
+    awaitScan();
     scanner.setByAiPrior(AiPriorMsgBuilder().aiPrior(AiPriorEnum::FIELD).share());
-    for (int i = 0; i < 20; ++i) {
-        scanner.setMask();
-        scanner.getRandBattery();
-    }
+    awaitScan();
+    scanner.setMask();
+    awaitScan();
+    scanner.getRandBattery();
+    awaitScan();
     scanner.stop();
     EXPECT_THROW(scanner.stop(), std::system_error);
 }
