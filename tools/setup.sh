@@ -61,6 +61,8 @@ case "$QT" in
             qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-controls qml6-module-qtquick-layouts
             qml6-module-qtquick-templates qml6-module-qtqml-workerscript qt6-wayland
         )
+        # Debian 13 has what reads SVG pictures in a package of its own.
+        [ -z "$(apt-cache madison qt6-svg-plugins 2>/dev/null)" ] || SCREEN_PACKAGES+=(qt6-svg-plugins)
         ;;
     *) fail "QT must be 5 or 6, not $QT." ;;
 esac
