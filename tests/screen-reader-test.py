@@ -108,7 +108,8 @@ class Reader:
             node = self.app
         for child in children(node):
             if child.get_state_set().contains(Atspi.StateType.SHOWING):
-                yield child
+                if child.get_role() != Atspi.Role.FILLER: # newer Qts have one for a list; readers pass over it
+                    yield child
                 yield from self.nodes(child)
 
     def line(self, node):

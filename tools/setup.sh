@@ -6,7 +6,7 @@ set -euo pipefail
 BUILD_PACKAGES=(build-essential cmake ninja-build pkg-config libusb-1.0-0-dev rapidjson-dev libgtest-dev libgmock-dev)
 SCREEN_PACKAGES=(fonts-dejavu-core xdg-utils)
 TEST_PACKAGES=(locales xvfb xauth at-spi2-core dbus gir1.2-atspi-2.0 python3-gi)
-CHECK_PACKAGES=(mmdebstrap lintian man-db desktop-file-utils appstream udev xvfb xauth xdotool imagemagick)
+CHECK_PACKAGES=(mmdebstrap mount lintian man-db desktop-file-utils appstream udev xvfb xauth xdotool imagemagick)
 PACKAGE_PACKAGES=(dpkg-dev debhelper fakeroot librsvg2-bin)
 
 fail() {

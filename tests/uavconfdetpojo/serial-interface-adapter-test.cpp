@@ -133,6 +133,9 @@ TEST(SerialInterfaceAdapterThreads, ASinkOfTheLogMayAskTheLink) {
     link.processNewData("{}");
     Log::setSink(nullptr);
     EXPECT_EQ(seen, "[RFD24] received unknown msg: {}||");
+    std::thread asking([&] { link.getIoLogger(); }); // ThreadSanitizer sees a missing lock
+    link.setIoLogger(nullptr);
+    asking.join();
 }
 
 /// It would be lost if the wait did not hold a lock from its look at the result on.
@@ -169,10 +172,8 @@ TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
         link.setIoLogger(std::make_shared<IoLogger>([&](auto) {}));
         link.getRecvBuffer();
     }
-    std::thread asking([&] { link.getIoLogger(); });
     std::string seen;
     link.setIoLogger(std::make_shared<IoLogger>([&](auto) { seen = link.getRecvBuffer(); }));
-    asking.join();
     link.fireError(&BROKEN);
     done = true;
     reader.join();

@@ -130,3 +130,19 @@ TEST(ScannerThreads, SettingsChangeWhileItScansAndASecondStopInARowThrows) {
     scanner.stop();
     EXPECT_THROW(scanner.stop(), std::system_error);
 }
+
+TEST(ScannerThreads, AStopDuringAScanWaitsForNoPause) {
+    std::atomic<bool> scans{false};
+    int pauses = 0;
+    Scanner scanner(std::make_shared<MsgListener>([&](auto) {
+                        scans = true;
+                        while (scanner.isActive())
+                            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+                    }),
+                    [&](auto) { ++pauses; });
+    scanner.start();
+    while (!scans)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    scanner.stop();
+    EXPECT_EQ(pauses, 0);
+}

@@ -2,8 +2,18 @@
 #include "wire-text.h"
 
 #include <QFile>
+#include <QLibraryInfo>
+#include <QVersionNumber>
 
 using namespace testing;
+
+/// Qts after 6.4 place a centred item on a half or a whole pixel.
+static std::string placed(const std::string &look) {
+    const bool isRounded = QLibraryInfo::version() >= QVersionNumber(6, 5);
+    return isRounded
+               ? QString::fromStdString(look).replace("+742.8", "+742.5").replace("+7.9", "+8").toStdString()
+               : look;
+}
 
 class ButtonRowTest : public ScreenFixture {
 protected:
@@ -15,13 +25,13 @@ protected:
 };
 
 TEST_F(ButtonRowTest, ShowsWhatWorks) {
-    EXPECT_EQ(driver->looks("ButtonFrame", "ButtonLayout"), R"(
+    EXPECT_EQ(driver->looks("ButtonFrame", "ButtonLayout"), placed(R"(
 160x64+21+742.8 #81909f/#808080:2 r12.8, b0 47.2x47.2+12.8= *0.5, '0%' #808080 15
 160x64+182+742.8 #81909f/#808080:2 r12.8, 'Mask' #808080 15
 240x64+343+742.8 #81909f/#808080:2 r12.8, 'Fabric settings' #808080 15
 64x64+584+742.8 #81909f/#808080:2 r12.8, cfg 47.2x47.2+8.4= *0.5
 64x64+649+742.8 #81909f/#000000:2 r12.8, info 47.2x47.2+8.4=
-64x64+714+742.8 #81909f/#000000:2 r12.8, usb 47.2x47.2+8.4=)");
+64x64+714+742.8 #81909f/#000000:2 r12.8, usb 47.2x47.2+8.4=)"));
     EXPECT_EQ(driver->looks("QQuickRectangle", "LegendLayout"), R"(
 256.7x64+7.5+674.5 'Wi-Fi' #ffffff 40 bold
 256.7x64+271.7+674.5 'DIG' #ffffff 40 bold
@@ -30,15 +40,15 @@ TEST_F(ButtonRowTest, ShowsWhatWorks) {
     EXPECT_FALSE(driver->find("DrawerFrame"));
 
     connectTo(ProtoEnum::K7);
-    EXPECT_EQ(driver->looks("ButtonFrame", "ButtonLayout"), R"(
+    EXPECT_EQ(driver->looks("ButtonFrame", "ButtonLayout"), placed(R"(
 160x64+21+742.8 #81909f/#000000:2 r12.8, b75 47.2x47.2+12.8=, '87%' #ffffff 15
 160x64+182+742.8 #81909f/#000000:2 r12.8, 'Mask' #ffffff 15
 240x64+343+742.8 #81909f/#000000:2 r12.8, 'Fabric settings' #ffffff 15
 64x64+584+742.8 #81909f/#000000:2 r12.8, cfg 47.2x47.2+8.4=
 64x64+649+742.8 #81909f/#000000:2 r12.8, info 47.2x47.2+8.4=
-64x64+714+742.8 #81909f/#000000:2 r12.8, usb 47.2x47.2+8.4=)");
+64x64+714+742.8 #81909f/#000000:2 r12.8, usb 47.2x47.2+8.4=)"));
     EXPECT_EQ(ScreenDriver::place(*driver->find("FittedText", "87%"), driver->control("87%")),
-              "77.2x47.2+70+7.9");
+              placed("77.2x47.2+70+7.9"));
     EXPECT_EQ(driver->looks("QQuickRectangle", "LegendLayout"), R"(
 256.7x64+7.5+674.5 #00b050, 'Wi-Fi' #ffffff 40 bold
 256.7x64+271.7+674.5 #ffc000, 'DIG' #ffffff 40 bold

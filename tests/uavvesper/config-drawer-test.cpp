@@ -161,8 +161,10 @@ TEST_F(ConfigDrawerTest, FollowsTheGenerationAndTheWindow) {
         QCoreApplication::sendEvent(window, &turn);
     };
     click("Scan mode");
-    for (const QPoint &at : {QPoint(20, 120), {150, 200}})
-        turnWheel(at);
+    for (int turn = 0; turn < 20; ++turn) {
+        turnWheel(turn % 2 ? QPoint(20, 120) : QPoint(150, 200));
+        driver->picture();
+    }
     choose("Standard");
     EXPECT_TRUE(isInView("Detection") && !isInView("Display timeout")) << "a dialog keeps the wheel";
     EXPECT_TRUE(ScreenDriver::waitFor([&] { return turnWheel({20, 120}), !isInView("Detection"); }));

@@ -53,7 +53,9 @@ TYPED_TEST(LayeredPlotTest, ShowsLabelsAndDataHoweverTheyCame) {
     rescaled.resize(size, 10, 0); // a line of no width keeps the one it has
     EXPECT_EQ(rescaled.picture(), expected);
 
+    QQuickItem page;
     Shown<TypeParam> hidden(size);
+    hidden.setParentItem(&page);
     QSignalSpy painted(&hidden, SIGNAL(imageReady()));
     hidden.setVisible(false);
     hidden.setHistory(this->history);
