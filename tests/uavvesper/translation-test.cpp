@@ -76,5 +76,12 @@ TEST_F(RussianScreensTest, SpeakRussianInTheDirectoryOfTheRussianWords) {
     for (const QString &word : seen)
         EXPECT_TRUE(word.contains(QRegularExpression("[а-яА-Я]|^(Wi-Fi|FPV|Kelvane [67]|[0-9.+%-]*)$")))
             << qPrintable(word);
+    driver->resize(window->minimumSize());
+    for (const QQuickItem *button : driver->findAll("Button")) {
+        const QQuickItem &label = *driver->find("FittedText", {}, button);
+        EXPECT_TRUE(label.property("contentWidth").toDouble() <= label.width() &&
+                    label.property("contentHeight").toDouble() <= label.height())
+            << qPrintable(label.property("text").toString());
+    }
     EXPECT_EQ(driver->find("BarScanResultPlot")->parentItem()->childItems()[1]->property("lang"), "ru");
 }
