@@ -41,7 +41,7 @@ slider {Display timeout} 30 of 360 [{Shut off the display for inactivity in seco
 DIALOG = """
 dialog {Scan mode}|button {Efficient} focusable|button {Standard} checked focusable|button {Automatic} focusable
 button {Continuous} focusable"""
-ROLES = [("PUSH_BUTTON", "button"), ("CHECK_BOX", "box")]
+ROLES = [("PUSH_BUTTON", "button"), ("PUSH_BUTTON_MENU", "button"), ("CHECK_BOX", "box")] # newer Qts tell of a menu
 ROLES += [(role.upper(), role) for role in ("label", "chart", "heading", "slider", "dialog", "frame", "notification")]
 started = []
 
@@ -141,12 +141,13 @@ class Reader:
         assert control.do_action(actions.index("Press")), name
 
     def press_and_hear(self, name, wanted):
-        """Presses again if the device has answered too late, as it may on a busy machine."""
-        count = len(self.announced)
-        while self.say(wanted) not in self.announced[count:]:
+        """Presses again if the device has answered too late to be connected, as it may on a busy machine."""
+        words = [self.say(wanted), self.say("{Not connected}")]
+        heard = None
+        while heard != words[0]:
             count = len(self.announced)
             self.press(name)
-            wait_for(lambda: len(self.announced) > count, wanted)
+            heard = wait_for(lambda: next((word for word in self.announced[count:] if word in words), None), wanted)
 
     def drive(self):
         self.expect_screen(NOT_CONNECTED)
