@@ -1,7 +1,7 @@
 """Drives the real window, beside a virtual device, over the accessibility bus, as a screen reader does.
 
-screen-reader-test.py PROGRAM [TRANSLATION DIRECTORY]: the program is uav-vesper-virtual. With a translation, its words are
-expected; the directory has it as the program loads it.
+screen-reader-test.py PROGRAM [TRANSLATION DIRECTORY]: the program is uav-vesper-virtual. With a translation, its words
+are expected; the directory has it as the program loads it.
 """
 import os
 import re
