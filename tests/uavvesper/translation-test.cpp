@@ -1,51 +1,8 @@
 #include "screen-fixture.h"
 
-#include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
-#include <QTranslator>
 
 using namespace testing;
-
-static QString contentOf(const QString &path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    return QString::fromUtf8(file.readAll());
-}
-
-TEST(Translation, HasEveryWordOfTheScreensAndTheManualsExplainThem) {
-    QTranslator russian;
-    ASSERT_TRUE(russian.load("UavVesper-ru", RUSSIAN_DIR, QString(), QString()));
-    const QString english = contentOf(MANUALS_SOURCE_DIR "/manual.en.md");
-    const QString inRussian = contentOf(MANUALS_SOURCE_DIR "/manual.ru.md");
-    const QRegularExpression call(R"(qsTr\((["'])(.*?)(?<!\\)\1\))");
-    int words = 0;
-    for (QDirIterator it(":/qml", {"*.qml"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
-        const QString document = contentOf(it.next());
-        for (auto calls = call.globalMatch(document); calls.hasNext(); ++words) {
-            const QString word = calls.next().captured(2);
-            const QString translated = russian.translate(it.fileInfo().baseName().toUtf8(), word.toUtf8());
-            EXPECT_FALSE(translated.isEmpty()) << qPrintable(word);
-            // No word to see, and a word of the mobile platform alone.
-            if (word == "language" || word == "Share")
-                continue;
-            const auto isIn = [](const QString &manual, QString phrase) {
-                return manual.contains(phrase.replace("%1", "15").trimmed());
-            };
-            EXPECT_TRUE(isIn(english, word)) << qPrintable(word);
-            EXPECT_TRUE(isIn(inRussian, translated)) << qPrintable(translated);
-        }
-    }
-    EXPECT_GT(words, 50);
-    for (const char *manual : {":/manuals/help_K6.pdf", ":/manuals/help_K7.pdf"}) {
-        QFile pdf(manual);
-        EXPECT_TRUE(pdf.open(QIODevice::ReadOnly));
-        EXPECT_THAT(pdf.readAll().toStdString(),
-                    AllOf(StartsWith("%PDF-"), HasSubstr("/Title "), HasSubstr("/Lang (en)"),
-                          HasSubstr("(en, ru)"), HasSubstr("/Dest (en)"), HasSubstr("/Dest (ru)")))
-            << manual;
-    }
-}
 
 struct RussianScreensTest : ScreenFixture {
     RussianScreensTest()
