@@ -174,7 +174,8 @@ class Reader:
         self.expect_screen(drawer + menu + chosen)
         self.press("{Efficient}")
         self.press("{Information}")
-        wait_for(lambda: self.say("dialog {Information}") in map(self.line, self.nodes()), "the other drawer")
+        help_lines = {self.say("dialog {Information}"), self.say("label {Frequency bands: }"), "label 1000-1680"}
+        wait_for(lambda: help_lines <= set(map(self.line, self.nodes())), "the other drawer")
         assert not [self.line(node) for node in self.nodes() if not node.get_name()]
 
 
