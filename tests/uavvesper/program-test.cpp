@@ -243,6 +243,23 @@ TEST_F(MainWindowTest, GoesOnWithADeviceThatHasHungAndGone) {
     EXPECT_FALSE(isConnected());
 }
 
+/// Registered first, so it is called last.
+static const PtyDevice *deviceAtExit = nullptr;
+static const int registered = std::atexit([] {
+    if (deviceAtExit)
+        std::_Exit(deviceAtExit->isScanning());
+});
+
+TEST_F(MainWindowTest, StopsTheScanWhenTheDisplayGoesAwayAndQtCallsExit) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto loseDisplay = [this] {
+        connectTo(ProtoEnum::K7);
+        deviceAtExit = &*device;
+        device->isScanning() ? std::exit(2) : std::_Exit(3);
+    };
+    EXPECT_EXIT(loseDisplay(), ExitedWithCode(0), "") << registered;
+}
+
 TEST_F(MainWindowTest, EndsInGoodOrderOnASignalInEveryState) {
     plugIn(ProtoEnum::K7);
     const std::pair<const char *, std::function<void()>> states[] = {
