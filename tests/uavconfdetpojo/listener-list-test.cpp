@@ -35,31 +35,44 @@ TEST(ListenerList, ListenersChangeTheListWhileTheyAreCalled) {
 }
 
 TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
-    ListenerList<Listener> list;
-    std::atomic<bool> running{false}, removed{false}, ended{false}, again{false};
-    const auto listener = std::make_shared<Listener>([&] {
-        again = ended.load();
-        running = true;
-        // A removal that does not wait would end long before this.
-        for (int i = 0; i < 50 && !removed; ++i)
+    for (const bool throws : {false, true}) {
+        ListenerList<Listener> list;
+        std::atomic<bool> running{false}, removed{false}, ended{false}, again{false};
+        const auto listener = std::make_shared<Listener>([&] {
+            again = ended.load();
+            running = true;
+            // A removal that does not wait would end long before this.
+            for (int i = 0; i < 50 && !removed; ++i)
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            EXPECT_FALSE(removed);
+            ended = true;
+            if (throws)
+                throw 1;
+        });
+        list.add(listener);
+        list.add(std::make_shared<Listener>([&] { // the removal does not wait for this one
+            while (!removed)
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }));
+        const auto fire = [&] {
+            try {
+                list.fire([](const Listener &each) { each(); });
+            } catch (int) {
+            }
+        };
+        std::thread firing(fire);
+        while (!running)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        EXPECT_FALSE(removed);
-        ended = true;
-    });
-    list.add(listener);
-    const auto fire = [&] { list.fire([](const Listener &each) { each(); }); };
-    std::thread firing(fire);
-    while (!running)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    std::thread removing([&] {
-        list.remove(listener);
-        EXPECT_TRUE(ended);
-        removed = true;
-    });
-    firing.join();
-    removing.join();
-    fire();
-    EXPECT_FALSE(again);
+        std::thread removing([&] {
+            list.remove(listener);
+            EXPECT_TRUE(ended);
+            removed = true;
+        });
+        firing.join();
+        removing.join();
+        fire();
+        EXPECT_FALSE(again);
+    }
 }
 
 TEST(ListenerListThreads, RunningListenersMayRemoveEachOtherInARing) {
