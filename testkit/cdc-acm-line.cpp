@@ -186,18 +186,23 @@ void CdcAcmLine::run() {
     };
     while (!ending) {
         changed.wait_for(lock, STEP);
-        while (!underWay.empty() && !ending && isTaking() && !underWay.empty()) {
-            // The terminal itself makes carriage return and line feed of a line end.
-            std::string &piece = underWay.front();
-            const ssize_t taken = __real_write(descriptor(), piece.data(), piece.size());
-            if (taken <= 0)
-                break;
-            piece.erase(0, static_cast<std::size_t>(taken));
-            if (piece.empty())
-                underWay.pop_front();
-            changed.notify_all();
-        }
+        while (!underWay.empty() && !ending && isTaking() && !underWay.empty() && passOn())
+            continue;
     }
+}
+
+/// The device takes the oldest piece, or a part of it; false if it can't. The lock is held.
+bool CdcAcmLine::passOn() {
+    // The terminal itself makes carriage return and line feed of a line end.
+    std::string &piece = underWay.front();
+    const ssize_t taken = __real_write(descriptor(), piece.data(), piece.size());
+    if (taken <= 0)
+        return false;
+    piece.erase(0, static_cast<std::size_t>(taken));
+    if (piece.empty())
+        underWay.pop_front();
+    changed.notify_all();
+    return true;
 }
 
 extern "C" {

@@ -62,6 +62,7 @@ public:
 
 private:
     void run();
+    bool passOn();
     int descriptor() const;
     bool hasGone() const;
 
