@@ -143,6 +143,8 @@ ssize_t CdcAcmLine::write(const char *bytes, std::size_t count) {
         taken += piece;
     }
     changed.notify_all();
+    if (taken < count && hasRoomAfterRefusal)
+        passOn();
     if (taken == 0 && count > 0)
         return errno = EAGAIN, -1;
     return static_cast<ssize_t>(taken);

@@ -40,6 +40,9 @@ public:
     }
     /// The device takes a piece only while `isTaking` returns true. It is called on a thread of this object.
     void takeWhile(std::function<bool()> isTaking);
+    /// From now on the device takes one more piece after each write that found too little room, before the
+    /// program's next call.
+    void makeRoomAfterRefusals() { hasRoomAfterRefusal = true; }
     /// `call` is called each time that the program asks how much is under way, on the program's thread.
     void whenAsked(std::function<void()> call);
 
@@ -67,6 +70,7 @@ private:
     bool hasGone() const;
 
     const std::string path;
+    std::atomic<bool> hasRoomAfterRefusal{false};
     std::vector<int> descriptors; // the program's; guarded by a mutex of the source file
 
     mutable std::mutex mutex; // guards everything below

@@ -75,6 +75,18 @@ TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
     EXPECT_EQ(device.received(), onTheWire({config, ask, config}));
 }
 
+/// The line gets room between the program's looks at it.
+TEST_F(LineThreads, NothingOvertakesARestThatBecomesShorter) {
+    ASSERT_TRUE(tty.openPort());
+    line.hold();
+    line.makeRoomAfterRefusals();
+    EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
+    EXPECT_EQ(tty.sendWithin(ask, 60s), Sent::WHOLE);
+    line.release();
+    EXPECT_TRUE(device.waitForRequests(2));
+    EXPECT_EQ(device.received(), onTheWire({config, ask}));
+}
+
 TEST_F(LineThreads, HasNeitherParityNorHandshakeWhateverWasLeftOn) {
     line.control = PARENB | PARODD | CSTOPB | CS6 | CRTSCTS;
     ASSERT_TRUE(tty.openPort());
@@ -163,8 +175,8 @@ TEST_F(LineThreads, NothingBeginsAtTheEnd) {
     });
     std::thread late([&] {
         isEnding.get_future().wait();
-        EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED);
         EXPECT_EQ(tty.sendWithin(ask, std::chrono::milliseconds::max()), Sent::CLOSED);
+        EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED);
     });
     tty.serialClose();
     late.join();
@@ -187,15 +199,19 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     };
     /// Ends a line while a request waits for room. The request is never sent.
     const auto endsWait = [this](auto end) {
-        std::promise<void> isWaiting;
-        const SteppedWait step([&] { isWaiting.set_value(); });
+        std::promise<void> isWaiting, hasEnded;
+        const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasEnded.get_future().wait(); });
         std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED); });
         isWaiting.get_future().wait();
         end();
+        hasEnded.set_value();
         waiting.join();
     };
+    const auto looks = std::make_shared<std::atomic<int>>(0); // one in a millisecond at most
+    line.whenAsked([looks] { ++*looks; });
     hang();
     endsWait([this] { tty.serialClose(); });
+    EXPECT_LE(*looks, 520) << "half a second";
     hang();
     endsWait([&] {
         tty.setPortName(other.terminal());

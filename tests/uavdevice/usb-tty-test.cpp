@@ -1,5 +1,7 @@
 #include "usb-tty.h"
 
+#include "inbox.h"
+#include "msg/ok-msg.h"
 #include "pty-device.h"
 
 #include <fcntl.h>
@@ -90,6 +92,14 @@ TEST_F(UsbTtyThreads, NothingWakesUpForAnUnpluggedDevice) {
     for (int attempt = 0; attempt < 10 && with > without + 2; ++attempt)
         with = wakeUpsOfHalfASecond();
     EXPECT_LE(with, without + 2);
+    device.plugIn();
+    Inbox inbox;
+    tty.addListener(inbox.listener);
+    tty.setPortName(device.terminal());
+    ASSERT_TRUE(tty.openPort());
+    device.sendText("{\"type\":\"OK\"}\n");
+    EXPECT_TRUE(inbox.next<OkMsg>()) << "it wakes up for the next one";
+    tty.serialClose();
 }
 
 /// A program that it starts, such as a viewer, would keep the port open.
