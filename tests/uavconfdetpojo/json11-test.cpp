@@ -98,3 +98,26 @@ TEST(Json11, WrongTypesReadAsEmptyValues) {
         EXPECT_TRUE(json[1].is_null() && json["b"].is_null());
     }
 }
+
+TEST(Json11, ValuesHaveAnOrderAndTextsMayHaveComments) {
+    const std::vector<Json> ascending = {Json(),
+                                         1,
+                                         2,
+                                         false,
+                                         true,
+                                         "a",
+                                         "b",
+                                         Json::array{1},
+                                         Json::array{2},
+                                         Json::object{{"a", 1}},
+                                         Json::object{{"b", 1}}};
+    for (std::size_t i = 0; i < ascending.size(); ++i)
+        for (std::size_t j = 0; j < ascending.size(); ++j) {
+            EXPECT_EQ(ascending[i] < ascending[j], i < j) << i << ' ' << j;
+            EXPECT_EQ(ascending[i] == ascending[j], i == j) << i << ' ' << j;
+        }
+    std::string err;
+    EXPECT_EQ(Json::parse("/* 1 */ [2] // 3", err, json11::COMMENTS).dump() + err, "[2]");
+    Json::parse(static_cast<const char *>(nullptr), err);
+    EXPECT_EQ(err, "null input");
+}

@@ -87,6 +87,23 @@ TEST_F(LineThreads, NothingOvertakesARestThatBecomesShorter) {
     EXPECT_EQ(device.received(), onTheWire({config, ask}));
 }
 
+/// The thread that asked wakes up late, when another request has begun.
+TEST_F(LineThreads, ARequestThatHasLeftIsWholeWhateverFollows) {
+    ASSERT_TRUE(tty.openPort());
+    line.hold();
+    std::promise<void> isWaiting, hasNextBegun;
+    const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasNextBegun.get_future().wait(); });
+    std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(config, 60s), Sent::WHOLE); });
+    isWaiting.get_future().wait();
+    line.release();
+    EXPECT_TRUE(device.waitForRequests(1));
+    line.hold();
+    EXPECT_EQ(tty.sendWithin(jammers, 0ms), Sent::PART);
+    hasNextBegun.set_value();
+    waiting.join();
+    line.release();
+}
+
 TEST_F(LineThreads, HasNeitherParityNorHandshakeWhateverWasLeftOn) {
     line.control = PARENB | PARODD | CSTOPB | CS6 | CRTSCTS;
     ASSERT_TRUE(tty.openPort());
