@@ -88,7 +88,9 @@ TEST_F(UsbTtyThreads, NothingWakesUpForAnUnpluggedDeviceUntilTheNextOne) {
         timersub(&after.ru_utime, &before.ru_utime, &spent);
         return after.ru_nvcsw - before.ru_nvcsw + 1000 * spent.tv_sec + spent.tv_usec / 1000;
     };
+    device.unplug();
     const long without = loadOfAQuarterSecond();
+    device.plugIn();
     Inbox inbox;
     tty.addListener(inbox.listener);
     for (const char *former : {"none", "unplugged", "unplugged and closed"}) {
