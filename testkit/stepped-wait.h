@@ -1,14 +1,14 @@
 #pragma once
 
-#include <atomic>
 #include <ctime>
 #include <functional>
 #include <pthread.h>
+#include <utility>
 
-/// Calls two functions once, on the next thread that begins to wait with a time-out. The first one is called
-/// between the thread's look at what it waits for and the wait. The thread holds the lock that goes with it.
-/// The second one is called after the wait without the lock. So the thread wakes up as late as this function
-/// likes. One object at a time, in a program that links the target.
+/// Calls two functions once, when the thread that made this object begins to wait with a time-out. The first
+/// one is called between the thread's look at what it waits for and the wait. The thread holds the lock that
+/// goes with it. The second one is called after the wait without the lock. So the thread wakes up as late as
+/// this function likes. One object at a time in a thread, in a program that links the target.
 class SteppedWait {
 public:
     explicit SteppedWait(
@@ -22,12 +22,12 @@ public:
     SteppedWait &operator=(const SteppedWait &) = delete;
 
     /// The object that steps the wait that begins now; null if none does.
-    static SteppedWait *take() { return waited.exchange(nullptr); }
+    static SteppedWait *take() { return std::exchange(waited, nullptr); }
 
     const std::function<void()> before, after;
 
 private:
-    static inline std::atomic<SteppedWait *> waited{nullptr};
+    static inline thread_local SteppedWait *waited = nullptr;
 };
 
 extern "C" {

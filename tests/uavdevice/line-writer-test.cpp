@@ -92,8 +92,10 @@ TEST_F(LineThreads, ARequestThatHasLeftIsWholeWhateverFollows) {
     ASSERT_TRUE(tty.openPort());
     line.hold();
     std::promise<void> isWaiting, hasNextBegun;
-    const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasNextBegun.get_future().wait(); });
-    std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(config, 60s), Sent::WHOLE); });
+    std::thread waiting([&] {
+        const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasNextBegun.get_future().wait(); });
+        EXPECT_EQ(tty.sendWithin(config, 60s), Sent::WHOLE);
+    });
     isWaiting.get_future().wait();
     line.release();
     EXPECT_TRUE(device.waitForRequests(1));
@@ -217,8 +219,10 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     /// Ends a line while a request waits for room. The request is never sent.
     const auto endsWait = [this](auto end) {
         std::promise<void> isWaiting, hasEnded;
-        const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasEnded.get_future().wait(); });
-        std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED); });
+        std::thread waiting([&] {
+            const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasEnded.get_future().wait(); });
+            EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED);
+        });
         isWaiting.get_future().wait();
         end();
         hasEnded.set_value();
