@@ -1,5 +1,6 @@
 #include "serial-interface-adapter.h"
 
+#include "in-order.h"
 #include "log.h"
 #include "stepped-wait.h"
 #include "wire-text.h"
@@ -135,20 +136,8 @@ TEST(SerialInterfaceAdapterThreads, ASinkOfTheLogMayAskTheLink) {
     EXPECT_EQ(seen, "[RFD24] received unknown msg: {}||");
 }
 
-/// ThreadSanitizer sees a missing lock, because nothing else puts the two threads in order.
 TEST(SerialInterfaceAdapterThreads, EachCallMayGoBeforeOrFollowTheReadingThread) {
     Link link;
-    const auto inOrder = [](const std::function<void()> &first, const std::function<void()> &second) {
-        std::atomic<bool> isDone{false};
-        std::thread other([&] {
-            first();
-            isDone.store(true, std::memory_order_relaxed);
-        });
-        while (!isDone.load(std::memory_order_relaxed))
-            std::this_thread::sleep_for(1ms);
-        second();
-        other.join();
-    };
     const auto read = [&] { link.processNewData(OK); };
     const auto log = [&] { link.setIoLogger(nullptr); };
     const std::function<void()> calls[] = {log, [&] { link.getIoLogger(); }, [&] { link.getRecvBuffer(); },

@@ -1,5 +1,6 @@
 #include "usb-tty.h"
 
+#include "in-order.h"
 #include "inbox.h"
 #include "msg/ok-msg.h"
 #include "pty-device.h"
@@ -125,6 +126,13 @@ TEST_F(UsbTtyThreads, ChildrenDoNotInheritTheLine) {
         EXPECT_EQ(found, 1U) << end;
         EXPECT_EQ(inherited, 0U) << end;
     }
+}
+
+TEST_F(UsbTtyThreads, AnyThreadMayAskForTheNameOrSetIt) {
+    const auto set = [this] { tty.setPortName("/dev/ttyACM0"); };
+    inOrder(
+        set, [this] { EXPECT_EQ(tty.getPortName(), "/dev/ttyACM0"); });
+    inOrder([this] { tty.getPortName(); }, set);
 }
 
 TEST_F(UsbTtyThreads, OpensAndClosesWhileOthersSend) {
