@@ -16,17 +16,22 @@ public:
             arrived.notify_all();
         });
 
-    /// Takes the next message of this class and drops those before it. Null if none comes within a minute.
+    /// Takes the next message. Null if none comes within a minute.
+    std::shared_ptr<Msg> next() {
+        std::unique_lock lock(mutex);
+        if (!arrived.wait_for(lock, std::chrono::seconds(60), [&] { return !messages.empty(); }))
+            return nullptr;
+        const std::shared_ptr<Msg> msg = std::move(messages.front());
+        messages.pop_front();
+        return msg;
+    }
+    /// Takes the next message of this class and drops those before it. Null if a minute brings none at all.
     template <typename Message>
     std::shared_ptr<Message> next() {
-        std::unique_lock lock(mutex);
-        std::shared_ptr<Message> found;
-        arrived.wait_for(lock, std::chrono::seconds(60), [&] {
-            for (; !found && !messages.empty(); messages.pop_front())
-                found = messageCast<Message>(messages.front());
-            return found != nullptr;
-        });
-        return found;
+        while (const std::shared_ptr<Msg> msg = next())
+            if (auto found = messageCast<Message>(msg))
+                return found;
+        return nullptr;
     }
 
     /// Takes all messages that have come.

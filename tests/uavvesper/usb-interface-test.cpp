@@ -1,5 +1,6 @@
 #include "usb-interface.h"
 
+#include "in-order.h"
 #include "inbox.h"
 #include "msg/state-msg.h"
 #include "usb-bus.h"
@@ -88,10 +89,20 @@ TEST_F(UsbInterfaceThreads, ReadsOnAfterErrorsUntilItIsClosed) {
                    {STATE.substr(5) + "\n"}});
         link.startReading();
         link.startReading();
-        EXPECT_NE(inbox.next<StateMsg>(), nullptr);
+        EXPECT_NE(messageCast<StateMsg>(inbox.next()), nullptr) << "the first one";
         link.serialClose();
         link.stopReading();
         EXPECT_TRUE(inbox.take().empty());
     }
     EXPECT_THAT(usb.readSizes, testing::ElementsAre(std::pair(512, 100U)));
+}
+
+TEST_F(UsbInterfaceThreads, AnyThreadMayAskForTheDeviceOrSend) {
+    UsbInterface link;
+    link.init();
+    const auto open = [&] { link.openDevice(); };
+    const auto ask = [&] { link.isClosed(); };
+    inOrder(open, ask);
+    inOrder([&] { link.serialClose(); }, ask);
+    inOrder(open, [&] { link.sendBytes("x", 5ms); });
 }
