@@ -6,6 +6,7 @@
 #include "pty-device.h"
 
 #include <fcntl.h>
+#include <future>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/time.h>
@@ -133,6 +134,26 @@ TEST_F(UsbTtyThreads, AnyThreadMayAskForTheNameOrSetIt) {
     inOrder(
         set, [this] { EXPECT_EQ(tty.getPortName(), "/dev/ttyACM0"); });
     inOrder([this] { tty.getPortName(); }, set);
+}
+
+TEST_F(UsbTtyThreads, OpensOnlyWhenAnotherThreadHasClosed) {
+    std::promise<void> isListening, mayReturn;
+    tty.addListener(std::make_shared<MsgListener>([&](const std::shared_ptr<Msg> &) {
+        isListening.set_value();
+        mayReturn.get_future().wait();
+    }));
+    ASSERT_TRUE(tty.openPort());
+    device.send(std::make_shared<OkMsg>());
+    isListening.get_future().wait();
+    std::thread closing([this] { tty.serialClose(); });
+    while (!tty.isClosed())
+        std::this_thread::sleep_for(1ms);
+    auto opening = std::async(std::launch::async, [this] { return tty.openPort(); });
+    EXPECT_EQ(opening.wait_for(50ms), std::future_status::timeout);
+    mayReturn.set_value();
+    closing.join();
+    EXPECT_TRUE(opening.get() && !tty.isClosed());
+    EXPECT_TRUE(device.waitForOpen(true));
 }
 
 TEST_F(UsbTtyThreads, OpensAndClosesWhileOthersSend) {
