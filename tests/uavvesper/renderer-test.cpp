@@ -1,31 +1,36 @@
 #include "renderer.h"
 
 #include <QQuickWindow>
+#include <cstdio>
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 /// In a process of its own, before it has a window. The platform is "offscreen".
 TEST(Renderer, DrawsWithoutOpenGLUnlessTheUserNamesAnotherRenderer) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto choose = [] {
-        const std::pair<const char *, const char *> chosenByUser[] = {{"QT_QUICK_BACKEND", ""},
-                                                                      {"QT_QUICK_BACKEND", "softwarecontext"},
-                                                                      {"QMLSCENE_DEVICE", "openvg"},
-                                                                      {"QSG_RHI", "1"},
-                                                                      {"QSG_RHI_BACKEND", "vulkan"},
-                                                                      {"QT_SCALE_FACTOR", "1"},
-                                                                      {"QT_XCB_GL_INTEGRATION", "xcb_egl"}};
-        for (const auto &[name, value] : chosenByUser) {
+    struct {
+        const char *name, *value; // in the environment
+        const char *renderer;
+    } const cases[] = {{"QT_QUICK_BACKEND", "", "as named"},
+                       {"QT_QUICK_BACKEND", "softwarecontext", "as named"},
+                       {"QMLSCENE_DEVICE", "openvg", "as named"},
+                       {"QSG_RHI", "1", "as named"},
+                       {"QSG_RHI_BACKEND", "vulkan", "as named"},
+                       {"QT_SCALE_FACTOR", "1", "software"},
+                       {"QT_XCB_GL_INTEGRATION", "xcb_egl", "software"}};
+    const auto choose = [&] {
+        int failed = 0;
+        for (const auto &[name, value, renderer] : cases) {
             qunsetenv("QT_QUICK_BACKEND");
             qputenv(name, value);
             QQuickWindow::setSceneGraphBackend("as named");
             chooseRenderer();
-            std::fprintf(stderr, "%s: %s|", name, qPrintable(QQuickWindow::sceneGraphBackend()));
+            const QString chosen = QQuickWindow::sceneGraphBackend();
+            if (chosen != renderer)
+                failed = std::fprintf(stderr, "%s=%s: %s\n", name, value, qPrintable(chosen));
             qunsetenv(name);
         }
-        std::_Exit(0);
+        std::_Exit(failed != 0);
     };
-    EXPECT_EXIT(choose(), testing::ExitedWithCode(0),
-                "QT_QUICK_BACKEND: as named\\|QT_QUICK_BACKEND: as named\\|QMLSCENE_DEVICE: as named\\|"
-                "QSG_RHI: as named\\|QSG_RHI_BACKEND: as named\\|QT_SCALE_FACTOR: "
-                "software\\|QT_XCB_GL_INTEGRATION: software\\|");
+    EXPECT_EXIT(choose(), testing::ExitedWithCode(0), "");
 }
