@@ -181,7 +181,11 @@ TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
     for (int i = 0; i < 200; ++i)
         EXPECT_NE(link.transaction(request(), 60s, {MsgTypeEnum::STATE}), nullptr);
     std::string seen;
-    link.setIoLogger(std::make_shared<IoLogger>([&](auto) { seen = link.getRecvBuffer(); }));
+    link.setIoLogger(std::make_shared<IoLogger>([&](auto) { // runs in both threads at once
+        const auto bytes = link.getRecvBuffer();
+        if (done)
+            seen = bytes;
+    }));
     link.fireError(&BROKEN);
     done = true;
     reader.join();
