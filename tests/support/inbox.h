@@ -1,10 +1,9 @@
 #pragma once
 
+#include "messages.h"
 #include "serial-interface.h"
 
-#include <condition_variable>
 #include <deque>
-#include <mutex>
 
 /// A listener that keeps its messages, for tests that wait for messages from another thread.
 class Inbox {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "common/history.h"
-#include "scans.h"
+#include "messages.h"
 #include "visuals/layered-plot.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QSignalSpy>
 
 /// A history of these scans, oldest first, `apartMs` milliseconds apart.
 inline History historyOf(const std::vector<std::vector<Found>> &scans, int apartMs = 100,

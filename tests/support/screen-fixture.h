@@ -1,12 +1,15 @@
 #pragma once
 
-#include "msg-to-json-parser.h"
+#include "messages.h"
 #include "screens.h"
 
+#include <QAccessible>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
-#include <gmock/gmock.h>
-#include <mutex>
 
 /// Collects Qt's warnings from any thread while it lives. At most one object at a time.
 class QtWarnings {
@@ -43,7 +46,7 @@ protected:
         }
         EXPECT_FALSE(device && (!device->waitForOpen(false) || device->isScanning()));
         engine.reset();
-        EXPECT_THAT(QtWarnings::take(), testing::IsEmpty());
+        EXPECT_THAT(QtWarnings::take(), IsEmpty());
     }
 
     /// The texts that the connected device gets because of a gesture.
@@ -80,7 +83,7 @@ protected:
             device->sendText(text + "\n");
             EXPECT_TRUE(ScreenDriver::waitFor([&] { return count > seen; })) << text;
         });
-        EXPECT_THAT(sent, testing::IsEmpty()) << text;
+        EXPECT_THAT(sent, IsEmpty()) << text;
     }
 
 private:

@@ -1,10 +1,5 @@
-#include "msg/all-messages.h"
+#include "messages.h"
 
-#include <gmock/gmock.h>
-#include <sstream>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 using FM = FreqModeEnum;
 using MM = MasterFreqModeEnum;
 

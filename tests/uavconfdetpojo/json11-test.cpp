@@ -1,14 +1,6 @@
 #include "json11.hpp"
 
-#include "comma-locale.h"
-
-#include <cmath>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <limits>
-#include <set>
-#include <sstream>
-#include <thread>
+#include "testing.h"
 
 using json11::Json;
 

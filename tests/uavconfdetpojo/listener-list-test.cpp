@@ -1,12 +1,6 @@
 #include "listener-list.h"
 
-#include <atomic>
-#include <chrono>
-#include <functional>
-#include <gtest/gtest.h>
-#include <string>
-#include <thread>
-#include <vector>
+#include "testing.h"
 
 using Listener = std::function<void()>;
 

@@ -1,10 +1,6 @@
 #include "message-reader.h"
 
-#include "wire-text.h"
-
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
+#include "messages.h"
 
 namespace {
 
@@ -102,7 +98,7 @@ TEST(MessageReader, RecoveryKeepsTheNewestObjectThatBeganOnItsOwnLine) {
     in.take("{{\"a\":1}\n{\"b\":1");
     in.take("}\n{\"type\":\"OK", 5001);
     EXPECT_EQ(in.reader.bytes(), "{\"type\":\"OK");
-    EXPECT_THAT(in.log, testing::HasSubstr("afterRecvBuffer: "));
+    EXPECT_THAT(in.log, HasSubstr("afterRecvBuffer: "));
     in.take(" ", 5000);
     EXPECT_EQ(in.log, "") << "the five seconds restart";
     EXPECT_EQ(in.take("\"}\n"), "") << "OK with a blank is no type";

@@ -1,16 +1,8 @@
-#include "comma-locale.h"
-#include "msg-to-json-parser.h"
-#include "msg/all-messages.h"
+#include "messages.h"
 #include "utils.h"
-#include "wire-text.h"
 
-#include <any>
-#include <cmath>
-#include <gmock/gmock.h>
 #include <json11.hpp>
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using MM = MasterFreqModeEnum;
 
 TEST(Message, TextThatIsNoKnownMessageGivesNull) {

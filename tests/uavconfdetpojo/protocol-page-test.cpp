@@ -1,10 +1,4 @@
-#include "comma-locale.h"
-#include "msg-to-json-parser.h"
-#include "msg/all-messages.h"
-
-#include <fstream>
-#include <gtest/gtest.h>
-#include <set>
+#include "messages.h"
 
 namespace {
 

@@ -1,19 +1,12 @@
 #include "serial-interface-adapter.h"
 
-#include "in-order.h"
 #include "log.h"
+#include "messages.h"
 #include "stepped-wait.h"
-#include "wire-text.h"
-
-#include <gtest/gtest.h>
-#include <stdexcept>
-#include <thread>
-
-using namespace std::chrono_literals;
 
 namespace {
 
-using Types = std::vector<MsgTypeEnum>;
+using MsgTypes = std::vector<MsgTypeEnum>;
 
 class Link : public SerialInterfaceAdapter {
 public:
@@ -32,8 +25,8 @@ public:
 
     std::function<void(buffer_t, std::chrono::milliseconds)> onSend = [](auto, auto) {};
     Sent sent = Sent::WHOLE;
-    Types givenUp;
-    Types received;
+    MsgTypes givenUp;
+    MsgTypes received;
     const std::shared_ptr<MsgListener> collector = std::make_shared<MsgListener>(
         [this](const std::shared_ptr<Msg> &msg) { received.push_back(msg->getType()); });
 };
@@ -88,14 +81,14 @@ TEST(SerialInterfaceAdapterThreads, TransactionWaitsForAReplyFromWhenItsRequestH
     };
     EXPECT_NE(link.transaction(request(), 500ms, MsgType::values()), nullptr);
     device.join();
-    EXPECT_EQ(link.givenUp, Types{});
+    EXPECT_EQ(link.givenUp, MsgTypes{});
     link.onSend = [&](auto, auto) { link.processNewData(OK); };
     for (const Sent sent : {Sent::PART, Sent::NOTHING}) {
         link.sent = sent;
         EXPECT_EQ(link.transaction(request(), 24h, {MsgTypeEnum::OK}), nullptr) << "what comes is no reply";
         EXPECT_EQ(link.transaction(request(), 24h, {MsgTypeEnum::STATE}), nullptr) << "at once";
     }
-    EXPECT_EQ(link.givenUp, Types(4, MsgTypeEnum::GET_STATE));
+    EXPECT_EQ(link.givenUp, MsgTypes(4, MsgTypeEnum::GET_STATE));
     EXPECT_EQ(link.received.back(), MsgTypeEnum::OK) << "heard like any message";
 }
 
@@ -121,7 +114,7 @@ TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
     EXPECT_EQ(errors->texts.size(), 28U) << "both logs have ended";
     EXPECT_EQ(link.getRecvBuffer(), "");
     logOf([&] { link.processNewData(STATE); });
-    EXPECT_EQ(link.received, (Types{MsgTypeEnum::OK, MsgTypeEnum::STATE}));
+    EXPECT_EQ(link.received, (MsgTypes{MsgTypeEnum::OK, MsgTypeEnum::STATE}));
 }
 
 TEST(SerialInterfaceAdapterThreads, ASinkOfTheLogMayAskTheLink) {

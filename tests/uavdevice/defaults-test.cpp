@@ -1,10 +1,7 @@
 #include "common/defaults.h"
 
 #include "common/sens-level.h"
-#include "msg-to-json-parser.h"
-#include "wire-text.h"
-
-#include <gtest/gtest.h>
+#include "messages.h"
 
 TEST(Defaults, AreTheFactorySettingsOfEachGeneration) {
     const auto config = [](const std::string &proto, const std::string &ranges) {

@@ -1,14 +1,6 @@
 #include "common/history.h"
 
-#include "scans.h"
-
-#include <gmock/gmock.h>
-#include <thread>
-
-using testing::Each;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
+#include "messages.h"
 
 TEST(History, KeepsTheTenNewestScansOldestFirst) {
     History history;

@@ -2,20 +2,11 @@
 #include "common/defaults.h"
 #include "inbox.h"
 #include "linux-connector.h"
-#include "msg-to-json-parser.h"
-#include "msg/all-messages.h"
 #include "pty-device.h"
 #include "stepped-wait.h"
 
-#include <array>
 #include <fcntl.h>
-#include <future>
-#include <gmock/gmock.h>
 #include <unistd.h>
-
-using namespace std::chrono_literals;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// The link to a detector, on a line that takes bytes like the system's driver.
 class LineThreads : public testing::Test {

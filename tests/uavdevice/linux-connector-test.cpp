@@ -1,18 +1,9 @@
 #include "linux-connector.h"
 
 #include "inbox.h"
-#include "msg/all-messages.h"
 #include "pty-device.h"
 
-#include <fstream>
-#include <gmock/gmock.h>
-#include <list>
-
 namespace fs = std::filesystem;
-using namespace std::chrono_literals;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Not;
 
 class LinuxConnectorThreads : public testing::Test {
 protected:
@@ -50,7 +41,7 @@ TEST_F(LinuxConnectorThreads, FindsNothingWhereNothingIs) {
     for (const char *name : {"gone-1", "gone-2", "gone-3"})
         fs::create_symlink("../nowhere/tty", directory.path() / name);
     EXPECT_FALSE(connector.connectInterface());
-    EXPECT_THAT(reports, ElementsAre(testing::HasSubstr("nowhere/tty")));
+    EXPECT_THAT(reports, ElementsAre(HasSubstr("nowhere/tty")));
     EXPECT_EQ(descriptors(), before);
 }
 
@@ -63,7 +54,7 @@ TEST_F(LinuxConnectorThreads, FindsTheDeviceBesideOthers) {
         other->setManner(PtyDevice::Manner::SILENT);
         ASSERT_TRUE(connects());
         EXPECT_EQ(connector.getPortName(), device->terminal());
-        EXPECT_THAT(device->requestTypes(), testing::AllOf(Not(IsEmpty()), testing::Each("GET_STATE")));
+        EXPECT_THAT(device->requestTypes(), AllOf(Not(IsEmpty()), Each("GET_STATE")));
         connector.disconnect();
         EXPECT_TRUE(device->waitForOpen(false));
     }
@@ -76,7 +67,7 @@ TEST_F(LinuxConnectorThreads, TakesOnlyADeviceThatAnswersInTimeAndOfItsState) {
     };
     device.setAnswerDelay(1s);
     EXPECT_TRUE(isPassedOver()) << "too late";
-    EXPECT_THAT(reports, ElementsAre(testing::StartsWith(device.terminal() + ": no answer within 100 ms")));
+    EXPECT_THAT(reports, ElementsAre(StartsWith(device.terminal() + ": no answer within 100 ms")));
     device.setManner(PtyDevice::Manner::SILENT);
     const auto isTold = [&] {
         return reports.back().find("answered with OK instead of STATE") != std::string::npos;

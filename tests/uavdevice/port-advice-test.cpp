@@ -1,15 +1,9 @@
 #include "port-advice.h"
 
-#include "msg/get-config-msg.h"
-#include "msg/ok-msg.h"
+#include "messages.h"
 
-#include <cerrno>
-#include <gmock/gmock.h>
 #include <pwd.h>
 #include <unistd.h>
-
-using namespace std::chrono_literals;
-using testing::HasSubstr;
 
 TEST(PortAdvice, NamesTheRemedy) {
     const std::pair<int, const char *> errors[] = {
@@ -22,11 +16,10 @@ TEST(PortAdvice, NamesTheRemedy) {
         {EINVAL, "no serial line"},
         {EMFILE, "Too many open files"}};
     for (const auto &[error, advice] : errors)
-        EXPECT_THAT(adviceOnError(error), testing::StartsWith(advice)) << error;
-    EXPECT_THAT(adviceOnReply(nullptr, 100ms),
-                testing::AllOf(HasSubstr("within 100 ms"), HasSubstr("plug it")));
+        EXPECT_THAT(adviceOnError(error), StartsWith(advice)) << error;
+    EXPECT_THAT(adviceOnReply(nullptr, 100ms), AllOf(HasSubstr("within 100 ms"), HasSubstr("plug it")));
     EXPECT_THAT(adviceOnReply(std::make_shared<OkMsg>(), 100ms),
-                testing::AllOf(HasSubstr("answered with OK instead of STATE"), HasSubstr("press again")));
+                AllOf(HasSubstr("answered with OK instead of STATE"), HasSubstr("press again")));
     EXPECT_THAT(adviceOnRefusal(GetConfigMsg(), Sent::PART, 30ms),
                 HasSubstr("only a part of GET_CONFIG within 30 ms"));
     EXPECT_THAT(adviceOnRefusal(GetConfigMsg(), Sent::NOTHING, 5ms),

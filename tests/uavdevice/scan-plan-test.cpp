@@ -1,11 +1,9 @@
 #include "simulator/scan-plan.h"
 
-#include <gmock/gmock.h>
-#include <map>
+#include "testing.h"
 
-using testing::ElementsAre;
 using Band = MasterFreqModeEnum;
-using Range = FreqModeEnum;
+using Sweep = FreqModeEnum;
 
 TEST(ScanPlan, FollowsTheSettings) {
     struct Case {
@@ -29,7 +27,7 @@ TEST(ScanPlan, FollowsTheSettings) {
         };
         plan.setByConfig(config.build());
         EXPECT_THAT(values(), ElementsAre(c.period, c.rssiMax, 0, 0, 0)) << "no range, no signal";
-        config = config.ranges({Range::STD_2400});
+        config = config.ranges({Sweep::STD_2400});
         plan.setByConfig(config.build());
         plan.setByAiPrior(AiPriorEnum::FIELD); // the next mode replaces its factors, and so does a CONFIG
         plan.setByAiPrior(c.prior);
@@ -41,9 +39,9 @@ TEST(ScanPlan, FollowsTheSettings) {
 
 TEST(ScanPlan, AMaskedBandStaysMasked) {
     ScanPlan plan;
-    const std::vector<std::pair<std::vector<Range>, std::vector<Band>>> steps = {
-        {{Range::STD_5800, Range::EXT_2400}, {Band::R_2400, Band::R_5800}},
-        {{Range::STD_1200, Range::STD_2400}, {Band::R_2400, Band::R_5800, Band::R_1200}},
+    const std::vector<std::pair<std::vector<Sweep>, std::vector<Band>>> steps = {
+        {{Sweep::STD_5800, Sweep::EXT_2400}, {Band::R_2400, Band::R_5800}},
+        {{Sweep::STD_1200, Sweep::STD_2400}, {Band::R_2400, Band::R_5800, Band::R_1200}},
         {{}, {Band::R_2400, Band::R_5800, Band::R_1200}}};
     for (const auto &[ranges, masked] : steps) {
         plan.setByConfig(ConfigMsgBuilder().proto(ProtoEnum::K7).ranges(ranges).build());
@@ -54,7 +52,7 @@ TEST(ScanPlan, AMaskedBandStaysMasked) {
 TEST(ScanPlan, MakesScansByItsChances) {
     const auto config = ConfigMsgBuilder().proto(ProtoEnum::K7).wifiDet(true).uavDet(true).atten(4);
     ScanPlan plan;
-    plan.setByConfig(ConfigMsgBuilder(config).ranges(std::vector(2000, Range::STD_2400)).build());
+    plan.setByConfig(ConfigMsgBuilder(config).ranges(std::vector(2000, Sweep::STD_2400)).build());
     plan.setByAiPrior(AiPriorEnum::FIELD);
     std::default_random_engine engine(1);
     const auto scan = plan.makeScan(engine);

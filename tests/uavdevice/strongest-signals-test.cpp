@@ -1,8 +1,6 @@
 #include "common/strongest-signals.h"
 
-#include "scans.h"
-
-#include <gtest/gtest.h>
+#include "messages.h"
 
 TEST(StrongestSignals, AreAtMostThreeTheStrongestFirst) {
     const std::vector<std::pair<std::vector<float>, std::vector<float>>> cases = {
@@ -20,6 +18,6 @@ TEST(StrongestSignals, AreAtMostThreeTheStrongestFirst) {
         std::vector<float> named;
         for (const auto &result : strongestSignals(scan, 3, -105))
             named.push_back(result->getFreqMHz());
-        EXPECT_EQ(named, places) << testing::PrintToString(levels);
+        EXPECT_EQ(named, places) << PrintToString(levels);
     }
 }

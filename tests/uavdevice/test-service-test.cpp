@@ -1,11 +1,6 @@
 #include "simulator/test-service.h"
 
 #include "inbox.h"
-#include "msg-to-json-parser.h"
-#include "msg/all-messages.h"
-#include "wire-text.h"
-
-#include <gmock/gmock.h>
 
 /// The simulator with pauses that end at once. The pauses are noted.
 class TestServiceThreads : public testing::Test {
@@ -78,7 +73,7 @@ TEST_F(TestServiceThreads, ScansAsItsSettingsSay) {
         const auto results = inbox.next<ScanResultMsg>()->getFreqs();
         ASSERT_EQ(results.size(), 15U);
         EXPECT_EQ(results[0]->getRssi(), -105);
-        EXPECT_THAT(takePauses(), testing::Each(period));
+        EXPECT_THAT(takePauses(), Each(period));
         inbox.take();
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
         EXPECT_TRUE(inbox.take().empty()) << "stopped";

@@ -1,19 +1,12 @@
 #include "usb-tty.h"
 
-#include "in-order.h"
 #include "inbox.h"
-#include "msg/ok-msg.h"
 #include "pty-device.h"
 
 #include <fcntl.h>
-#include <future>
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/time.h>
-#include <thread>
 #include <unistd.h>
-
-using namespace std::chrono_literals;
 
 class UsbTtyThreads : public testing::Test {
 protected:
@@ -65,7 +58,7 @@ TEST_F(UsbTtyThreads, IsNoTerminalOfAProcessThatHasNone) {
             const bool opened = tty.openPort();
             std::_Exit(opened && open("/dev/tty", O_RDWR) < 0 ? 0 : 1);
         },
-        testing::ExitedWithCode(0), "");
+        ExitedWithCode(0), "");
 }
 
 TEST_F(UsbTtyThreads, ASecondPortTakesThePlaceOfTheFirst) {

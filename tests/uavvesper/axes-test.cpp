@@ -1,10 +1,7 @@
+#include "testing.h"
 #include "visuals/freq-axis.h"
 #include "visuals/level-axis.h"
 #include "visuals/time-axis.h"
-
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
 
 /// A tick as a text: its place, its number, and the place of the number if it has room.
 static std::vector<std::string> told(const std::vector<Tick> &ticks) {

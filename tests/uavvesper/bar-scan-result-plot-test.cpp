@@ -2,8 +2,6 @@
 
 #include "plots.h"
 
-#include <gtest/gtest.h>
-
 TEST(BarScanResultPlot, HasAllInItsPlaceInEverySize) {
     const Standing cases[] = {{{432, 324}, 10, 2, R"(
         10pt room 0 #000000:; '2400' 132,324

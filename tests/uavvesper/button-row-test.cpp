@@ -1,11 +1,7 @@
 #include "screen-fixture.h"
-#include "wire-text.h"
 
-#include <QFile>
 #include <QLibraryInfo>
 #include <QVersionNumber>
-
-using namespace testing;
 
 /// Qts after 6.4 place a centred item on a half or a whole pixel.
 static std::string placed(const std::string &look) {

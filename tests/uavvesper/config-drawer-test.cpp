@@ -2,8 +2,6 @@
 
 #include <QQmlComponent>
 
-using namespace testing;
-
 /// The look of a switch ("on", "off") or of a slider with its runner at x.
 static std::string lookOf(const QString &shown, const QString &opacity = "0.8") {
     QString look = "#808080 r15 60x30+0= *O, #ffffff r18.75 37.5x37.5+0= *O";

@@ -1,4 +1,4 @@
-#include "scans.h"
+#include "messages.h"
 #include "screen-driver.h"
 #include "usb-service.h"
 #include "visuals/freq-plot-model.h"
@@ -7,7 +7,6 @@
 #include <QQmlContext>
 #include <QQuickView>
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 /// The content of the page, row by row: the words, their colours, and the colour of the box around them.
 static std::string shown(QQuickView &view) {

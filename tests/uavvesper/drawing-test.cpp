@@ -1,9 +1,9 @@
 #include "visuals/drawing.h"
 
+#include "testing.h"
+
 #include <QImage>
 #include <QPainter>
-#include <gtest/gtest.h>
-#include <random>
 
 namespace {
 

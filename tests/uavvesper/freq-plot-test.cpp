@@ -2,10 +2,6 @@
 
 #include "plots.h"
 
-#include <gmock/gmock.h>
-
-using testing::EndsWith;
-
 using Scans = std::vector<std::vector<Found>>;
 
 TEST(FreqPlot, HasAllInItsPlaceInEverySizeAndLanguage) {

@@ -1,12 +1,7 @@
 #include "handlers/ai-prior-handler.h"
 #include "handlers/config-k7-handler.h"
 #include "handlers/config-msg-handler.h"
-#include "messages.h"
-#include "msg-to-json-parser.h"
-#include "signal-recorder.h"
-#include "wire-text.h"
-
-#include <gmock/gmock.h>
+#include "models.h"
 
 /// A settings front-end whose signals and messages are noted.
 template <typename Handler>

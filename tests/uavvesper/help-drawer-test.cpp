@@ -2,8 +2,6 @@
 
 #include <QDesktopServices>
 
-using namespace testing;
-
 class HelpDrawerTest : public ScreenFixture {
 protected:
     void SetUp() override { click("info"); }

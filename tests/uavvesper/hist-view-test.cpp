@@ -3,11 +3,6 @@
 #include "plots.h"
 #include "visuals/persistence-blocks.h"
 
-#include <QSignalSpy>
-#include <gmock/gmock.h>
-
-using testing::HasSubstr;
-
 TEST(HistView, HasAllInItsPlaceInEverySize) {
     const Standing cases[] = {{{128, 175}, 10, 2, R"(
         10pt room 21 #eeeeee:; '-95' 7,24; '-90' 7,49; '-85' 7,74; '-80' 7,99; '-75' 7,124

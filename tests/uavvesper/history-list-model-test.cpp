@@ -1,14 +1,6 @@
 #include "common/history-list-model.h"
 
-#include "messages.h"
-#include "scans.h"
-#include "signal-recorder.h"
-
-#include <QSignalSpy>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
+#include "models.h"
 
 TEST(HistoryListModel, DividesScansByBandAndStartsAnewWithEachConfig) {
     const MsgHolder config = held(R"({"type":"CONFIG","proto":"K6"})");

@@ -1,10 +1,5 @@
 #include "screen-fixture.h"
 
-#include <QAccessible>
-#include <regex>
-
-using namespace testing;
-
 static std::string nameOf(const QAccessibleInterface *of) {
     return of ? of->text(QAccessible::Name).toStdString() : "none";
 }

@@ -4,8 +4,6 @@
 #include "visuals/hist-view.h"
 
 #include <QFontMetrics>
-#include <QSignalSpy>
-#include <gtest/gtest.h>
 
 /// What holds for every view, whatever it shows.
 template <typename Plot>

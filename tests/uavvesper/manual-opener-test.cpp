@@ -1,14 +1,12 @@
 #include "manual-opener.h"
 
 #include "screen-driver.h"
+#include "testing.h"
 
 #include <QDesktopServices>
 #include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
-#include <gmock/gmock.h>
-
-using namespace testing;
 
 static QByteArray bytesOf(const QString &name) {
     QFile file(name);

@@ -1,14 +1,9 @@
 #include "common/history-metatype.h"
 #include "screen-fixture.h"
 
-#include <QAccessible>
 #include <QPainter>
-#include <QProcess>
 #include <QQuickPaintedItem>
-#include <QSignalSpy>
 #include <QtMath>
-
-using namespace testing;
 
 /// The rows of views on the application's window. B, F and H stand for bars, course and persistence.
 class PlotListTest : public ScreenFixture {

@@ -3,16 +3,10 @@
 #include "process-signals.h"
 #include "screen-fixture.h"
 
-#include <QFile>
-#include <QProcess>
 #include <QQmlContext>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <csignal>
-#include <thread>
-
-using namespace testing;
 
 /// The built program as a user starts it. The platform writes each picture of the window into the working
 /// directory and says so.

@@ -1,9 +1,6 @@
 #include "visuals/ranges-list-model.h"
 
-#include "messages.h"
-
-#include <QSignalSpy>
-#include <gtest/gtest.h>
+#include "models.h"
 
 class RangesListModelTest : public testing::Test {
 protected:

@@ -1,9 +1,8 @@
 #include "renderer.h"
 
+#include "testing.h"
+
 #include <QQuickWindow>
-#include <cstdio>
-#include <cstdlib>
-#include <gtest/gtest.h>
 
 /// In a process of its own, before it has a window. The platform is "offscreen".
 TEST(Renderer, DrawsWithoutOpenGLUnlessTheUserNamesAnotherRenderer) {
@@ -32,5 +31,5 @@ TEST(Renderer, DrawsWithoutOpenGLUnlessTheUserNamesAnotherRenderer) {
         }
         std::_Exit(failed != 0);
     };
-    EXPECT_EXIT(choose(), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(choose(), ExitedWithCode(0), "");
 }

@@ -1,7 +1,5 @@
 #include "screen-fixture.h"
 
-using namespace testing;
-
 class SettingsRowTest : public ScreenFixture {
 protected:
     const QQuickItem &control(const QString &word) const {

@@ -1,10 +1,9 @@
 #include "visuals/theme-data.h"
 
-#include "signal-recorder.h"
+#include "models.h"
 
 #include <QMetaProperty>
 #include <QRegularExpression>
-#include <gtest/gtest.h>
 
 /// The properties that are named so, in order.
 static std::string values(const ThemeData &theme, const QRegularExpression &names) {

@@ -1,9 +1,5 @@
 #include "screen-fixture.h"
 
-#include <QRegularExpression>
-
-using namespace testing;
-
 struct RussianScreensTest : ScreenFixture {
     RussianScreensTest()
         : ScreenFixture(RUSSIAN_DIR) {}

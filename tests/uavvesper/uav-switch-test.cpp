@@ -1,14 +1,12 @@
 #include "visuals/uav-switch.h"
 
+#include "models.h"
 #include "screen-driver.h"
-#include "signal-recorder.h"
 #include "visuals/uav-three-switch.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QQuickWindow>
-#include <QSignalSpy>
-#include <gtest/gtest.h>
 
 static QImage picture(QQuickPaintedItem &item) {
     item.setSize({160, 40});

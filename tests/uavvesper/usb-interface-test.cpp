@@ -1,14 +1,7 @@
 #include "usb-interface.h"
 
-#include "in-order.h"
 #include "inbox.h"
-#include "msg/state-msg.h"
 #include "usb-bus.h"
-#include "wire-text.h"
-
-#include <gmock/gmock.h>
-
-using namespace std::chrono_literals;
 
 class UsbInterfaceThreads : public testing::Test {
 protected:
@@ -94,7 +87,7 @@ TEST_F(UsbInterfaceThreads, ReadsOnAfterErrorsUntilItIsClosed) {
         link.stopReading();
         EXPECT_TRUE(inbox.take().empty());
     }
-    EXPECT_THAT(usb.readSizes, testing::ElementsAre(std::pair(512, 100U)));
+    EXPECT_THAT(usb.readSizes, ElementsAre(std::pair(512, 100U)));
 }
 
 TEST_F(UsbInterfaceThreads, AnyThreadMayAskForTheDeviceOrSend) {

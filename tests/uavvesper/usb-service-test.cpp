@@ -1,17 +1,9 @@
 #include "usb-service.h"
 
-#include "msg/all-messages.h"
+#include "models.h"
 #include "pty-device.h"
-#include "scans.h"
-#include "signal-recorder.h"
-#include "wire-text.h"
 
-#include <QSignalSpy>
 #include <QTest>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// Notes what it is asked for, each request as "TYPE time-out", and replies as told, by the type of the
 /// request.

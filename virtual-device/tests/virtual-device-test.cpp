@@ -2,19 +2,12 @@
 #include "device-options.h"
 #include "inbox.h"
 #include "line-tap.h"
-#include "msg-to-json-parser.h"
-#include "msg/all-messages.h"
 #include "replay.h"
 #include "usb-tty.h"
 
 #include <fcntl.h>
-#include <fstream>
-#include <gmock/gmock.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
-
-using namespace std::chrono_literals;
-using namespace testing;
 
 static DeviceOptions parse(std::vector<std::string> words) {
     words.insert(words.begin(), "virtual-device");

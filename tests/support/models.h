@@ -1,8 +1,15 @@
 #pragma once
 
+#include "messages.h"
+#include "msg-holder.h"
+
 #include <QMetaMethod>
-#include <QStringList>
-#include <utility>
+#include <QSignalSpy>
+
+/// A message from its JSON text.
+inline MsgHolder held(const std::string &text) {
+    return MsgHolder(Msg::parseJson(text));
+}
 
 /// Notes the name of every signal of the sender's own class, in order. A `QSignalSpy` sees one signal only,
 /// so not the order of several.

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <future>
+#include <gmock/gmock.h>
+#include <list>
+#include <map>
+#include <mutex>
+#include <random>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <thread>
+
+using namespace std::chrono_literals;
+using namespace testing;
+
+/// Calls both on two threads, the second one after the first one. Nothing else puts the two threads in order,
+/// so ThreadSanitizer sees each time that a lock is missing.
+inline void inOrder(const std::function<void()> &first, const std::function<void()> &second) {
+    std::atomic<bool> isDone{false};
+    std::thread other([&] {
+        first();
+        isDone.store(true, std::memory_order_relaxed);
+    });
+    while (!isDone.load(std::memory_order_relaxed))
+        std::this_thread::sleep_for(1ms);
+    second();
+    other.join();
+}
+
+/// While it lives, the process has a locale with a decimal comma. There are two: de_DE.UTF-8 and ru_RU.UTF-8,
+/// which also groups digits by a blank of several bytes.
+class CommaLocale {
+public:
+    explicit CommaLocale(const char *name = "de_DE.UTF-8") {
+        setenv("LOCPATH", TEST_LOCALE_DIR, 1);
+        EXPECT_NE(std::setlocale(LC_ALL, name), nullptr);
+        EXPECT_STREQ(std::localeconv()->decimal_point, ",");
+    }
+    ~CommaLocale() { std::setlocale(LC_ALL, "C"); }
+    CommaLocale(const CommaLocale &) = delete;
+    CommaLocale &operator=(const CommaLocale &) = delete;
+};
