@@ -21,6 +21,34 @@
 using namespace std::chrono_literals;
 using namespace testing;
 
+/// Waits for something that another thread brings about. The end of a hung test is its time-out.
+inline void await(const std::function<bool()> &isSo) {
+    while (!isSo())
+        std::this_thread::sleep_for(1ms);
+}
+
+/// The rows of a table, each with its columns, which tabs separate. A line that begins with '#' is a comment.
+inline std::vector<std::vector<std::string>> rowsOf(const char *table) {
+    std::ifstream file(table);
+    std::vector<std::vector<std::string>> rows;
+    for (std::string line, column; std::getline(file, line);)
+        if (line[0] != '#') {
+            rows.emplace_back();
+            for (std::istringstream columns(line); std::getline(columns, column, '\t');)
+                rows.back().push_back(column);
+            rows.back().resize(4); // an empty last column has no end
+        }
+    EXPECT_GT(rows.size(), 20U) << table;
+    return rows;
+}
+
+/// What an action writes to the standard output.
+inline std::string printedBy(const std::function<void()> &action) {
+    internal::CaptureStdout();
+    action();
+    return internal::GetCapturedStdout();
+}
+
 /// Calls both on two threads, the second one after the first one. Nothing else puts the two threads in order,
 /// so ThreadSanitizer sees each time that a lock is missing.
 inline void inOrder(const std::function<void()> &first, const std::function<void()> &second) {
@@ -29,8 +57,7 @@ inline void inOrder(const std::function<void()> &first, const std::function<void
         first();
         isDone.store(true, std::memory_order_relaxed);
     });
-    while (!isDone.load(std::memory_order_relaxed))
-        std::this_thread::sleep_for(1ms);
+    await([&] { return isDone.load(std::memory_order_relaxed); });
     second();
     other.join();
 }

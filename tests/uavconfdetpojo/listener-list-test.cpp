@@ -37,7 +37,7 @@ TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
             running = true;
             // A removal that does not wait would end long before this.
             for (int i = 0; i < 50 && !removed; ++i)
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+                std::this_thread::sleep_for(1ms);
             EXPECT_FALSE(removed);
             ended = true;
             if (throws)
@@ -45,8 +45,7 @@ TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
         });
         list.add(listener);
         list.add(std::make_shared<Listener>([&] { // the removal does not wait for this one
-            while (!removed)
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            await([&] { return removed.load(); });
         }));
         const auto fire = [&] {
             try {
@@ -55,8 +54,7 @@ TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
             }
         };
         std::thread firing(fire);
-        while (!running)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        await([&] { return running.load(); });
         std::thread removing([&] {
             list.remove(listener);
             EXPECT_TRUE(ended);
@@ -76,8 +74,8 @@ TEST(ListenerListThreads, RunningListenersMayRemoveEachOtherInARing) {
         std::atomic<int> running{0};
         for (int self = 0; self < count; ++self) {
             ring[self] = std::make_shared<Listener>([&, self] {
-                for (++running; running < count;)
-                    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+                ++running;
+                await([&] { return running == count; });
                 list.remove(ring[(self + 1) % count]);
             });
             list.add(ring[self]);

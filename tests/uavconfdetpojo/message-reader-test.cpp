@@ -12,10 +12,10 @@ public:
         nowMs += afterMs;
         reader.write(chunk, nowMs);
         std::string types;
-        testing::internal::CaptureStdout();
-        while (const auto msg = reader.next(nowMs))
-            types += MsgType(msg->getType()).name() + " ";
-        log = testing::internal::GetCapturedStdout();
+        log = printedBy([&] {
+            while (const auto msg = reader.next(nowMs))
+                types += MsgType(msg->getType()).name() + " ";
+        });
         return types;
     }
 

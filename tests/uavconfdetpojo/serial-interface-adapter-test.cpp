@@ -31,14 +31,6 @@ public:
         [this](const std::shared_ptr<Msg> &msg) { received.push_back(msg->getType()); });
 };
 
-/// What the action writes to standard output.
-template <class Action>
-std::string logOf(Action action) {
-    testing::internal::CaptureStdout();
-    action();
-    return testing::internal::GetCapturedStdout();
-}
-
 std::shared_ptr<Msg> request() {
     return MsgType(MsgTypeEnum::STATE).getRequestMsg();
 }
@@ -61,7 +53,7 @@ TEST(SerialInterfaceAdapter, TransactionTakesMessagesOfTheExpectedTypesOnly) {
     EXPECT_EQ(link.transaction(request(), 60s, {MsgTypeEnum::OK, MsgTypeEnum::STATE})->getType(),
               MsgTypeEnum::STATE);
     link.onSend = [&](auto, auto) { link.processNewData(OK), throwBroken(); };
-    EXPECT_EQ(logOf([&] { EXPECT_EQ(link.transaction(request(), 1ms, {MsgTypeEnum::STATE}), nullptr); }),
+    EXPECT_EQ(printedBy([&] { EXPECT_EQ(link.transaction(request(), 1ms, {MsgTypeEnum::STATE}), nullptr); }),
               "[ERROR] [RFD24] transaction 2 send ERROR: broken\n");
     link.onSend = [&](auto, auto timeout) { throw timeout; };
     EXPECT_THROW(link.transaction(request(), 1ms, MsgType::values()), std::chrono::milliseconds);
@@ -101,7 +93,8 @@ TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
     link.addListener(std::make_shared<MsgListener>([](auto) { throwBroken(); }));
     link.removeListener(link.collector);
     link.addListener(link.collector);
-    EXPECT_EQ(logOf([&] { link.processNewData(OK + "\"{"); }), "[ERROR] [RFD24] listener error: broken\n");
+    EXPECT_EQ(printedBy([&] { link.processNewData(OK + "\"{"); }),
+              "[ERROR] [RFD24] listener error: broken\n");
     const auto errors = std::make_shared<Errors>();
     link.addOnErrorListener(errors);
     link.setIoLogger(std::make_shared<IoLogger>([&](const std::string &text) { errors->texts += text; }));
@@ -113,7 +106,7 @@ TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
     link.fireError(&BROKEN);
     EXPECT_EQ(errors->texts.size(), 28U) << "both logs have ended";
     EXPECT_EQ(link.getRecvBuffer(), "");
-    logOf([&] { link.processNewData(STATE); });
+    printedBy([&] { link.processNewData(STATE); });
     EXPECT_EQ(link.received, (MsgTypes{MsgTypeEnum::OK, MsgTypeEnum::STATE}));
 }
 

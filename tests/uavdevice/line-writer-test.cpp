@@ -11,6 +11,8 @@
 /// The link to a detector, on a line that takes bytes like the system's driver.
 class LineThreads : public testing::Test {
 protected:
+    void SetUp() override { ASSERT_TRUE(tty.openPort()); }
+
     /// The bytes that the device gets for these requests.
     static std::string onTheWire(const std::vector<buffer_t> &requests) {
         std::string bytes;
@@ -18,6 +20,23 @@ protected:
             for (const char byte : request)
                 bytes += byte == '\n' ? "\r\n" : std::string(1, byte);
         return bytes;
+    }
+    /// Makes the device pause when it has a part of a request.
+    void pauseIn(const buffer_t &request) {
+        line.hold();
+        EXPECT_EQ(tty.sendWithin(request, 0ms), Sent::PART);
+    }
+    /// Acts while another thread waits with its request, and before that thread can go on.
+    void whileWaiting(const buffer_t &request, Sent sent, const std::function<void()> &act) {
+        std::promise<void> isWaiting, hasActed;
+        std::thread waiting([&] {
+            const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasActed.get_future().wait(); });
+            EXPECT_EQ(tty.sendWithin(request, 24h), sent);
+        });
+        isWaiting.get_future().wait();
+        act();
+        hasActed.set_value();
+        waiting.join();
     }
     /// Makes the device take the pieces under way when the program asks for them.
     void releaseAtTheEnd() {
@@ -37,7 +56,6 @@ protected:
 };
 
 TEST_F(LineThreads, ASlowDeviceGetsEachRequestWholeAndInOrder) {
-    ASSERT_TRUE(tty.openPort());
     for (const auto pace : {0us, 100us, 1000us}) {
         line.setPace(pace);
         device.clearRecord();
@@ -50,7 +68,6 @@ TEST_F(LineThreads, ASlowDeviceGetsEachRequestWholeAndInOrder) {
 
 /// A device that pauses while it writes its flash.
 TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
-    ASSERT_TRUE(tty.openPort());
     line.hold();
     EXPECT_EQ(tty.sendWithin(config, 20ms), Sent::PART);
     EXPECT_EQ(tty.sendWithin(ask, 5ms), Sent::NOTHING);
@@ -59,8 +76,7 @@ TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
     line.release();
     waiting.join();
     EXPECT_TRUE(device.waitForRequests(2));
-    line.hold();
-    EXPECT_EQ(tty.sendWithin(config, 5ms), Sent::PART);
+    pauseIn(config);
     line.release(); // without another request
     EXPECT_TRUE(device.waitForRequests(3));
     EXPECT_EQ(device.received(), onTheWire({config, ask, config}));
@@ -68,7 +84,6 @@ TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
 
 /// The line gets room between the program's looks at it.
 TEST_F(LineThreads, NothingOvertakesARestThatBecomesShorter) {
-    ASSERT_TRUE(tty.openPort());
     line.hold();
     line.makeRoomAfterRefusals();
     EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
@@ -80,20 +95,12 @@ TEST_F(LineThreads, NothingOvertakesARestThatBecomesShorter) {
 
 /// The thread that asked wakes up late, when another request has begun.
 TEST_F(LineThreads, ARequestThatHasLeftIsWholeWhateverFollows) {
-    ASSERT_TRUE(tty.openPort());
     line.hold();
-    std::promise<void> isWaiting, hasNextBegun;
-    std::thread waiting([&] {
-        const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasNextBegun.get_future().wait(); });
-        EXPECT_EQ(tty.sendWithin(config, 60s), Sent::WHOLE);
+    whileWaiting(config, Sent::WHOLE, [this] {
+        line.release();
+        EXPECT_TRUE(device.waitForRequests(1));
+        pauseIn(jammers);
     });
-    isWaiting.get_future().wait();
-    line.release();
-    EXPECT_TRUE(device.waitForRequests(1));
-    line.hold();
-    EXPECT_EQ(tty.sendWithin(jammers, 0ms), Sent::PART);
-    hasNextBegun.set_value();
-    waiting.join();
     line.release();
 }
 
@@ -108,8 +115,7 @@ TEST_F(LineThreads, WaitingForRoomAndForTheRestHaveOneTimeOut) {
     const auto pieces = 2 * std::count(config.begin(), config.end(), '\n') + 1;
     const auto inTime = [&] {
         EXPECT_TRUE(tty.openPort());
-        line.hold();
-        EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
+        pauseIn(config);
         const auto start = std::chrono::steady_clock::now();
         const auto left = std::make_shared<std::atomic<long>>(pieces + 1); // and a piece of the next request
         line.takeWhile(
@@ -127,7 +133,6 @@ TEST_F(LineThreads, WaitingForRoomAndForTheRestHaveOneTimeOut) {
 
 /// A descriptor that has gone may be that of a file since.
 TEST_F(LineThreads, NothingIsWrittenWhereTheLineWas) {
-    ASSERT_TRUE(tty.openPort());
     EXPECT_EQ(tty.sendWithin(ask, 60s), Sent::WHOLE);
     tty.serialClose();
     std::vector<std::array<int, 2>> pipes(8);
@@ -142,16 +147,13 @@ TEST_F(LineThreads, NothingIsWrittenWhereTheLineWas) {
 }
 
 TEST_F(LineThreads, RoomIsWhatAWriteTakes) {
-    ASSERT_TRUE(tty.openPort());
     line.hold();
     for (const Sent sent : {Sent::WHOLE, Sent::WHOLE, Sent::WHOLE, Sent::PART, Sent::NOTHING})
         EXPECT_EQ(tty.sendWithin(ask, 5ms), sent);
 }
 
 TEST_F(LineThreads, TheEndWaitsForWhatADeviceTakesLate) {
-    ASSERT_TRUE(tty.openPort());
-    line.hold();
-    EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
+    pauseIn(config);
     releaseAtTheEnd();
     tty.serialClose();
     EXPECT_TRUE(device.waitForRequests(1));
@@ -175,7 +177,6 @@ TEST_F(LineThreads, TheEndGoesOnReading) {
 }
 
 TEST_F(LineThreads, NothingBeginsAtTheEnd) {
-    ASSERT_TRUE(tty.openPort());
     line.hold();
     EXPECT_EQ(tty.sendWithin(ask, 0ms), Sent::WHOLE);
     std::promise<void> isEnding;
@@ -197,8 +198,7 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
     const auto hang = [this] {
         tty.setPortName(device.terminal());
         EXPECT_TRUE(tty.openPort());
-        line.hold();
-        EXPECT_EQ(tty.sendWithin(config, 0ms), Sent::PART);
+        pauseIn(config);
     };
     const auto isNextOne = [this](PtyDevice &next) {
         next.clearRecord();
@@ -207,25 +207,13 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
         EXPECT_EQ(next.received(), onTheWire({ask}));
         tty.serialClose();
     };
-    /// Ends a line while a request waits for room. The request is never sent.
-    const auto endsWait = [this](auto end) {
-        std::promise<void> isWaiting, hasEnded;
-        std::thread waiting([&] {
-            const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasEnded.get_future().wait(); });
-            EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED);
-        });
-        isWaiting.get_future().wait();
-        end();
-        hasEnded.set_value();
-        waiting.join();
-    };
     const auto looks = std::make_shared<std::atomic<int>>(0); // one in a millisecond at most
     line.whenAsked([looks] { ++*looks; });
     hang();
-    endsWait([this] { tty.serialClose(); });
+    whileWaiting(ask, Sent::CLOSED, [this] { tty.serialClose(); });
     EXPECT_LE(*looks, 520) << "half a second";
     hang();
-    endsWait([&] {
+    whileWaiting(ask, Sent::CLOSED, [&] {
         tty.setPortName(other.terminal());
         EXPECT_TRUE(tty.openPort());
     });
@@ -249,6 +237,7 @@ TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
 /// The same with the connector, which sends the requests of a connection.
 class ConnectorLineThreads : public LineThreads {
 protected:
+    void SetUp() override {}
     void connect() {
         for (int attempt = 0; attempt < 20 && connector.isClosed(); ++attempt)
             connector.connectInterface();

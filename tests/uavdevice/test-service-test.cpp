@@ -110,10 +110,7 @@ TEST(ScannerThreads, SettingsChangeWhileItScansAndASecondStopInARowThrows) {
     scanner.start();
     scanner.start();
     // ThreadSanitizer sees a missing lock if the next scan comes before this thread takes another one.
-    const auto awaitScan = [&] {
-        for (const int seen = scans; scans < seen + 2;)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    };
+    const auto awaitScan = [&] { await([&, seen = scans.load()] { return scans >= seen + 2; }); };
     scanner.setByConfig(ConfigMsgBuilder().ranges({FreqModeEnum::STD_2400}).share());
     awaitScan();
     scanner.setByAiPrior(AiPriorMsgBuilder().aiPrior(AiPriorEnum::FIELD).share());
@@ -131,13 +128,11 @@ TEST(ScannerThreads, AStopDuringAScanWaitsForNoPause) {
     int pauses = 0;
     Scanner scanner(std::make_shared<MsgListener>([&](auto) {
                         scans = true;
-                        while (scanner.isActive())
-                            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+                        await([&] { return !scanner.isActive(); });
                     }),
                     [&](auto) { ++pauses; });
     scanner.start();
-    while (!scans)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    await([&] { return scans.load(); });
     scanner.stop();
     EXPECT_EQ(pauses, 0);
 }

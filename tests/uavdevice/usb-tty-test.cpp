@@ -39,14 +39,14 @@ TEST_F(UsbTtyThreads, SetsTheLineUpAndLeavesTheRest) {
 }
 
 TEST_F(UsbTtyThreads, TellsWhyAPortDoesNotOpen) {
-    testing::internal::CaptureStdout();
-    for (const char *port : {"", "/nowhere", "/dev/null"}) {
-        tty.setPortName(port);
-        EXPECT_FALSE(tty.openPort() || !tty.isClosed());
-    }
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "Error 2 from open: No such file or directory\n"
-              "Error 25 from tcgetattr: Inappropriate ioctl for device\n");
+    const auto open = [this] {
+        for (const char *port : {"", "/nowhere", "/dev/null"}) {
+            tty.setPortName(port);
+            EXPECT_FALSE(tty.openPort() || !tty.isClosed());
+        }
+    };
+    EXPECT_EQ(printedBy(open), "Error 2 from open: No such file or directory\n"
+                               "Error 25 from tcgetattr: Inappropriate ioctl for device\n");
 }
 
 /// Bytes 0x03 and 0x1c from a controlling terminal would end the process.
@@ -139,8 +139,7 @@ TEST_F(UsbTtyThreads, OpensOnlyWhenAnotherThreadHasClosed) {
     device.send(std::make_shared<OkMsg>());
     isListening.get_future().wait();
     std::thread closing([this] { tty.serialClose(); });
-    while (!tty.isClosed())
-        std::this_thread::sleep_for(1ms);
+    await([this] { return tty.isClosed(); });
     auto opening = std::async(std::launch::async, [this] { return tty.openPort(); });
     EXPECT_EQ(opening.wait_for(50ms), std::future_status::timeout);
     mayReturn.set_value();

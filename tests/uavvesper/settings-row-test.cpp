@@ -98,9 +98,8 @@ TEST_F(SettingsRowTest, FollowsTheGenerationAndOutlivesRangesOfNoBand) {
         {R"("K1","ranges":["STD_4900"])", "2.4:0 4.9:1 5.8:0 Sens: High|AI: None|", ""},
         {R"("K7","ranges":[])", "1.2:0 2.4:0 4.9:0 5.8:0 Sens: High|AI: Default|", ""}};
     for (const auto &[config, shown, logged] : configs) {
-        internal::CaptureStdout();
-        deviceSays(R"({"type":"CONFIG","proto":)" + std::string(config) + "}");
-        EXPECT_THAT(internal::GetCapturedStdout(), HasSubstr(logged));
+        const std::string text = R"({"type":"CONFIG","proto":)" + std::string(config) + "}";
+        EXPECT_THAT(printedBy([&] { deviceSays(text); }), HasSubstr(logged));
         EXPECT_EQ(words(), shown);
     }
     const MsgHolder config(Msg::parseJson(R"({"type":"CONFIG","ranges":["STD_5800"]})"));

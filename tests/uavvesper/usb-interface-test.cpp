@@ -5,12 +5,6 @@
 
 class UsbInterfaceThreads : public testing::Test {
 protected:
-    static std::string printedBy(const std::function<void()> &action) {
-        testing::internal::CaptureStdout();
-        action();
-        return testing::internal::GetCapturedStdout();
-    }
-
     UsbBus usb;
     Inbox inbox;
 };
