@@ -43,10 +43,12 @@ void Screens::connect() {
     }
 }
 
-void Screens::click(const QString &word) {
-    if (!driver->control(word))
-        throw std::runtime_error("Not on the screen: " + word.toStdString());
-    driver->click(*driver->control(word));
+void Screens::click(const QString &word, int times) {
+    for (int time = 0; time < times; ++time) {
+        if (!driver->control(word))
+            throw std::runtime_error("Not on the screen: " + word.toStdString());
+        driver->click(*driver->control(word));
+    }
 }
 
 void Screens::choose(const QString &word) {

@@ -36,9 +36,9 @@ public:
     /// AI_PRIOR, STATE or SCAN_RESULT.
     const int &taken(MsgTypeEnum type) { return counts[type]; }
 
-    /// Clicks the visible control with this word or picture on it. Throws std::runtime_error if there is
-    /// none.
-    void click(const QString &word);
+    /// Clicks the visible control with this word or picture on it, several times if asked. Throws
+    /// std::runtime_error if there is none.
+    void click(const QString &word, int times = 1);
     /// Clicks an entry of the open dialog, or closes the dialog by a click on another word.
     void choose(const QString &word);
 

@@ -14,10 +14,6 @@ static std::string placed(const std::string &look) {
 class ButtonRowTest : public ScreenFixture {
 protected:
     std::string look(const QString &word) const { return driver->look(*driver->control(word)); }
-    void clickHelp(int times) {
-        while (times-- > 0)
-            click("info");
-    }
 };
 
 TEST_F(ButtonRowTest, ShowsWhatWorks) {
@@ -94,14 +90,14 @@ TEST_F(ButtonRowTest, TellsTheBatteryAndTheMaskAndDoesWhatItsButtonsSay) {
 
 TEST_F(ButtonRowTest, TwelveClicksOnHelpStartTheSimulatorWhileNothingIsConnected) {
     plugIn(ProtoEnum::K6);
-    clickHelp(11);
+    click("info", 11);
     connect();
-    clickHelp(2);
+    click("info", 2);
     disconnect();
-    clickHelp(11);
+    click("info", 11);
     EXPECT_FALSE(isConnected()) << "a click while connected restarts the count";
     for (const int clicks : {1, 12}) {
-        clickHelp(clicks);
+        click("info", clicks);
         EXPECT_TRUE(objects.usbService.inTesting());
         EXPECT_EQ(look("TEST MODE"), "'TEST MODE' #ff0000 25");
         EXPECT_EQ(driver->find("Announcer")->property("words"), "Connected. Test mode");
