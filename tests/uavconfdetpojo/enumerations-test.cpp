@@ -1,8 +1,5 @@
 #include "messages.h"
 
-using FM = FreqModeEnum;
-using MM = MasterFreqModeEnum;
-
 namespace {
 
 /// Texts of the enumerators in order, joined by blanks.
@@ -11,6 +8,15 @@ std::string each(Text text) {
     std::string all;
     for (const auto value : Class::values())
         all += (all.empty() ? "" : " ") + text(Class(value));
+    return all;
+}
+
+/// The numbers of enumerators.
+template <typename Enum>
+std::string numbers(const std::vector<Enum> &enumerators) {
+    std::string all;
+    for (const Enum enumerator : enumerators)
+        all += std::to_string(static_cast<int>(enumerator));
     return all;
 }
 
@@ -78,46 +84,23 @@ TEST(Enumerations, SweepRangesHaveTheirPlans) {
 }
 
 TEST(Enumerations, GenerationsHaveTheirBandsRangesAndAiModes) {
-    for (const Proto proto : Proto::values()) {
-        SCOPED_TRACE(proto.name());
-        const bool old = proto.getValue() < ProtoEnum::K7;
-        EXPECT_EQ(proto.getMasterModes(),
-                  old ? std::vector<MM>({MM::R_2400, MM::R_4900, MM::R_5800}) : MasterFreqMode::values());
-        std::vector<FM> ranges;
-        for (const MM band : proto.getMasterModes())
-            for (const FM range : MasterFreqMode(band).getModes())
-                ranges.push_back(range);
-        EXPECT_EQ(proto.getFreqModes(), ranges) << "CUSTOM belongs to no generation";
-        if (proto.getValue() == ProtoEnum::K1)
-            EXPECT_THAT(proto.getAiPriors(), IsEmpty());
-        else
-            EXPECT_THAT(proto.getAiPriors(),
-                        ElementsAre(AiPriorEnum::DEFAULT, AiPriorEnum::FIELD, AiPriorEnum::CITY));
-    }
-    EXPECT_THAT(MasterFreqMode(MM::R_1200).getModes(), ElementsAre(FM::STD_1200, FM::EXT_1200));
-    EXPECT_THAT(MasterFreqMode(MM::R_5800).getModes(), ElementsAre(FM::STD_5800, FM::EXT_5800));
-    EXPECT_EQ(
-        each<MasterFreqMode>([](MasterFreqMode band) { return FreqMode(band.getMaxRangeFreqMode()).name(); }),
-        "EXT_1200 EXT_2400 EXT_4900 EXT_5800");
+    EXPECT_EQ(each<Proto>([](Proto proto) { return numbers(proto.getMasterModes()); }), "123 123 0123 0123");
+    EXPECT_EQ(each<Proto>([](Proto proto) { return numbers(proto.getFreqModes()); }),
+              "234567 234567 01234567 01234567")
+        << "CUSTOM belongs to no generation";
+    EXPECT_EQ(each<Proto>([](Proto proto) { return "-" + numbers(proto.getAiPriors()); }),
+              "- -123 -123 -123");
+    using Band = MasterFreqMode;
+    EXPECT_EQ(each<Band>([](Band band) { return numbers(band.getModes()); }), "01 23 45 67");
+    EXPECT_EQ(each<Band>([](Band band) { return FreqMode(band.getMaxRangeFreqMode()).name(); }),
+              "EXT_1200 EXT_2400 EXT_4900 EXT_5800");
 }
 
 TEST(Enumerations, MessageTypesKnowTheirGenerationClassAndRequest) {
-    const auto ofGeneration = [](ProtoEnum since) {
-        std::string all;
-        for (const MsgType type : MsgType::values())
-            all += type.getSinceProto() == since ? type.name() + " " : "";
-        return all;
-    };
-    EXPECT_EQ(ofGeneration(ProtoEnum::K6), "SDR_MODE SDR_DATA GET_AI_PRIOR AI_PRIOR ");
-    EXPECT_EQ(ofGeneration(ProtoEnum::K7),
-              "SET_MASK_RANGES WRITE_EXT_MEM GET_CONFIG_FREQ_CALIB CONFIG_FREQ_CALIB "
-              "GET_CONFIG_K7 CONFIG_K7 GET_STATE_K7 STATE_K7 TO_APP ");
-    EXPECT_EQ(ofGeneration(ProtoEnum::K7EW),
-              "GET_EW_HARDWARE EW_HARDWARE GET_CONFIG_EW CONFIG_EW SWITCH_EW_OUTPUT GET_EW_OUTPUT_STATES "
-              "EW_OUTPUT_STATES GET_FREQ_RANGE_ATTEN FREQ_RANGE_ATTEN AI_MODE AI_DATA GET_BLUETOOTH_MAC "
-              "BLUETOOTH_MAC APPLY_EXT_MEM ");
+    std::vector<ProtoEnum> since;
     std::string requests;
     for (const MsgType type : MsgType::values()) {
+        since.push_back(type.getSinceProto());
         const auto request = type.getRequestMsg();
         EXPECT_EQ(request, type.getRequestMsg()) << "one request, shared by all";
         if (request)
@@ -125,6 +108,7 @@ TEST(Enumerations, MessageTypesKnowTheirGenerationClassAndRequest) {
         EXPECT_EQ(MsgType::getParseFunc(type.getValue())("{}")->getType(), type.getValue());
         EXPECT_EQ(MsgType::getParseFunc(type.getValue())("[]"), nullptr);
     }
+    EXPECT_EQ(numbers(since), "00000000000200000000000111122222222333333333333330");
     EXPECT_EQ(requests, "GET_CONFIG GET_STATE GET_CONFIG_RANGES GET_VERS GET_AI_PRIOR GET_CONFIG_FREQ_CALIB "
                         "GET_CONFIG_K7 GET_STATE_K7 GET_EW_HARDWARE GET_CONFIG_EW GET_EW_OUTPUT_STATES "
                         "GET_BLUETOOTH_MAC ")
