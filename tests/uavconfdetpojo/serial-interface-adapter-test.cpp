@@ -86,7 +86,10 @@ TEST(SerialInterfaceAdapterThreads, TransactionWaitsForAReplyFromWhenItsRequestH
 
 TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
     struct Errors : OnErrorListener {
-        void onError(const std::exception *error) override { texts += error->what(); }
+        explicit Errors(Link &on)
+            : link(on) {}
+        void onError(const std::exception *error) override { texts += error->what() + link.getRecvBuffer(); }
+        Link &link;
         std::string texts;
     };
     Link link;
@@ -95,16 +98,16 @@ TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
     link.addListener(link.collector);
     EXPECT_EQ(printedBy([&] { link.processNewData(OK + "\"{"); }),
               "[ERROR] [RFD24] listener error: broken\n");
-    const auto errors = std::make_shared<Errors>();
+    const auto errors = std::make_shared<Errors>(link);
     link.addOnErrorListener(errors);
     link.setIoLogger(std::make_shared<IoLogger>([&](const std::string &text) { errors->texts += text; }));
     link.processNewData(" \"");
     link.fireError(&BROKEN);
-    EXPECT_EQ(errors->texts, " \"broken<<<error: broken>>>\n");
+    EXPECT_EQ(errors->texts, " \"broken" + OK + "\"{ \"<<<error: broken>>>\n") << "and then drops the bytes";
     link.setIoLogger(nullptr);
     link.removeOnErrorListener(errors);
     link.fireError(&BROKEN);
-    EXPECT_EQ(errors->texts.size(), 28U) << "both logs have ended";
+    EXPECT_EQ(errors->texts.size(), 45U) << "both logs have ended";
     EXPECT_EQ(link.getRecvBuffer(), "");
     printedBy([&] { link.processNewData(STATE); });
     EXPECT_EQ(link.received, (MsgTypes{MsgTypeEnum::OK, MsgTypeEnum::STATE}));

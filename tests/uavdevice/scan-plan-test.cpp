@@ -18,7 +18,7 @@ TEST(ScanPlan, FollowsTheSettings) {
                           Case{DetModeEnum::AUTO, 10, true, false, AiPriorEnum::FIELD, 2000, -105, 20, 0, 15},
                           Case{DetModeEnum::CONT, 11, false, true, AiPriorEnum::FIELD, 500, -105, 0, 10, 15},
                           Case{DetModeEnum::CONT, 1, true, true, AiPriorEnum::CITY, 500, -78, 5, 10, 10},
-                          Case{DetModeEnum::CONT, 0, true, true, AiPriorEnum::NONE, 500, -75, 10, 5, 5}}) {
+                          Case{DetModeEnum::CONT, -1, true, true, AiPriorEnum::NONE, 500, -72, 10, 5, 5}}) {
         auto config = ConfigMsgBuilder().mode(c.mode).atten(c.atten).wifiDet(c.wifiDet).uavDet(c.uavDet);
         ScanPlan plan;
         const auto values = [&] {

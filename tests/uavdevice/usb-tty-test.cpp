@@ -122,6 +122,18 @@ TEST_F(UsbTtyThreads, ChildrenDoNotInheritTheLine) {
     }
 }
 
+TEST_F(UsbTtyThreads, DropsBytesAfterAnInterruptedCall) {
+    Inbox inbox;
+    tty.addListener(inbox.listener);
+    tty.addListener(std::make_shared<MsgListener>([](auto) { errno = EINTR; }));
+    ASSERT_TRUE(tty.openPort());
+    device.send(std::make_shared<OkMsg>());
+    EXPECT_TRUE(inbox.next<OkMsg>());
+    device.send(std::make_shared<OkMsg>());
+    std::this_thread::sleep_for(50ms); // for them to come, if they do
+    EXPECT_THAT(inbox.take(), IsEmpty());
+}
+
 TEST_F(UsbTtyThreads, AnyThreadMayAskForTheNameOrSetIt) {
     const auto set = [this] { tty.setPortName("/dev/ttyACM0"); };
     inOrder(

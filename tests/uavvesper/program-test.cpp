@@ -109,6 +109,8 @@ TEST(Program, FitsItsWindowIntoTheScreensFreeArea) {
         EXPECT_TRUE(ScreenDriver::waitFor([&] { return (row = lastDeadRow()) > 560 && row < 590; })) << row;
         program.terminate();
         EXPECT_TRUE(program.waitForFinished());
+        introduceProgram();
+        EXPECT_FALSE(QGuiApplication::windowIcon().pixmap(48).isNull());
         return;
     }
     struct {

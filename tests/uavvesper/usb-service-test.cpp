@@ -123,7 +123,8 @@ TEST_F(UsbServiceThreads, TheMaskIsTheDevicesAnswer) {
 
 TEST_F(UsbServiceThreads, AFactoryResetReadsBackWhatTheDeviceTook) {
     line.replies = {{MsgTypeEnum::CONFIG, ok}, {MsgTypeEnum::CONFIG_K7, fail}, {MsgTypeEnum::AI_PRIOR, ok}};
-    service.resetToDefaults(static_cast<int>(ProtoEnum::K7EW)); // CONFIG_EW is not answered
+    EXPECT_EQ(printedBy([this] { service.resetToDefaults(static_cast<int>(ProtoEnum::K7EW)); }),
+              "[ERROR] [UsbService] Ошибка: busy\n"); // CONFIG_EW is not answered
     EXPECT_EQ(
         line.take(),
         "CONFIG 5, GET_CONFIG 100, CONFIG_K7 5, CONFIG_EW 5, AI_PRIOR 5, GET_AI_PRIOR 100, GET_CONFIG 100");
