@@ -14,7 +14,8 @@ TEST(ListenerList, ListenersChangeTheListWhileTheyAreCalled) {
     const auto fire = [&] { list.fire([](const Listener &listener) { listener(); }); };
     const auto a = make('a'), d = make('d'), e = make('e');
     std::shared_ptr<Listener> b = make(
-        'b', [&] { list.remove(b), b.reset(); });
+        'b', [&, end = std::shared_ptr<void>(
+                     &list, [&](auto) { list.remove(e); })] { list.remove(b), b.reset(); });
     const auto c = make('c', [&] { list.remove(a), list.remove(d), list.add(e), list.add(e); });
     for (const auto &listener : {a, b, c, d})
         list.add(listener);

@@ -52,8 +52,8 @@ TEST(SerialInterfaceAdapter, TransactionTakesMessagesOfTheExpectedTypesOnly) {
     };
     EXPECT_EQ(link.transaction(request(), 60s, {MsgTypeEnum::OK, MsgTypeEnum::STATE})->getType(),
               MsgTypeEnum::STATE);
-    link.onSend = [&](auto, auto) { link.processNewData(OK), throwBroken(); };
-    EXPECT_EQ(printedBy([&] { EXPECT_EQ(link.transaction(request(), 1ms, {MsgTypeEnum::STATE}), nullptr); }),
+    link.onSend = [&](auto, auto) { link.processNewData(STATE), throwBroken(); };
+    EXPECT_EQ(printedBy([&] { EXPECT_NE(link.transaction(request(), 1ms, {MsgTypeEnum::STATE}), nullptr); }),
               "[ERROR] [RFD24] transaction 2 send ERROR: broken\n");
     link.onSend = [&](auto, auto timeout) { throw timeout; };
     EXPECT_THROW(link.transaction(request(), 1ms, MsgType::values()), std::chrono::milliseconds);
