@@ -25,8 +25,8 @@ protected:
     }
 
     static std::string scanOfOne() {
-        return R"({"type":"SCAN_RESULT","freqs":[{"freqMHz":2400.6,"rssi":-80.4,"type":"FPV"},)"
-               R"({"freqMHz":2440,"rssi":-70,"type":"NONE"}]})";
+        return R"({"type":"SCAN_RESULT","freqs":[{"freqMHz":5800.6,"rssi":-80.4,"type":"FPV"},)"
+               R"({"freqMHz":5840,"rssi":-70,"type":"NONE"}]})";
     }
 
     /// The visible views from top to bottom.
@@ -144,16 +144,16 @@ TEST_F(PlotListTest, APictureWithoutScansFadesUntilTheNextOneAndEachViewTellsIts
         page.setProperty("silenceMs", 15000);
     };
     EXPECT_EQ(told(), "Bars 1.2: No signal\nBars 2.4: No signal\nBars 4.9: No signal\nBars 5.8: No signal\n");
-    swipe(1, -101);
+    swipe(3, -101);
     deviceSays(scanOfOne());
-    const std::string live = "Bars 1.2: No signal\nCourse 2.4: Strongest: 2401 MHz, -80 dB, FPV\n"
-                             "Bars 4.9: No signal\nBars 5.8: No signal\n";
+    const std::string live = "Bars 1.2: No signal\nBars 2.4: No signal\nBars 4.9: No signal\n"
+                             "Course 5.8: Strongest: 5801 MHz, -80 dB, FPV\n";
     EXPECT_EQ(told(), live);
     waitUntilSilent();
     EXPECT_EQ(driver->find("Announcer")->property("words"), "No scan for 0.001 seconds");
     EXPECT_EQ(opacityOf(driver->control("usb")), 1);
     EXPECT_THAT(told(),
-                HasSubstr("\nCourse 2.4: No scan for 15 seconds. Strongest: 2401 MHz, -80 dB, FPV\n"));
+                HasSubstr("\nCourse 5.8: No scan for 15 seconds. Strongest: 5801 MHz, -80 dB, FPV\n"));
     deviceSays(scanOfOne());
     EXPECT_EQ(opacityOf(views().at(0)), 1);
     EXPECT_EQ(told(), live);
@@ -161,6 +161,12 @@ TEST_F(PlotListTest, APictureWithoutScansFadesUntilTheNextOneAndEachViewTellsIts
     disconnect();
     connect();
     EXPECT_EQ(opacityOf(views().at(0)), 1) << "a new connection has its own time";
+    page.setProperty("silenceMs", 400);
+    QTest::qWait(200);
+    const auto start = std::chrono::steady_clock::now();
+    deviceSays(scanOfOne());
+    EXPECT_TRUE(ScreenDriver::waitFor([&] { return opacityOf(views().at(0)) == 0.4; }));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 350ms) << "each scan has its own, too";
 }
 
 /// Each scale in a process of its own: Qt takes it when it starts.
