@@ -27,6 +27,11 @@ inline void await(const std::function<bool()> &isSo) {
         std::this_thread::sleep_for(1ms);
 }
 
+/// Runs an action on another thread. The end of the object waits for the action's end.
+[[nodiscard]] inline std::future<void> meanwhile(std::function<void()> action) {
+    return std::async(std::launch::async, std::move(action));
+}
+
 /// The rows of a table, each with its columns, which tabs separate. A line that begins with '#' is a comment.
 inline std::vector<std::vector<std::string>> rowsOf(const char *table) {
     std::ifstream file(table);
@@ -53,13 +58,12 @@ inline std::string printedBy(const std::function<void()> &action) {
 /// so ThreadSanitizer sees each time that a lock is missing.
 inline void inOrder(const std::function<void()> &first, const std::function<void()> &second) {
     std::atomic<bool> isDone{false};
-    std::thread other([&] {
+    const auto other = meanwhile([&] {
         first();
         isDone.store(true, std::memory_order_relaxed);
     });
     await([&] { return isDone.load(std::memory_order_relaxed); });
     second();
-    other.join();
 }
 
 /// While it lives, the process has a locale with a decimal comma. There are two: de_DE.UTF-8 and ru_RU.UTF-8,

@@ -66,9 +66,8 @@ TEST(Json11Threads, OfEqualKeysTheLastCountsForEveryReaderAtOnce) {
             EXPECT_EQ(json.object_items().at("a"), 3);
             EXPECT_EQ(json["b"].dump(), R"({"c": 2})");
         };
-        std::thread other(read);
+        const auto other = meanwhile(read);
         read();
-        other.join();
     }
 }
 

@@ -36,9 +36,7 @@ TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
         const auto listener = std::make_shared<Listener>([&] {
             again = ended.load();
             running = true;
-            // A removal that does not wait would end long before this.
-            for (int i = 0; i < 50 && !removed; ++i)
-                std::this_thread::sleep_for(1ms);
+            std::this_thread::sleep_for(50ms); // a removal that does not wait would end long before this
             EXPECT_FALSE(removed);
             ended = true;
             if (throws)
@@ -54,15 +52,12 @@ TEST(ListenerListThreads, RemovalWaitsForTheRunningListener) {
             } catch (int) {
             }
         };
-        std::thread firing(fire);
+        auto firing = meanwhile(fire);
         await([&] { return running.load(); });
-        std::thread removing([&] {
-            list.remove(listener);
-            EXPECT_TRUE(ended);
-            removed = true;
-        });
-        firing.join();
-        removing.join();
+        list.remove(listener);
+        EXPECT_TRUE(ended);
+        removed = true;
+        firing.wait();
         fire();
         EXPECT_FALSE(again);
     }
@@ -84,11 +79,10 @@ TEST(ListenerListThreads, RunningListenersMayRemoveEachOtherInARing) {
         const auto fireOne = [&](int self) {
             list.fire([&](const Listener &listener) { &listener == ring[self].get() ? listener() : void(); });
         };
-        std::vector<std::thread> threads;
+        std::vector<std::future<void>> rounds;
         for (int self = 0; self < count; ++self)
-            threads.emplace_back(fireOne, self);
-        for (std::thread &thread : threads)
-            thread.join();
+            rounds.push_back(meanwhile([&, self] { fireOne(self); }));
+        rounds.clear();
         list.fire([](const Listener &) { ADD_FAILURE() << "all are gone"; });
     }
 }

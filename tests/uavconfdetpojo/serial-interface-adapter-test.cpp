@@ -63,16 +63,15 @@ TEST(SerialInterfaceAdapter, TransactionTakesMessagesOfTheExpectedTypesOnly) {
 
 TEST(SerialInterfaceAdapterThreads, TransactionWaitsForAReplyFromWhenItsRequestHasLeft) {
     Link link;
-    std::thread device;
+    std::future<void> device;
     link.onSend = [&](auto, auto timeout) {
         std::this_thread::sleep_for(timeout);
-        device = std::thread([&] {
+        device = meanwhile([&] {
             std::this_thread::sleep_for(50ms);
             link.processNewData(STATE);
         });
     };
     EXPECT_NE(link.transaction(request(), 500ms, MsgType::values()), nullptr);
-    device.join();
     EXPECT_EQ(link.givenUp, MsgTypes{});
     link.onSend = [&](auto, auto) { link.processNewData(OK); };
     for (const Sent sent : {Sent::PART, Sent::NOTHING}) {
@@ -117,7 +116,7 @@ TEST(SerialInterfaceAdapterThreads, ASinkOfTheLogMayAskTheLink) {
     Link link;
     std::string seen;
     Log::setSink([&](const std::string &line) {
-        std::thread([&] { seen += line + "|" + link.getRecvBuffer() + "|"; }).join();
+        meanwhile([&] { seen += line + "|" + link.getRecvBuffer() + "|"; }).get();
         link.setIoLogger(link.getIoLogger());
     });
     link.processNewData("{}");
@@ -141,19 +140,12 @@ TEST(SerialInterfaceAdapterThreads, EachCallMayGoBeforeOrFollowTheReadingThread)
 /// It would be lost if the wait did not hold a lock from its look at the result on.
 TEST(SerialInterfaceAdapterThreads, AReplyMayComeBetweenTheLookForItAndTheWait) {
     Link link;
-    std::atomic<bool> isDelivered{false};
-    std::thread device;
+    std::future<void> device;
     const SteppedWait step([&] {
-        device = std::thread([&] {
-            link.processNewData(STATE);
-            isDelivered = true;
-        });
-        for (int i = 0; i < 50 && !isDelivered; ++i)
-            std::this_thread::sleep_for(1ms);
-        EXPECT_FALSE(isDelivered) << "and nobody waited yet";
+        device = meanwhile([&] { link.processNewData(STATE); });
+        EXPECT_EQ(device.wait_for(50ms), std::future_status::timeout) << "nobody waits yet";
     });
     EXPECT_NE(link.transaction(request(), 60s, {MsgTypeEnum::STATE}), nullptr);
-    device.join();
 }
 
 TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
@@ -161,7 +153,7 @@ TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
     std::atomic<bool> done{false};
     std::atomic<int> requests{0};
     link.onSend = [&](auto, auto) { ++requests; };
-    std::thread reader([&] {
+    const auto reader = meanwhile([&] {
         for (int answered = 0; !done;) {
             link.processNewData(FAIL + "\n{\"type\":");
             link.processNewData(answered < requests ? ++answered, "\"STATE\"}\n" : "\"OK\"}\n");
@@ -177,17 +169,17 @@ TEST(SerialInterfaceAdapterThreads, TransactionsMeetAStream) {
     }));
     link.fireError(&BROKEN);
     done = true;
-    reader.join();
+    reader.wait();
     link.fireError(&BROKEN); // between two halves of a message it leaves one
     link.processNewData("{");
     done = false;
-    std::thread waiting([&] {
+    const auto waiting = meanwhile([&] {
         link.waitEmptyBuffer();
         EXPECT_TRUE(done);
     });
     std::this_thread::sleep_for(20ms); // or there is less to see
     done = true;
     link.processNewData("}");
-    waiting.join();
+    waiting.wait();
     EXPECT_EQ(seen, "{}") << "the log gets bytes that the link has";
 }

@@ -29,14 +29,13 @@ protected:
     /// Acts while another thread waits with its request, and before that thread can go on.
     void whileWaiting(const buffer_t &request, Sent sent, const std::function<void()> &act) {
         std::promise<void> isWaiting, hasActed;
-        std::thread waiting([&] {
+        const auto waiting = meanwhile([&] {
             const SteppedWait step([&] { isWaiting.set_value(); }, [&] { hasActed.get_future().wait(); });
             EXPECT_EQ(tty.sendWithin(request, 24h), sent);
         });
         isWaiting.get_future().wait();
         act();
         hasActed.set_value();
-        waiting.join();
     }
     /// Makes the device take the pieces under way when the program asks for them.
     void releaseAtTheEnd() {
@@ -72,9 +71,9 @@ TEST_F(LineThreads, WhatHasBegunIsNeverCutAndNothingOvertakesIt) {
     EXPECT_EQ(tty.sendWithin(config, 20ms), Sent::PART);
     EXPECT_EQ(tty.sendWithin(ask, 5ms), Sent::NOTHING);
     EXPECT_EQ(tty.sendWithin(jammers, 0ms), Sent::NOTHING);
-    std::thread waiting([&] { EXPECT_EQ(tty.sendWithin(ask, 60s), Sent::WHOLE); });
+    const auto waiting = meanwhile([&] { EXPECT_EQ(tty.sendWithin(ask, 60s), Sent::WHOLE); });
     line.release();
-    waiting.join();
+    waiting.wait();
     EXPECT_TRUE(device.waitForRequests(2));
     pauseIn(config);
     line.release(); // without another request
@@ -184,13 +183,12 @@ TEST_F(LineThreads, NothingBeginsAtTheEnd) {
         if (++looks == 1)
             isEnding.set_value();
     });
-    std::thread late([&] {
+    const auto late = meanwhile([&] {
         isEnding.get_future().wait();
         EXPECT_EQ(tty.sendWithin(ask, std::chrono::milliseconds::max()), Sent::CLOSED);
         EXPECT_EQ(tty.sendWithin(ask, 24h), Sent::CLOSED);
     });
     tty.serialClose();
-    late.join();
 }
 
 TEST_F(LineThreads, AHungDeviceHoldsNobodyUpAndKeepsNothingForTheNext) {
@@ -269,9 +267,9 @@ TEST_F(ConnectorLineThreads, ARequestThatWasGivenUpIsReportedOnce) {
                                 "is sent once it takes more",
                             device.terminal() + ": the device took nothing of CONFIG within 5 ms: it was not "
                                                 "sent; if that stays so, plug the device in again"));
-    std::thread closing([this] { connector.disconnect(); });
+    const auto closing = meanwhile([this] { connector.disconnect(); });
     EXPECT_EQ(connector.transaction(setting, 24h, {}), nullptr);
-    closing.join();
+    closing.wait();
     EXPECT_EQ(reports.size(), 2U) << "the end of the line is not reported";
 }
 

@@ -74,12 +74,11 @@ TEST_F(LinuxConnectorThreads, TakesOnlyADeviceThatAnswersInTimeAndOfItsState) {
     };
     // On a busy machine the message may come too late.
     for (int attempt = 0; attempt < 20 && !isTold(); ++attempt) {
-        std::thread talking([&] {
+        const auto talking = meanwhile([&] {
             device.waitForOpen(true);
             device.sendText("{\"type\":\"OK\"}\n");
         });
         EXPECT_TRUE(isPassedOver()) << "talks of something else";
-        talking.join();
     }
     EXPECT_TRUE(isTold()) << reports.back();
     device.setManner(PtyDevice::Manner::OBLIGING);
@@ -103,13 +102,13 @@ TEST_F(LinuxConnectorThreads, PutsOneRequestAtATimeOnTheLine) {
     PtyDevice device(directory);
     device.setAnswerDelay(2ms);
     ASSERT_TRUE(connects());
-    std::thread other([&] {
+    const auto other = meanwhile([&] {
         for (int i = 0; i < 25; ++i)
             EXPECT_TRUE(getsReplyOn<AiPriorMsg>(std::make_shared<GetAiPriorMsg>()));
     });
     for (int i = 0; i < 25; ++i)
         EXPECT_TRUE(getsReplyOn<ConfigK7Msg>(std::make_shared<GetConfigK7Msg>()));
-    other.join();
+    other.wait();
     EXPECT_FALSE(connector.isBusy());
 }
 

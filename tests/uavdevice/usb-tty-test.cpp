@@ -150,12 +150,12 @@ TEST_F(UsbTtyThreads, OpensOnlyWhenAnotherThreadHasClosed) {
     ASSERT_TRUE(tty.openPort());
     device.send(std::make_shared<OkMsg>());
     isListening.get_future().wait();
-    std::thread closing([this] { tty.serialClose(); });
+    const auto closing = meanwhile([this] { tty.serialClose(); });
     await([this] { return tty.isClosed(); });
     auto opening = std::async(std::launch::async, [this] { return tty.openPort(); });
     EXPECT_EQ(opening.wait_for(50ms), std::future_status::timeout);
     mayReturn.set_value();
-    closing.join();
+    closing.wait();
     EXPECT_TRUE(opening.get() && !tty.isClosed());
     EXPECT_TRUE(device.waitForOpen(true));
 }
@@ -174,8 +174,8 @@ TEST_F(UsbTtyThreads, OpensAndClosesWhileOthersSend) {
             tty.serialClose();
         }
     };
-    std::thread other(openAndClose);
+    const auto other = meanwhile(openAndClose);
     openAndClose();
-    other.join();
+    other.wait();
     EXPECT_TRUE(device.waitForOpen(false));
 }

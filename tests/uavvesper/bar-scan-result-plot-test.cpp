@@ -37,4 +37,7 @@ TEST(BarScanResultPlot, HasAllInItsPlaceInEverySize) {
         plot.resize(size, textSize, lineWidth);
         EXPECT_EQ(plot.shapes(), table(shapes));
     }
+    plot.setHistory(historyOf({}, 0, MasterFreqModeEnum::R_1200));
+    EXPECT_THAT(plot.shapes(), HasSubstr(table("172,0 3x148; 201,0 3x148")))
+        << "a line of the band before stays";
 }

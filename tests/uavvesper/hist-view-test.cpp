@@ -36,8 +36,9 @@ TEST(HistView, OlderScansFadeAndTheNewestIsOpaque) {
     for (int age = 0; age < 10; ++age)
         EXPECT_EQ(fadedColor(FPV, age, 10), QColor(255, 0, 0, alphas[age])) << age;
     EXPECT_FALSE(fadedColor(FPV, 10, 10) || fadedColor(FPV, -1, 10) || fadedColor(SigTypeEnum(6), 0, 10));
-    const auto rows = historyOf({13, {{2400, -90, FPV}}}).getHistoryLevels();
-    EXPECT_EQ(persistenceBlocks(rows, 10, 1, 100, 5).front().color.alpha(), 25);
+    const auto rows = historyOf({13, {{2400, -90, FPV}, {2410, -90, SigTypeEnum(6)}}}).getHistoryLevels();
+    EXPECT_EQ(persistenceBlocks(rows, 10, 2, 100, 5).front().color.alpha(), 25);
+    EXPECT_EQ(persistenceBlocks(rows, 10, 2, 100, 5).back().color, Qt::red) << "that of the block before";
 }
 
 TEST(HistView, TakesAColourOfWordsWithTheNextSize) {
