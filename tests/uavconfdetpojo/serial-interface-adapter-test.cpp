@@ -112,6 +112,11 @@ TEST(SerialInterfaceAdapter, ErrorsOfListenersAndOfTheLink) {
     EXPECT_EQ(link.received, (MsgTypes{MsgTypeEnum::OK, MsgTypeEnum::STATE}));
 }
 
+TEST(Log, WritesEachLineAtOnce) {
+    const auto logAndDie = [] { Log::write("tag", "text"), std::_Exit(0); };
+    EXPECT_EQ(printedBy([&] { EXPECT_EXIT(logAndDie(), ExitedWithCode(0), ""); }), "[tag] text\n");
+}
+
 TEST(SerialInterfaceAdapterThreads, ASinkOfTheLogMayAskTheLink) {
     Link link;
     std::string seen;
