@@ -30,15 +30,13 @@ public:
 
     /// All texts in the first item of an element, in order, each followed by '|'.
     std::string words(const QString &element) const;
-    static constexpr const char *LOOK_LEGEND =
-        "How to read a look: the parts of an item in the order of drawing, joined by ', '.\n"
-        "  rectangle        COLOUR[/BORDER-COLOUR:BORDER-WIDTH] [rRADIUS] [PLACE]\n"
-        "  picture          NAME PLACE\n"
-        "  text             'TEXT' COLOUR POINTS [bold]\n"
-        "  painted switch   'TEXT' POINTS/LINE-WIDTH COLOUR POSITION [dead]\n"
-        "PLACE is WIDTHxHEIGHT+X+Y in the item; WIDTHxHEIGHT+X= is in the middle of its height. A rectangle\n"
-        "without a place is as large as the item. *NUMBER at the end is an opacity below 1.";
-    /// What is drawn in an item, in the language of LOOK_LEGEND.
+    /// What is drawn in an item: its parts in the order of drawing, joined by ', '.
+    ///   rectangle        COLOUR[/BORDER-COLOUR:BORDER-WIDTH] [rRADIUS] [PLACE]
+    ///   picture          NAME PLACE
+    ///   text             'TEXT' COLOUR POINTS [bold]
+    ///   painted switch   'TEXT' POINTS/LINE-WIDTH COLOUR POSITION [dead]
+    /// PLACE is WIDTHxHEIGHT+X+Y in the item; WIDTHxHEIGHT+X= is in the middle of its height. A rectangle
+    /// without a place is as large as the item. *NUMBER at the end is an opacity below 1.
     std::string look(const QQuickItem &item) const;
     /// Place and look of each visible item of an element in the first item of `in`, after a redraw. There is
     /// a line break before each.

@@ -1,10 +1,6 @@
-#include "plots.h"
-#include "screen-driver.h"
 #include "screen-engine.h"
 
 #include <QGuiApplication>
-#include <QRegularExpression>
-#include <cstdio>
 #include <gtest/gtest.h>
 
 #ifdef __SANITIZE_ADDRESS__
@@ -26,18 +22,6 @@ extern "C" const char *__tsan_default_suppressions() {
 }
 #endif
 
-/// Explains the language of a failing row below it.
-class Legends : public testing::EmptyTestEventListener {
-    void OnTestPartResult(const testing::TestPartResult &part) override {
-        const QString text = part.message();
-        if (part.failed() &&
-            text.contains(QRegularExpression("#[0-9a-f]{6,8}(/#| r[0-9]| [0-9.]+x[0-9])|' #")))
-            std::puts(ScreenDriver::LOOK_LEGEND);
-        if (part.failed() && text.contains(QRegularExpression("#[0-9a-f]{6,8}:\\s")))
-            std::puts(SHAPES_LEGEND);
-    }
-};
-
 /// The screens are drawn without a display and without a graphics card, as on a server.
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -45,7 +29,6 @@ int main(int argc, char **argv) {
     const QGuiApplication app(argc, argv);
     registerTypes();
     testing::InitGoogleTest(&argc, argv);
-    testing::UnitTest::GetInstance()->listeners().Append(new Legends);
     const int result = RUN_ALL_TESTS();
 #ifdef __SANITIZE_ADDRESS__
     // Checks while Qt still refers to memory that it does not free at its end: the offscreen screen and

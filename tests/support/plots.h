@@ -19,14 +19,11 @@ inline History historyOf(const std::vector<std::vector<Found>> &scans, int apart
     return history;
 }
 
-constexpr const char *SHAPES_LEGEND =
-    "How to read shapes: one a line, in the order of painting, in pixels. A line that ends in ':' is the "
-    "look\n"
-    "of the shapes below it: [WIDTHpx dash LENGTH] or [POINTSpt room WIDTH], and the colour.\n"
-    "  rectangle   X,Y WIDTHxHEIGHT\n"
-    "  line        X1,Y1 to X2,Y2\n"
-    "  words       'TEXT' X,Y, from the left end of their base line";
-/// The shapes of drawings as a text, in the language of SHAPES_LEGEND.
+/// The shapes of drawings as a text, one a line, in the order of painting, in pixels. A line that ends in ':'
+/// is the look of the shapes below it: [WIDTHpx dash LENGTH] or [POINTSpt room WIDTH], and the colour.
+///   rectangle   X,Y WIDTHxHEIGHT
+///   line        X1,Y1 to X2,Y2
+///   words       'TEXT' X,Y, from the left end of their base line
 inline std::string told(const std::vector<Drawing> &drawings) {
     QString all, former;
     const auto text = [](QString format, const auto &...values) {
