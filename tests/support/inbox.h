@@ -7,9 +7,6 @@
 
 /// A listener that keeps its messages, for tests that wait for messages from another thread.
 class Inbox {
-    using Clock = std::chrono::steady_clock;
-    static Clock::time_point inAMinute() { return Clock::now() + std::chrono::minutes(1); }
-
 public:
     const std::shared_ptr<MsgListener> listener =
         std::make_shared<MsgListener>([this](const std::shared_ptr<Msg> &msg) {
@@ -18,23 +15,17 @@ public:
             arrived.notify_all();
         });
 
-    /// Takes the next message. Null if none comes until then.
-    std::shared_ptr<Msg> next(Clock::time_point end = inAMinute()) {
-        std::unique_lock lock(mutex);
-        if (!arrived.wait_until(lock, end, [&] { return !messages.empty(); }))
-            return nullptr;
-        const std::shared_ptr<Msg> msg = std::move(messages.front());
-        messages.pop_front();
-        return msg;
-    }
     /// Takes the next message of this class and drops those before it. Null if none comes within a minute.
     template <typename Message>
     std::shared_ptr<Message> next() {
-        const auto end = inAMinute();
-        while (const std::shared_ptr<Msg> msg = next(end))
-            if (auto found = messageCast<Message>(msg); found || Clock::now() > end)
-                return found;
-        return nullptr;
+        std::unique_lock lock(mutex);
+        std::shared_ptr<Message> found;
+        arrived.wait_for(lock, 1min, [&] {
+            for (; !found && !messages.empty(); messages.pop_front())
+                found = messageCast<Message>(messages.front());
+            return found != nullptr;
+        });
+        return found;
     }
 
     /// Takes all messages that have come.

@@ -85,11 +85,6 @@ TEST(Message, WritesWhatIsNoWholeMessage) {
     EXPECT_EQ(FreqScanResult().parseMsg(), wire("{||}"));
 }
 
-TEST(Message, DoesNotEscapeStrings) {
-    EXPECT_EQ(SetFactoryMsgBuilder().serial("a\"b\\\n").build().parseMsg(),
-              "{\n\"serial\" : \"a\"b\\\n\",\n\"type\" : \"SET_FACTORY\"\n}");
-}
-
 TEST(Message, NullPointersLeaveTheirPlaceEmpty) {
     EXPECT_EQ(ScanResultMsgBuilder().freqs({nullptr, FreqScanResultBuilder().share()}).build().parseMsg(),
               wire(R"({|"freqs" : [|,|{||}|],|"type" : "SCAN_RESULT"|})"));

@@ -151,14 +151,6 @@ TEST_F(LineThreads, RoomIsWhatAWriteTakes) {
         EXPECT_EQ(tty.sendWithin(ask, 5ms), sent);
 }
 
-TEST_F(LineThreads, TheEndWaitsForWhatADeviceTakesLate) {
-    pauseIn(config);
-    releaseAtTheEnd();
-    tty.serialClose();
-    EXPECT_TRUE(device.waitForRequests(1));
-    EXPECT_EQ(device.received(), onTheWire({config}));
-}
-
 /// This device takes nothing until its own bytes are read.
 TEST_F(LineThreads, TheEndGoesOnReading) {
     const auto isHeard = std::make_shared<std::atomic<bool>>(false);

@@ -89,6 +89,8 @@ TEST_F(TestServiceThreads, ScansAsItsSettingsSay) {
     ASSERT_EQ(results.size(), 45500U);
     const auto isWifi = [](const auto &result) { return result->getType() == SigTypeEnum::WIFI; };
     EXPECT_NEAR(std::count_if(results.begin(), results.end(), isWifi) / 45500.0, 20 / 101.0, 0.02);
+    inbox.next<ScanResultMsg>();
+    EXPECT_EQ(takePauses().back(), 5000);
 }
 
 TEST_F(TestServiceThreads, TurnsTheMaskAndScansOn) {
