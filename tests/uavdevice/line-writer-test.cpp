@@ -249,6 +249,12 @@ protected:
 TEST_F(ConnectorLineThreads, ARequestThatWasGivenUpIsReportedOnce) {
     EXPECT_EQ(connector.busyTransaction(setting, 24h), nullptr) << "not connected";
     EXPECT_THAT(reports, IsEmpty());
+    tty.openPort();
+    pauseIn(config);
+    releaseAtTheEnd();
+    connector.connectInterface();
+    EXPECT_THAT(reports, ElementsAre(HasSubstr("nothing of GET_STATE within 100 ms")));
+    tty.serialClose();
     connect();
     line.hold();
     EXPECT_EQ(connector.busyTransaction(setting, 20ms), nullptr);

@@ -26,9 +26,9 @@ protected:
         return service.acceptMsg(Msg::parseJson(R"({"type":")" + type + R"("})"));
     }
     std::shared_ptr<Msg> scan(bool on) { return service.acceptMsg(ScanMsgBuilder().scan(on).share()); }
-    /// Stops the scan, then returns the pauses since the last call.
+    /// Stops the scan, then returns the pauses since the last call. A second stop changes nothing.
     std::vector<long> takePauses() {
-        scan(false);
+        scan(false), scan(false);
         return std::exchange(pauses, {});
     }
 };
