@@ -80,6 +80,7 @@ TEST_F(TestServiceThreads, ScansAsItsSettingsSay) {
     }
     // Settings change while it scans.
     scan(true);
+    inbox.next<ScanResultMsg>();
     service.acceptMsg(
         ConfigMsgBuilder().wifiDet(true).ranges(std::vector(500, FreqModeEnum::EXT_1200)).share());
     service.acceptMsg(AiPriorMsgBuilder().aiPrior(AiPriorEnum::FIELD).share());

@@ -83,8 +83,8 @@ TEST(Program, EndsAtOnceWhenAskedAgainASecondLater) {
         ::raise(SIGTERM);
         std::_Exit(QCoreApplication::exec());
     };
-    EXPECT_EXIT(asked(std::chrono::milliseconds(0)), ExitedWithCode(0), "");
-    EXPECT_EXIT(asked(std::chrono::milliseconds(1001)), KilledBySignal(SIGTERM), "");
+    EXPECT_EXIT(asked(50ms), ExitedWithCode(0), "");
+    EXPECT_EXIT(asked(1001ms), KilledBySignal(SIGTERM), "");
 }
 
 /// The program itself on a small display that nobody sees. Another run of this test takes a picture of it.
