@@ -231,42 +231,42 @@ class ConnectorLineThreads : public LineThreads {
 protected:
     void SetUp() override {}
     void connect() {
-        for (int attempt = 0; attempt < 20 && connector.isClosed(); ++attempt)
-            connector.connectInterface();
+        for (int attempt = 0; attempt < 20 && connector->isClosed(); ++attempt)
+            connector->connectInterface();
         reports.clear();
         device.clearRecord();
     }
     std::shared_ptr<Msg> scan(bool on) {
-        return connector.busyTransaction(ScanMsgBuilder().scan(on).share(), 50ms);
+        return connector->busyTransaction(ScanMsgBuilder().scan(on).share(), 50ms);
     }
 
     std::vector<std::string> reports;
-    LinuxConnector connector{directory.path(), [](const char *) {},
-                             [this](const char *report) { reports.push_back(report); }};
+    std::optional<LinuxConnector> connector{std::in_place, directory.path(), [](const char *) {},
+                                            [this](const char *report) { reports.push_back(report); }};
     const std::shared_ptr<Msg> setting = Defaults::getDefaultConfigMsg(ProtoEnum::K7);
 };
 
 TEST_F(ConnectorLineThreads, ARequestThatWasGivenUpIsReportedOnce) {
-    EXPECT_EQ(connector.busyTransaction(setting, 24h), nullptr) << "not connected";
+    EXPECT_EQ(connector->busyTransaction(setting, 24h), nullptr) << "not connected";
     EXPECT_THAT(reports, IsEmpty());
     tty.openPort();
     pauseIn(config);
     releaseAtTheEnd();
-    connector.connectInterface();
+    connector->connectInterface();
     EXPECT_THAT(reports, ElementsAre(HasSubstr("nothing of GET_STATE within 100 ms")));
     tty.serialClose();
     connect();
     line.hold();
-    EXPECT_EQ(connector.busyTransaction(setting, 20ms), nullptr);
-    EXPECT_EQ(connector.busyTransaction(setting, 5ms), nullptr);
+    EXPECT_EQ(connector->busyTransaction(setting, 20ms), nullptr);
+    EXPECT_EQ(connector->busyTransaction(setting, 5ms), nullptr);
     EXPECT_THAT(reports,
                 ElementsAre(device.terminal() +
                                 ": the device took only a part of CONFIG within 20 ms: the rest "
                                 "is sent once it takes more",
                             device.terminal() + ": the device took nothing of CONFIG within 5 ms: it was not "
                                                 "sent; if that stays so, plug the device in again"));
-    const auto closing = meanwhile([this] { connector.disconnect(); });
-    EXPECT_EQ(connector.transaction(setting, 24h, {}), nullptr);
+    const auto closing = meanwhile([this] { connector->disconnect(); });
+    EXPECT_EQ(connector->transaction(setting, 24h, {}), nullptr);
     closing.wait();
     EXPECT_EQ(reports.size(), 2U) << "the end of the line is not reported";
 }
@@ -279,10 +279,10 @@ TEST_F(ConnectorLineThreads, NoDeviceScansOnAfterTheEnd) {
         scan(scans);
         EXPECT_TRUE(device.waitForRequests(1) && device.isScanning() == scans);
         line.hold();
-        EXPECT_EQ(connector.busyTransaction(setting, 5ms), nullptr);
+        EXPECT_EQ(connector->busyTransaction(setting, 5ms), nullptr);
         EXPECT_EQ(scan(!scans), nullptr);
         releaseAtTheEnd();
-        connector.disconnect();
+        scans ? connector->disconnect() : connector.reset();
         EXPECT_TRUE(device.waitForRequests(2 + scans));
         EXPECT_EQ(device.requestTypes().size(), 2U + scans) << "only a stop is sent late";
         EXPECT_FALSE(device.isScanning());

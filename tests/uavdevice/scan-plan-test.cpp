@@ -13,12 +13,13 @@ TEST(ScanPlan, FollowsTheSettings) {
         AiPriorEnum prior;
         int period, rssiMax, wifi, dig, fpv;
     };
-    for (const Case &c : {Case{DetModeEnum::ECO, 0, true, true, AiPriorEnum::AUTO, 5000, -75, 10, 5, 10},
-                          Case{DetModeEnum::BASE, 3, true, true, AiPriorEnum::DEFAULT, 1000, -84, 5, 5, 5},
-                          Case{DetModeEnum::AUTO, 10, true, false, AiPriorEnum::FIELD, 2000, -105, 20, 0, 15},
-                          Case{DetModeEnum::CONT, 11, false, true, AiPriorEnum::FIELD, 500, -105, 0, 10, 15},
-                          Case{DetModeEnum::CONT, 1, true, true, AiPriorEnum::CITY, 500, -78, 5, 10, 10},
-                          Case{DetModeEnum::CONT, -1, true, true, AiPriorEnum::NONE, 500, -72, 10, 5, 5}}) {
+    for (const Case &c :
+         {Case{DetModeEnum::ECO, 0, true, true, AiPriorEnum::AUTO, 5000, -75, 10, 5, 10},
+          Case{DetModeEnum::BASE, 3, true, true, AiPriorEnum::DEFAULT, 1000, -84, 5, 5, 5},
+          Case{DetModeEnum::AUTO, 10, true, false, AiPriorEnum::FIELD, 2000, -105, 20, 0, 15},
+          Case{DetModeEnum::CONT, 1 << 30, false, true, AiPriorEnum::FIELD, 500, -105, 0, 10, 15},
+          Case{DetModeEnum::CONT, 1, true, true, AiPriorEnum::CITY, 500, -78, 5, 10, 10},
+          Case{DetModeEnum::CONT, -1, true, true, AiPriorEnum::NONE, 500, -72, 10, 5, 5}}) {
         auto config = ConfigMsgBuilder().mode(c.mode).atten(c.atten).wifiDet(c.wifiDet).uavDet(c.uavDet);
         ScanPlan plan;
         const auto values = [&] {

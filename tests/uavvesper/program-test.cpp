@@ -18,13 +18,14 @@ TEST(Program, ShowsItsWindowInTheLanguageOfTheDirectoryAndEndsWhenToldTo) {
         int signal;
         int ignored;
         int dpi;
+        double scale;
         bool russian;
-    } const starts[] = {{"env", SIGINT, 0, 120, false},
-                        {"env", SIGHUP, 0, 192, false},
-                        {"setsid", SIGTERM, 0, 96, false},
-                        {"nohup", SIGTERM, SIGHUP, 0, true}};
+    } const starts[] = {{"env", SIGINT, 0, 120, 1.25, false},
+                        {"env", SIGHUP, 0, 192, 2, false},
+                        {"setsid", SIGTERM, 0, 100, 1, false},
+                        {"nohup", SIGTERM, SIGHUP, 0, 1, true}};
     QImage pictures[2];
-    for (const auto &[command, signal, ignored, dpi, russian] : starts) {
+    for (const auto &[command, signal, ignored, dpi, scale, russian] : starts) {
         SCOPED_TRACE(command);
         const QTemporaryDir directory;
         const Keyboard keyboard;
@@ -65,7 +66,7 @@ TEST(Program, ShowsItsWindowInTheLanguageOfTheDirectoryAndEndsWhenToldTo) {
         EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(program.exitCode(), 0);
         pictures[russian] = QImage(directory.filePath("output0000.png"));
-        EXPECT_EQ(pictures[russian].size(), QSize(800, 1000) * (dpi > 0 ? dpi / 96.0 : 1)) << dpi;
+        EXPECT_EQ(pictures[russian].size(), QSize(800, 1000) * scale) << dpi;
         EXPECT_TRUE(QFile::exists(directory.filePath("com.kelvane/UavVesper")));
     }
     EXPECT_FALSE(pictures[0] == pictures[1]);
@@ -111,6 +112,7 @@ TEST(Program, FitsItsWindowIntoTheScreensFreeArea) {
         EXPECT_TRUE(program.waitForFinished());
         introduceProgram();
         EXPECT_FALSE(QGuiApplication::windowIcon().pixmap(48).isNull());
+        EXPECT_EQ(QGuiApplication::desktopFileName(), "com.kelvane.UavVesper") << "as its entry is named";
         return;
     }
     struct {

@@ -24,6 +24,7 @@ public:
     void removeListener(std::shared_ptr<MsgListener>) override { note("unlisten"); }
     std::shared_ptr<Msg> simpleTransaction(std::shared_ptr<Msg> msg,
                                            std::chrono::milliseconds timeout) override {
+        EXPECT_TRUE(isBusy());
         note(MsgType(msg->getType()).name() + " " + std::to_string(timeout.count()));
         return replies[msg->getType()];
     }
@@ -158,16 +159,23 @@ TEST_F(UsbServiceThreads, EachTypeOfMessageHasItsSignals) {
 }
 
 TEST(UsbServiceConnectionThreads, TellsWhatHelpsAmongTheErrorsAlone) {
-    const SerialDirectory directory;
-    std::filesystem::create_symlink("/dev/null", directory.path() / "usb-null");
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    UsbService service(nullptr, directory.path());
-    service.startUsb();
-    service.shutDown();
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-              "Error 25 from tcgetattr: Inappropriate ioctl for device\n");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "/dev/null: no serial line\n");
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    });
+    const auto told = [](const char *port) {
+        const SerialDirectory directory;
+        std::filesystem::create_symlink(port, directory.path() / "usb");
+        testing::internal::CaptureStderr();
+        const std::string log = printedBy([&] {
+            UsbService service(nullptr, directory.path());
+            service.startUsb();
+        });
+        return log + "|" + testing::internal::GetCapturedStderr();
+    };
+    EXPECT_EQ(told("/dev/null"),
+              "Error 25 from tcgetattr: Inappropriate ioctl for device\n|/dev/null: no serial line\n");
+    EXPECT_THAT(told("nowhere"), MatchesRegex(".filesystem error: .+nowhere.+\n"));
+    qInstallMessageHandler(nullptr);
 }
 
 /// On a busy machine an attempt may miss the 100 ms that it has for an answer.
