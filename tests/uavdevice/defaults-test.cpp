@@ -1,6 +1,5 @@
 #include "common/defaults.h"
 
-#include "common/sens-level.h"
 #include "messages.h"
 
 TEST(Defaults, AreTheFactorySettingsOfEachGeneration) {
@@ -31,22 +30,5 @@ TEST(Defaults, AreTheFactorySettingsOfEachGeneration) {
         for (const auto &message : Defaults::getDefaults(proto))
             texts += MsgToJsonParser::toJson(message);
         EXPECT_EQ(texts, wire(expected));
-    }
-}
-
-TEST(SensLevel, TiesEachStepToItsAttenuation) {
-    using Level = SensLevelEnum;
-    struct Case {
-        int atten;
-        Level level, next;
-        const char *name;
-    };
-    for (const Case &c :
-         {Case{5, Level::UNKNOWN, Level::LOW, "???"}, Case{6, Level::LOW, Level::MIDDLE, "LOW"},
-          Case{3, Level::MIDDLE, Level::HIGH, "MID"}, Case{0, Level::HIGH, Level::LOW, "HIGH"}}) {
-        EXPECT_EQ(SensLevel::byAtten(c.atten), c.level);
-        EXPECT_EQ(SensLevel(c.level).getAtten(), c.level == Level::UNKNOWN ? 0 : c.atten);
-        EXPECT_EQ(SensLevel(c.level).next(), c.next);
-        EXPECT_EQ(SensLevel(c.level).getEnumName(), c.name);
     }
 }
