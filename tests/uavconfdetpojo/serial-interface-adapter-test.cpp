@@ -152,7 +152,7 @@ TEST(SerialInterfaceAdapterThreads, AReplyMayComeBetweenTheLookForItAndTheWait) 
         device = meanwhile([&] { link.processNewData(STATE); });
         EXPECT_EQ(device.wait_for(50ms), std::future_status::timeout) << "nobody waits yet";
     });
-    EXPECT_NE(link.transaction(request(), 60s, {MsgTypeEnum::STATE}), nullptr);
+    EXPECT_NE(link.transaction(request(), 24h, {MsgTypeEnum::STATE}), nullptr);
 }
 
 TEST(SerialInterfaceAdapterThreads, AWaitForTheEndOfAMessageEndsWithIt) {
