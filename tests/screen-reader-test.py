@@ -135,10 +135,13 @@ class Reader:
     def control(self, name):
         return wait_for(lambda: next((n for n in self.nodes() if n.get_name() == self.say(name)), None), name)
 
-    def press(self, name):
+    def act(self, name, action):
         control = self.control(name)
         actions = [control.get_action_name(i) for i in range(control.get_n_actions())]
-        assert control.do_action(actions.index("Press")), name
+        assert control.do_action(actions.index(action)), name
+
+    def press(self, name):
+        self.act(name, "Press")
 
     def press_and_hear(self, name, wanted):
         """Presses again if the device has answered too late to be connected, as it may on a busy machine."""
@@ -156,14 +159,22 @@ class Reader:
         self.expect_screen(BANDS + MENU)
         place = self.control("{Bars} 2.4").get_extents(Atspi.CoordType.WINDOW)
         assert (place.x, place.width) == (0, 800), "one view is in the window, not all three"
+        self.act("{Bars} 2.4", "Next Page")
+        self.control("{Course} 2.4")
         self.press("{Settings}")
         menu = MENU.replace("{Settings} [{closed}]", "{Settings} [{open}] checked")
         self.expect_screen(DRAWER + menu)
         self.press("{Scan mode}")
         self.expect_screen(DRAWER + menu + DIALOG)
         self.press("{Automatic}")
-        self.control("{Brightness}").set_current_value(44)
-        drawer = DRAWER.replace("{Brightness} 50", "{Brightness} 44")
+        self.act("{Voice alarm}", "Toggle")
+        self.act("{Sound volume}", "Decrease")
+        self.act("{Headphones volume}", "Increase")
+        self.control("{Display timeout}").set_current_value(44)
+        drawer = DRAWER.replace("{Speak detection results}] checked", "{Speak detection results}]")
+        for before, now in (("Sound volume} 100", "Sound volume} 99"), ("volume} 25", "volume} 26"),
+                            ("timeout} 30", "timeout} 45")):
+            drawer = drawer.replace(before, now)
         self.expect_screen(drawer + menu)
         # A new connection brings what the device has, not what the screens have shown.
         self.press_and_hear("{Disconnect}", "{Not connected}")
