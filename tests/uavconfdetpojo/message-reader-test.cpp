@@ -129,8 +129,3 @@ TEST(JsonBraceCounter, PositionsFollowWhatWasTakenAway) {
     counter.reset();
     EXPECT_EQ(counter.write("{}"), (Frames{{0, 1}}));
 }
-
-TEST(MessageReader, SplitsForTheLogByPositions) {
-    EXPECT_THAT(MessageReader::split("a\nbc\nd\ne", "\n"), ElementsAre("a", "bc\nd"));
-    EXPECT_THAT(MessageReader::split("abc", "\n"), ElementsAre("abc"));
-}
