@@ -82,18 +82,6 @@ TEST_F(LinuxConnectorThreads, TakesOnlyADeviceThatAnswersInTimeAndOfItsState) {
     EXPECT_TRUE(connects()) << "an answer after half of the time-out is in time";
 }
 
-/// A silent port takes the time of its probe, not the second that a read may wait.
-TEST_F(LinuxConnectorThreads, LeavesSilentPortsAtOnce) {
-    std::list<PtyDevice> devices;
-    for (int i = 0; i < 8; ++i)
-        devices.emplace_back(directory, ProtoEnum::K7, "usb-" + std::to_string(i))
-            .setManner(PtyDevice::Manner::SILENT);
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_FALSE(connector.connectInterface());
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 6s);
-    EXPECT_EQ(reports.size(), 8U);
-}
-
 TEST_F(LinuxConnectorThreads, PutsOneRequestAtATimeOnTheLine) {
     PtyDevice device(directory);
     device.setAnswerDelay(2ms);
